@@ -1,0 +1,33 @@
+# sanirell_subsystem(<name> [USES <subsystem>...] [LINKS <library>...])
+#
+# One static library for the folder it is called in. Its headers are reached as "<name>/..." through a
+# folder of links of its own, so an include of a subsystem that is not named in USES does not compile.
+function(sanirell_subsystem name)
+    cmake_parse_arguments(ARG "" "" "USES;LINKS" ${ARGN})
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS *.cpp *.h)
+    add_library(${name} STATIC ${sources})
+    set(door ${CMAKE_BINARY_DIR}/include/${name})
+    file(MAKE_DIRECTORY ${door})
+    if(NOT EXISTS ${door}/${name})
+        file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${door}/${name} SYMBOLIC)
+    endif()
+    target_include_directories(${name} PUBLIC ${door})
+    target_link_libraries(${name} PUBLIC ${ARG_USES} ${ARG_LINKS} PRIVATE sanirell_warnings)
+    if(name STREQUAL "platform")
+        target_precompile_headers(${name} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/precompiled.h)
+    else()
+        target_precompile_headers(${name} REUSE_FROM platform)
+    endif()
+endfunction()
+
+# sanirell_tests(<name> LINKS <library>...): one test program of all sources below the calling folder.
+function(sanirell_tests name)
+    cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS *.cpp *.h)
+    add_executable(${name} ${sources})
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+    target_link_libraries(${name} PRIVATE ${ARG_LINKS} test_main GTest::gtest sanirell_warnings)
+    target_compile_definitions(${name} PRIVATE TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}")
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=/tmp")
+endfunction()

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "platform/dao/recordset.h"
+#include "platform/dao/schema.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+
+namespace dao {
+
+class DatabasePrivate;
+
+/// One open connection to a practice's database file. Statements are texts of the dialect (README of this
+/// folder); several processes may hold the same file open, writers wait for one another.
+class Database
+{
+public:
+    Database();
+    ~Database();
+    Database(const Database &) = delete;
+    Database &operator=(const Database &) = delete;
+
+    /// Opens an existing file. `connect` is a connect string with the password: ";PWD=..." in any case, or
+    /// "PWD=...;". Throws Error: FileNotFound, WrongPassword, NotADatabase, FileDamaged, Locked.
+    void open(const QString &path, bool exclusive, bool readOnly, const QString &connect);
+    /// Makes an empty database file; throws when the file exists.
+    void create(const QString &path, const QString &connect);
+    bool isOpen() const;
+    void close(); ///< open recordsets over it become closed
+    QString path() const;
+
+    /// A table's name gives a table-type recordset unless a kind is asked for; a SELECT or the name of a
+    /// saved query gives a dynaset.
+    Recordset openRecordset(const QString &source);
+    Recordset openRecordset(const QString &source, Recordset::Kind kind);
+
+    /// Runs one DDL or action statement; throws Error. Returns the rows affected.
+    qint64 execute(const QString &sql);
+
+    QStringList tableNames() const;             ///< in Spanish order, without the engine's own
+    TableDef tableDef(QStringView name);        ///< throws Error::ItemNotFound
+    void createQuery(const QString &name, const QString &select); ///< a saved query; replaces one of that name
+    QStringList queryNames() const;
+
+    /// Batches for long jobs: between the two, writes share commits; every `batchRows` writes one commit is
+    /// made, and what was committed stands if the job stops midway. Nesting is counted.
+    void beginTrans(int batchRows = 1000);
+    void commitTrans();
+
+    /// The open file's pages and rows are consistent: an empty list; otherwise what is wrong, in words.
+    QStringList check();
+
+    DatabasePrivate &d() { return *d_; }
+
+private:
+    std::unique_ptr<DatabasePrivate> d_;
+};
+
+/// Copies a closed database into a new file without its free space, under the password of
+/// `destinationLocale` (";LANGID=...;pwd=...") when it names one, else the source's. Throws Error.
+void compactDatabase(const QString &source, const QString &destination, const QString &destinationLocale,
+                     const QString &sourceConnect);
+
+/// Mends a closed database in place: rows of damaged pages are lost, all others are kept, and the damaged
+/// file is left beside it as "<name>.dañada". Throws Error when nothing can be read.
+void repairDatabase(const QString &path, const QString &connect);
+
+/// The prepared form of a statement for tests and tools: what the engine runs for a text of the dialect.
+struct Translation
+{
+    QString engineSql;
+    std::vector<basic::Value> parameters;
+    std::vector<FieldDef> columns;
+};
+Translation translate(Database &database, const QString &sql);
+
+} // namespace dao

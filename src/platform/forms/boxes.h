@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/// Message boxes, prompts and the common dialogues: real windows that a script answers as a person does.
+namespace forms {
+
+enum class Icon { None, Critical, Question, Exclamation, Information };
+
+void msgBox(const QString &text, Icon icon, const QString &title);
+bool askBox(const QString &text, const QString &title, Icon icon = Icon::Question); ///< "Sí" and "No"; true on "Sí"
+
+/// A prompt for one text with "Aceptar" and "Cancelar"; empty when cancelled.
+std::optional<QString> inputBox(const QString &prompt, const QString &title, const QString &initial = {});
+
+/// `filter` as "Imágenes (*.jpg *.png)". Empty when cancelled.
+QString openFileDialog(const QString &title, const QString &folder, const QString &filter);
+QString saveFileDialog(const QString &title, const QString &file, const QString &filter);
+QString folderDialog(const QString &title, const QString &folder);
+std::optional<QColor> colourDialog(const QString &title, const QColor &initial);
+
+/// The error that reached nobody: shown in a box, after which the program goes on.
+void showUnhandled(const QString &description);
+
+} // namespace forms

@@ -1,0 +1,183 @@
+#pragma once
+
+#include "platform/basic/value.h"
+#include "platform/forms/tag.h"
+
+#include <QCheckBox>
+#include <QCalendarWidget>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTimer>
+#include <QTreeWidget>
+
+/// The controls of the system's windows: thin classes over the toolkit's widgets. Each takes the name it has
+/// in the system (its objectName) and, where it shows one, its caption with "&" before the mnemonic. They
+/// are members of their form and get their parent from the layout.
+namespace forms {
+
+class Label : public QLabel
+{
+    Q_OBJECT
+public:
+    explicit Label(const QString &name, const QString &caption = {});
+    void setCaption(const QString &caption) { setText(caption); }
+    QString caption() const { return text(); }
+signals:
+    void clicked();
+    void hovered();
+
+protected:
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void enterEvent(QEnterEvent *event) override;
+};
+
+class TextBox : public QLineEdit
+{
+    Q_OBJECT
+public:
+    explicit TextBox(const QString &name, int maxLength = 0);
+
+protected:
+    void focusInEvent(QFocusEvent *event) override; // selects all when reached by keyboard
+};
+
+/// A text field of several lines, for memos.
+class MemoBox : public QPlainTextEdit
+{
+    Q_OBJECT
+public:
+    explicit MemoBox(const QString &name);
+};
+
+class ComboBox : public QComboBox
+{
+    Q_OBJECT
+public:
+    /// `editable` combos take any text; the others only their entries.
+    explicit ComboBox(const QString &name, const QStringList &entries = {}, bool editable = false);
+    /// Selects the entry with this text; in an editable combo writes it; otherwise nothing is selected.
+    void setValue(const QString &text);
+    QString value() const { return currentText(); }
+};
+
+class ListBox : public QListWidget
+{
+    Q_OBJECT
+public:
+    explicit ListBox(const QString &name);
+    void addLine(const QString &text) { addItem(text); }
+    QStringList lines() const;
+};
+
+class CheckBox : public QCheckBox
+{
+    Q_OBJECT
+public:
+    CheckBox(const QString &name, const QString &caption);
+};
+
+class OptionButton : public QRadioButton
+{
+    Q_OBJECT
+public:
+    OptionButton(const QString &name, const QString &caption);
+};
+
+class CommandButton : public QPushButton
+{
+    Q_OBJECT
+public:
+    /// `icon` names a picture of the program's own set (assets/icons) without extension; empty for none.
+    CommandButton(const QString &name, const QString &caption, const QString &icon = {});
+};
+
+/// A date field "dd/mm/yyyy" with a drop-down calendar; starts at today.
+class DTPicker : public QDateEdit
+{
+    Q_OBJECT
+public:
+    explicit DTPicker(const QString &name);
+    basic::Date value() const;
+    void setValue(basic::Date date);
+};
+
+class MonthView : public QCalendarWidget
+{
+    Q_OBJECT
+public:
+    explicit MonthView(const QString &name);
+    basic::Date value() const;
+    void setValue(basic::Date date);
+};
+
+class SSTab : public QTabWidget
+{
+    Q_OBJECT
+public:
+    explicit SSTab(const QString &name);
+};
+
+class Frame : public QGroupBox
+{
+    Q_OBJECT
+public:
+    Frame(const QString &name, const QString &caption);
+};
+
+class TreeView : public QTreeWidget
+{
+    Q_OBJECT
+public:
+    explicit TreeView(const QString &name);
+};
+
+class Timer : public QTimer
+{
+    Q_OBJECT
+public:
+    explicit Timer(const QString &name, int interval = 0);
+};
+
+/// A picture with a drawing layer above it, addressed in twips. The background is scaled to the control's
+/// size in twips; what is drawn stays until it is cleared.
+class PictureBox : public QWidget
+{
+    Q_OBJECT
+public:
+    PictureBox(const QString &name, QSizeF sizeTwips);
+
+    void loadPicture(const QString &file); ///< throws basic::Error 53 when the file is missing, 481 when it is no picture
+    void clear();                          ///< takes away what was drawn, not the background
+    void drawLine(QPointF from, QPointF to, QColor colour);
+    void drawCircle(QPointF centre, double radius, QColor colour);
+    /// Background and drawing as one picture, at the resolution of the background if that is finer than the screen.
+    QImage image() const;
+    QSizeF sizeTwips() const { return size_; }
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    struct Stroke
+    {
+        QPointF from, to; // twips; a circle has its centre in from and its radius in radius
+        double radius = 0;
+        QColor colour;
+    };
+    void paintStrokes(QPainter &painter) const;
+
+    QSizeF size_;
+    QImage background_;
+    std::vector<Stroke> strokes_;
+};
+
+} // namespace forms

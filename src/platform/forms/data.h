@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/dao/database.h"
+
+#include <QObject>
+
+#include <functional>
+#include <vector>
+
+class QWidget;
+
+namespace forms {
+
+/// A record source with a current row that controls are bound to: they show the row, and what was changed
+/// in them is written back when the row is left, refreshed or updateRecord() is called.
+class Data : public QObject
+{
+    Q_OBJECT
+public:
+    explicit Data(const QString &name);
+    ~Data() override;
+
+    void setDatabase(dao::Database *database) { database_ = database; }
+    void setRecordSource(const QString &sql) { source_ = sql; }
+    QString recordSource() const { return source_; }
+    /// Opens the record source anew and stands on the first row. Throws dao::Error; then no recordset is open.
+    void refresh();
+    bool hasRecordset() const { return recordset_.isOpen(); }
+    dao::Recordset &recordset() { return recordset_; }
+
+    /// Binds a control of controls.h to a column by name: text, memo, check box (BIT), combo, date or label.
+    void bind(QWidget &control, const QString &field);
+    bool dirty() const { return dirty_; } ///< a bound control was changed by the user and not written yet
+    void updateRecord(); ///< writes the bound controls into the row
+    void updateControls();   ///< shows the row again, dropping what was changed
+
+    /// Runs a move, find, delete or edit on the recordset; writes changed controls first and tells the bound
+    /// controls and grids afterwards.
+    void change(const std::function<void(dao::Recordset &)> &work);
+
+signals:
+    void reposition(); ///< the current row is another, or none
+    void refreshed();  ///< the rows are others
+
+private:
+    struct Binding
+    {
+        QWidget *control;
+        QString field;
+    };
+    dao::Database *database_ = nullptr;
+    QString source_;
+    dao::Recordset recordset_;
+    std::vector<Binding> bindings_;
+    bool dirty_ = false;
+    bool showing_ = false;
+};
+
+} // namespace forms

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <initializer_list>
+#include <utility>
+#include <vector>
+
+class QBoxLayout;
+class QLayout;
+class QWidget;
+
+/// Layouts declared in one place a screen:
+///
+///     setContents(this, Column{
+///         Group("Datos personales", Fields{{"Nombre :", Text1}, {"Sexo :", mSexo}}),
+///         Row{Stretch(), Command1, Command2},
+///     });
+///
+/// Margins and spacing are the same everywhere; a field's label is its buddy, so its mnemonic leads to it.
+/// Tab order is the order of declaration.
+namespace forms {
+
+/// Anything that stands in a layout.
+class Item
+{
+public:
+    Item(QWidget &widget);
+    Item(QWidget *widget);
+    explicit Item(std::function<void(QBoxLayout *)> add, std::vector<QWidget *> order = {});
+
+    void addTo(QBoxLayout *layout) const { add_(layout); }
+    /// The widgets in tab order.
+    const std::vector<QWidget *> &order() const { return order_; }
+
+private:
+    std::function<void(QBoxLayout *)> add_;
+    std::vector<QWidget *> order_;
+};
+
+using Items = std::initializer_list<Item>;
+
+struct Column : Item
+{
+    Column(Items items);
+    explicit Column(std::vector<Item> items);
+};
+
+struct Row : Item
+{
+    Row(Items items);
+    explicit Row(std::vector<Item> items);
+};
+
+/// Labels to the left, fields to the right, aligned. A null caption gives the field the whole width.
+struct FieldRow
+{
+    FieldRow(const QString &label, Item field);
+    FieldRow(QWidget &label, Item field); ///< a label that is a control of the screen
+    QString text;
+    QWidget *label = nullptr;
+    Item field;
+};
+
+struct Fields : Item
+{
+    Fields(std::initializer_list<FieldRow> rows);
+};
+
+/// Equal columns side by side, items placed row by row.
+Item Grid(int columns, Items items);
+/// A titled box; with a Frame, that control is the box.
+Item Group(const QString &caption, Item content);
+Item Group(class Frame &frame, Item content);
+Item Stretch(int factor = 1);
+Item Space(int pixels);
+/// Gives the item the room that is left over.
+Item Expanding(Item item, int factor = 1);
+
+struct Page
+{
+    QString caption;
+    Item content;
+};
+class SSTab;
+Item Tabs(SSTab &tabs, std::initializer_list<Page> pages);
+
+void setContents(QWidget *window, Item content);
+
+} // namespace forms

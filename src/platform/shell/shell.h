@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+/// Documents and programs outside this one.
+namespace shell {
+
+/// Opens a file or web address with the system's viewer; false when there is none or it is missing.
+bool openDocument(const QString &fileOrAddress);
+
+enum class Tool { NotePad, Calculator, FileExplorer };
+/// Starts the helper program of the platform at hand; false when none is installed.
+bool start(Tool tool, const QString &argument = {});
+
+/// True for the first process of this executable on this machine and session that asks; it stays so until
+/// the process ends.
+bool claimSingleInstance(const QString &name);
+
+} // namespace shell

@@ -1,0 +1,11 @@
+// Entry of the unit test programs: an application object first, so that widgets and paint devices work.
+#include <QApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char **argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
