@@ -4,9 +4,13 @@
 #include <QSettings>
 #include <QStandardPaths>
 
-namespace settings {
+using namespace Qt::StringLiterals;
 
-namespace {
+namespace settings
+{
+
+namespace
+{
 
 QString title = QStringLiteral("Sanirell!");
 
@@ -15,7 +19,7 @@ QString storeFile()
 {
     QString folder = qEnvironmentVariable("SANIRELL_AJUSTES");
     if (folder.isEmpty())
-        folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/sanirell";
+        folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/sanirell"_s;
     return QDir(folder).filePath(QStringLiteral("ajustes.ini"));
 }
 
