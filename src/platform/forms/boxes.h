@@ -7,12 +7,14 @@
 #include <optional>
 
 /// Message boxes, prompts and the common dialogues: real windows that a script answers as a person does.
-namespace forms {
+namespace forms
+{
 
 enum class Icon { None, Critical, Question, Exclamation, Information };
 
 void msgBox(const QString &text, Icon icon, const QString &title);
-bool askBox(const QString &text, const QString &title, Icon icon = Icon::Question); ///< "Sí" and "No"; true on "Sí"
+bool askBox(const QString &text, const QString &title,
+            Icon icon = Icon::Question); ///< "Sí" and "No"; true on "Sí"
 
 /// A prompt for one text with "Aceptar" and "Cancelar"; empty when cancelled.
 std::optional<QString> inputBox(const QString &prompt, const QString &title, const QString &initial = {});

@@ -3,8 +3,8 @@
 #include "platform/basic/value.h"
 #include "platform/forms/tag.h"
 
-#include <QCheckBox>
 #include <QCalendarWidget>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QGroupBox>
@@ -21,7 +21,8 @@
 /// The controls of the system's windows: thin classes over the toolkit's widgets. Each takes the name it has
 /// in the system (its objectName) and, where it shows one, its caption with "&" before the mnemonic. They
 /// are members of their form and get their parent from the layout.
-namespace forms {
+namespace forms
+{
 
 class Label : public QLabel
 {
@@ -154,11 +155,13 @@ class PictureBox : public QWidget
 public:
     PictureBox(const QString &name, QSizeF sizeTwips);
 
-    void loadPicture(const QString &file); ///< throws basic::Error 53 when the file is missing, 481 when it is no picture
-    void clear();                          ///< takes away what was drawn, not the background
+    void loadPicture(
+        const QString &file); ///< throws basic::Error 53 when the file is missing, 481 when it is no picture
+    void clear();             ///< takes away what was drawn, not the background
     void drawLine(QPointF from, QPointF to, QColor colour);
     void drawCircle(QPointF centre, double radius, QColor colour);
-    /// Background and drawing as one picture, at the resolution of the background if that is finer than the screen.
+    /// Background and drawing as one picture, at the resolution of the background if that is finer than the
+    /// screen.
     QImage image() const;
     QSizeF sizeTwips() const { return size_; }
     QSize sizeHint() const override;
@@ -167,8 +170,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    struct Stroke
-    {
+    struct Stroke {
         QPointF from, to; // twips; a circle has its centre in from and its radius in radius
         double radius = 0;
         QColor colour;

@@ -9,7 +9,8 @@
 
 class QWidget;
 
-namespace forms {
+namespace forms
+{
 
 /// A record source with a current row that controls are bound to: they show the row, and what was changed
 /// in them is written back when the row is left, refreshed or updateRecord() is called.
@@ -23,7 +24,8 @@ public:
     void setDatabase(dao::Database *database) { database_ = database; }
     void setRecordSource(const QString &sql) { source_ = sql; }
     QString recordSource() const { return source_; }
-    /// Opens the record source anew and stands on the first row. Throws dao::Error; then no recordset is open.
+    /// Opens the record source anew and stands on the first row. Throws dao::Error; then no recordset is
+    /// open.
     void refresh();
     bool hasRecordset() const { return recordset_.isOpen(); }
     dao::Recordset &recordset() { return recordset_; }
@@ -31,8 +33,8 @@ public:
     /// Binds a control of controls.h to a column by name: text, memo, check box (BIT), combo, date or label.
     void bind(QWidget &control, const QString &field);
     bool dirty() const { return dirty_; } ///< a bound control was changed by the user and not written yet
-    void updateRecord(); ///< writes the bound controls into the row
-    void updateControls();   ///< shows the row again, dropping what was changed
+    void updateRecord();                  ///< writes the bound controls into the row
+    void updateControls();                ///< shows the row again, dropping what was changed
 
     /// Runs a move, find, delete or edit on the recordset; writes changed controls first and tells the bound
     /// controls and grids afterwards.
@@ -43,8 +45,7 @@ signals:
     void refreshed();  ///< the rows are others
 
 private:
-    struct Binding
-    {
+    struct Binding {
         QWidget *control;
         QString field;
     };

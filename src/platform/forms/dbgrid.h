@@ -4,12 +4,12 @@
 
 #include <QTableView>
 
-namespace forms {
+namespace forms
+{
 
 /// A column of a grid: heading, field, display pattern (basic::format; empty shows the value's text), width
 /// in pixels (0: by its heading).
-struct GridColumn
-{
+struct GridColumn {
     QString heading;
     QString field;
     QString pattern = {};

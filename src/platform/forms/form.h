@@ -7,7 +7,8 @@
 
 class QMdiArea;
 
-namespace forms {
+namespace forms
+{
 
 /// A window of the system: a child of the main window's area or a modal dialogue. It answers its caller
 /// through tag() ("SI", "NO", a value) and hides; the caller reads the answer and lets it go. Its objectName
