@@ -4,9 +4,11 @@
 
 #include <algorithm>
 
-namespace dao {
+namespace dao
+{
 
-namespace {
+namespace
+{
 
 template <class T>
 bool same(const std::unique_ptr<T> &a, const std::unique_ptr<T> &b)
@@ -17,7 +19,8 @@ bool same(const std::unique_ptr<T> &a, const std::unique_ptr<T> &b)
 template <class T>
 bool same(const std::vector<std::unique_ptr<T>> &a, const std::vector<std::unique_ptr<T>> &b)
 {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const auto &x, const auto &y) { return same(x, y); });
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](const auto &x, const auto &y) { return same(x, y); });
 }
 
 template <class T>
@@ -57,9 +60,9 @@ ExprPtr Expr::clone() const
 
 bool Expr::operator==(const Expr &other) const
 {
-    return kind == other.kind && op == other.op && negated == other.negated && sameName(qualifier, other.qualifier)
-           && sameName(name, other.name) && literal == other.literal && same(operands, other.operands)
-           && same(select, other.select);
+    return kind == other.kind && op == other.op && negated == other.negated &&
+           sameName(qualifier, other.qualifier) && sameName(name, other.name) && literal == other.literal &&
+           same(operands, other.operands) && same(select, other.select);
 }
 
 bool SelectItem::operator==(const SelectItem &other) const
@@ -74,8 +77,8 @@ bool OrderItem::operator==(const OrderItem &other) const
 
 bool TableRef::operator==(const TableRef &other) const
 {
-    return join == other.join && name == other.name && alias == other.alias && same(left, other.left)
-           && same(right, other.right) && same(on, other.on);
+    return join == other.join && name == other.name && alias == other.alias && same(left, other.left) &&
+           same(right, other.right) && same(on, other.on);
 }
 
 std::unique_ptr<TableRef> TableRef::clone() const
@@ -94,9 +97,9 @@ std::unique_ptr<TableRef> TableRef::clone() const
 
 bool Select::operator==(const Select &other) const
 {
-    return distinct == other.distinct && top == other.top && items == other.items && same(from, other.from)
-           && same(where, other.where) && same(groupBy, other.groupBy) && same(having, other.having)
-           && orderBy == other.orderBy && same(unions, other.unions) && unionAll == other.unionAll;
+    return distinct == other.distinct && top == other.top && items == other.items && same(from, other.from) &&
+           same(where, other.where) && same(groupBy, other.groupBy) && same(having, other.having) &&
+           orderBy == other.orderBy && same(unions, other.unions) && unionAll == other.unionAll;
 }
 
 std::unique_ptr<Select> Select::clone() const
@@ -120,8 +123,8 @@ std::unique_ptr<Select> Select::clone() const
 
 bool Insert::operator==(const Insert &other) const
 {
-    return table == other.table && columns == other.columns && same(values, other.values)
-           && same(select, other.select);
+    return table == other.table && columns == other.columns && same(values, other.values) &&
+           same(select, other.select);
 }
 
 bool Assignment::operator==(const Assignment &other) const
@@ -141,8 +144,8 @@ bool Delete::operator==(const Delete &other) const
 
 bool CreateIndex::operator==(const CreateIndex &other) const
 {
-    return table == other.table && index.name == other.index.name && index.fields == other.index.fields
-           && index.unique == other.index.unique && index.primary == other.index.primary;
+    return table == other.table && index.name == other.index.name && index.fields == other.index.fields &&
+           index.unique == other.index.unique && index.primary == other.index.primary;
 }
 
 bool sameStatement(const Statement &a, const Statement &b)

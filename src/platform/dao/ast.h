@@ -11,19 +11,28 @@
 
 /// The tree of a statement of the dialect. The parser makes it; the binder fills in the members that say
 /// so (they take no part in comparing trees).
-namespace dao {
+namespace dao
+{
 
 struct Source;
 struct Select;
 
 enum class ExprKind : quint8 {
-    Null, Boolean, Number, Text, Date, ///< literals, in `literal`
-    Name,                              ///< a column: qualifier.name
-    Star,                              ///< * or qualifier.*
-    Negate, Not,                       ///< one operand
-    Arithmetic, Compare, Logic, Like,  ///< two operands and `op`
-    Between,                           ///< operand, low, high
-    In,                                ///< operand and a list, or operand and `select`
+    Null,
+    Boolean,
+    Number,
+    Text,
+    Date, ///< literals, in `literal`
+    Name, ///< a column: qualifier.name
+    Star, ///< * or qualifier.*
+    Negate,
+    Not, ///< one operand
+    Arithmetic,
+    Compare,
+    Logic,
+    Like,    ///< two operands and `op`
+    Between, ///< operand, low, high
+    In,      ///< operand and a list, or operand and `select`
     IsNull,
     Call,     ///< name(operands)
     Subquery, ///< one value of `select`
@@ -31,8 +40,24 @@ enum class ExprKind : quint8 {
 };
 
 enum class Operator : quint8 {
-    None, Add, Subtract, Multiply, Divide, IntDivide, Modulo, Power, Join,
-    Equal, NotEqual, Less, LessEqual, Greater, GreaterEqual, And, Or, Xor,
+    None,
+    Add,
+    Subtract,
+    Multiply,
+    Divide,
+    IntDivide,
+    Modulo,
+    Power,
+    Join,
+    Equal,
+    NotEqual,
+    Less,
+    LessEqual,
+    Greater,
+    GreaterEqual,
+    And,
+    Or,
+    Xor,
 };
 
 /// What an expression yields, as far as the dialect's rules depend on it. Condition is a truth value that
@@ -42,8 +67,7 @@ enum class ExprType : quint8 { Null, Condition, Bit, Integer, Double, Currency, 
 struct Expr;
 using ExprPtr = std::unique_ptr<Expr>;
 
-struct Expr
-{
+struct Expr {
     ExprKind kind = ExprKind::Null;
     Operator op = Operator::None;
     bool negated = false; ///< NOT LIKE, NOT BETWEEN, NOT IN, IS NOT NULL
@@ -65,15 +89,13 @@ struct Expr
     bool operator==(const Expr &other) const;
 };
 
-struct SelectItem
-{
+struct SelectItem {
     ExprPtr expr;
     QString alias;
     bool operator==(const SelectItem &other) const;
 };
 
-struct OrderItem
-{
+struct OrderItem {
     ExprPtr expr;
     bool descending = false;
     bool operator==(const OrderItem &other) const;
@@ -82,8 +104,7 @@ struct OrderItem
 enum class JoinKind : quint8 { None, Inner, Left, Right };
 
 /// A table (or saved query) of FROM, or a join of two of these.
-struct TableRef
-{
+struct TableRef {
     JoinKind join = JoinKind::None;
     QString name;
     QString alias;
@@ -96,8 +117,7 @@ struct TableRef
     std::unique_ptr<TableRef> clone() const;
 };
 
-struct Select
-{
+struct Select {
     bool distinct = false;
     qint64 top = -1;
     std::vector<SelectItem> items;
@@ -105,7 +125,7 @@ struct Select
     ExprPtr where;
     std::vector<ExprPtr> groupBy;
     ExprPtr having;
-    std::vector<OrderItem> orderBy;     ///< of the whole, when there are unions
+    std::vector<OrderItem> orderBy; ///< of the whole, when there are unions
     std::vector<std::unique_ptr<Select>> unions;
     bool unionAll = false; ///< how this member of a union is joined to the one before it
 
@@ -114,8 +134,7 @@ struct Select
     std::unique_ptr<Select> clone() const;
 };
 
-struct Insert
-{
+struct Insert {
     QString table;
     std::vector<QString> columns; ///< none: all of the table
     std::vector<ExprPtr> values;
@@ -123,73 +142,64 @@ struct Insert
     bool operator==(const Insert &other) const;
 };
 
-struct Assignment
-{
+struct Assignment {
     QString column;
     ExprPtr value;
     int ordinal = -1; ///< filled in by the binder
     bool operator==(const Assignment &other) const;
 };
 
-struct Update
-{
+struct Update {
     QString table;
     std::vector<Assignment> assignments;
     ExprPtr where;
     bool operator==(const Update &other) const;
 };
 
-struct Delete
-{
+struct Delete {
     QString table;
     ExprPtr where;
     bool operator==(const Delete &other) const;
 };
 
-struct CreateTable
-{
+struct CreateTable {
     QString table;
     std::vector<FieldDef> columns;
     bool operator==(const CreateTable &) const = default;
 };
 
-struct DropTable
-{
+struct DropTable {
     QString table;
     bool operator==(const DropTable &) const = default;
 };
 
-struct CreateIndex
-{
+struct CreateIndex {
     QString table;
     IndexDef index;
     bool operator==(const CreateIndex &other) const;
 };
 
-struct DropIndex
-{
+struct DropIndex {
     QString table;
     QString index;
     bool operator==(const DropIndex &) const = default;
 };
 
-struct AddColumn
-{
+struct AddColumn {
     QString table;
     FieldDef column;
     bool operator==(const AddColumn &) const = default;
 };
 
-struct DropColumn
-{
+struct DropColumn {
     QString table;
     QString column;
     bool operator==(const DropColumn &) const = default;
 };
 
 using SelectPtr = std::unique_ptr<Select>;
-using Statement = std::variant<SelectPtr, Insert, Update, Delete, CreateTable, DropTable, CreateIndex, DropIndex,
-                               AddColumn, DropColumn>;
+using Statement = std::variant<SelectPtr, Insert, Update, Delete, CreateTable, DropTable, CreateIndex,
+                               DropIndex, AddColumn, DropColumn>;
 
 /// The statement as a text that parses to the same tree.
 QString toText(const Statement &statement);

@@ -4,9 +4,11 @@
 
 #include <QLocale>
 
-namespace dao {
+namespace dao
+{
 
-namespace {
+namespace
+{
 
 QString quotedName(const QString &name)
 {
@@ -24,8 +26,8 @@ QString literalText(const Expr &e)
         return u'\'' + e.literal.text().replace(u'\'', QStringLiteral("''")) + u'\'';
     case ExprKind::Date: {
         const basic::Date date = e.literal.date();
-        return u'#' + QLocale::c().toString(date.date(), u"MM/dd/yyyy") + QLocale::c().toString(date.time(), u" HH:mm:ss")
-               + u'#';
+        return u'#' + QLocale::c().toString(date.date(), u"MM/dd/yyyy") +
+               QLocale::c().toString(date.time(), u" HH:mm:ss") + u'#';
     }
     default: {
         if (const auto *whole = e.literal.as<qint64>())
@@ -101,11 +103,13 @@ QString qualified(const Expr &e, const QString &last)
 QString fromText(const TableRef &ref)
 {
     if (ref.join == JoinKind::None)
-        return quotedName(ref.name) + (ref.alias.isEmpty() ? QString() : QStringLiteral(" AS ") + quotedName(ref.alias));
+        return quotedName(ref.name) +
+               (ref.alias.isEmpty() ? QString() : QStringLiteral(" AS ") + quotedName(ref.alias));
     const QString kind = ref.join == JoinKind::Inner  ? QStringLiteral(" INNER JOIN ")
                          : ref.join == JoinKind::Left ? QStringLiteral(" LEFT JOIN ")
                                                       : QStringLiteral(" RIGHT JOIN ");
-    return u'(' + fromText(*ref.left) + kind + fromText(*ref.right) + QStringLiteral(" ON ") + toText(*ref.on) + u')';
+    return u'(' + fromText(*ref.left) + kind + fromText(*ref.right) + QStringLiteral(" ON ") +
+           toText(*ref.on) + u')';
 }
 
 QString whereText(const ExprPtr &where)
@@ -121,7 +125,8 @@ QString memberText(const Select &s)
     if (s.top >= 0)
         text += QStringLiteral("TOP %1 ").arg(s.top);
     text += joined(s.items, [](const SelectItem &item) {
-        return toText(*item.expr) + (item.alias.isEmpty() ? QString() : QStringLiteral(" AS ") + quotedName(item.alias));
+        return toText(*item.expr) +
+               (item.alias.isEmpty() ? QString() : QStringLiteral(" AS ") + quotedName(item.alias));
     });
     if (!s.from.empty())
         text += QStringLiteral(" FROM ") + joined(s.from, [](const auto &ref) { return fromText(*ref); });
@@ -143,22 +148,24 @@ QString nameList(const QStringList &names)
     return joined(names, quotedName);
 }
 
-struct StatementText
-{
+struct StatementText {
     QString operator()(const SelectPtr &s) const { return toText(*s); }
     QString operator()(const Insert &s) const
     {
         QString text = QStringLiteral("INSERT INTO ") + quotedName(s.table);
         if (!s.columns.empty())
             text += QStringLiteral(" (") + joined(s.columns, quotedName) + u')';
-        return s.select ? text + u' ' + toText(*s.select) : text + QStringLiteral(" VALUES (") + expressions(s.values) + u')';
+        return s.select ? text + u' ' + toText(*s.select)
+                        : text + QStringLiteral(" VALUES (") + expressions(s.values) + u')';
     }
     QString operator()(const Update &s) const
     {
-        return QStringLiteral("UPDATE ") + quotedName(s.table) + QStringLiteral(" SET ")
-               + joined(s.assignments,
-                        [](const Assignment &a) { return quotedName(a.column) + QStringLiteral(" = ") + toText(*a.value); })
-               + whereText(s.where);
+        return QStringLiteral("UPDATE ") + quotedName(s.table) + QStringLiteral(" SET ") +
+               joined(s.assignments,
+                      [](const Assignment &a) {
+                          return quotedName(a.column) + QStringLiteral(" = ") + toText(*a.value);
+                      }) +
+               whereText(s.where);
     }
     QString operator()(const Delete &s) const
     {
@@ -166,28 +173,34 @@ struct StatementText
     }
     QString operator()(const CreateTable &s) const
     {
-        return QStringLiteral("CREATE TABLE ") + quotedName(s.table) + QStringLiteral(" (") + joined(s.columns, columnText)
-               + u')';
+        return QStringLiteral("CREATE TABLE ") + quotedName(s.table) + QStringLiteral(" (") +
+               joined(s.columns, columnText) + u')';
     }
-    QString operator()(const DropTable &s) const { return QStringLiteral("DROP TABLE ") + quotedName(s.table); }
+    QString operator()(const DropTable &s) const
+    {
+        return QStringLiteral("DROP TABLE ") + quotedName(s.table);
+    }
     QString operator()(const CreateIndex &s) const
     {
-        return (s.index.unique ? QStringLiteral("CREATE UNIQUE INDEX ") : QStringLiteral("CREATE INDEX "))
-               + quotedName(s.index.name) + QStringLiteral(" ON ") + quotedName(s.table) + QStringLiteral(" (")
-               + nameList(s.index.fields) + (s.index.primary ? QStringLiteral(") WITH PRIMARY") : QStringLiteral(")"));
+        return (s.index.unique ? QStringLiteral("CREATE UNIQUE INDEX ") : QStringLiteral("CREATE INDEX ")) +
+               quotedName(s.index.name) + QStringLiteral(" ON ") + quotedName(s.table) +
+               QStringLiteral(" (") + nameList(s.index.fields) +
+               (s.index.primary && s.index.unique ? QStringLiteral(") WITH PRIMARY") : QStringLiteral(")"));
     }
     QString operator()(const DropIndex &s) const
     {
-        return QStringLiteral("DROP INDEX ") + quotedName(s.index) + QStringLiteral(" ON ") + quotedName(s.table);
+        return QStringLiteral("DROP INDEX ") + quotedName(s.index) + QStringLiteral(" ON ") +
+               quotedName(s.table);
     }
     QString operator()(const AddColumn &s) const
     {
-        return QStringLiteral("ALTER TABLE ") + quotedName(s.table) + QStringLiteral(" ADD COLUMN ") + columnText(s.column);
+        return QStringLiteral("ALTER TABLE ") + quotedName(s.table) + QStringLiteral(" ADD COLUMN ") +
+               columnText(s.column);
     }
     QString operator()(const DropColumn &s) const
     {
-        return QStringLiteral("ALTER TABLE ") + quotedName(s.table) + QStringLiteral(" DROP COLUMN ")
-               + quotedName(s.column);
+        return QStringLiteral("ALTER TABLE ") + quotedName(s.table) + QStringLiteral(" DROP COLUMN ") +
+               quotedName(s.column);
     }
 };
 
@@ -213,14 +226,14 @@ QString toText(const Expr &e)
     case ExprKind::Like:
         return u'(' + operand(0) + no + QStringLiteral(" LIKE ") + operand(1) + u')';
     case ExprKind::Between:
-        return u'(' + operand(0) + no + QStringLiteral(" BETWEEN ") + operand(1) + QStringLiteral(" AND ") + operand(2)
-               + u')';
+        return u'(' + operand(0) + no + QStringLiteral(" BETWEEN ") + operand(1) + QStringLiteral(" AND ") +
+               operand(2) + u')';
     case ExprKind::In: {
         QStringList list;
         for (size_t i = 1; i < e.operands.size(); ++i)
             list << operand(i);
-        return u'(' + operand(0) + no + QStringLiteral(" IN (")
-               + (e.select ? toText(*e.select) : list.join(QStringLiteral(", "))) + QStringLiteral("))");
+        return u'(' + operand(0) + no + QStringLiteral(" IN (") +
+               (e.select ? toText(*e.select) : list.join(QStringLiteral(", "))) + QStringLiteral("))");
     }
     case ExprKind::IsNull:
         return u'(' + operand(0) + QStringLiteral(" IS") + no + QStringLiteral(" NULL)");
@@ -239,7 +252,8 @@ QString toText(const Select &s)
 {
     QString text = memberText(s);
     for (const auto &member : s.unions)
-        text += (member->unionAll ? QStringLiteral(" UNION ALL ") : QStringLiteral(" UNION ")) + memberText(*member);
+        text += (member->unionAll ? QStringLiteral(" UNION ALL ") : QStringLiteral(" UNION ")) +
+                memberText(*member);
     if (!s.orderBy.empty())
         text += QStringLiteral(" ORDER BY ") + joined(s.orderBy, [](const OrderItem &item) {
                     return toText(*item.expr) + (item.descending ? QStringLiteral(" DESC") : QString());

@@ -1,9 +1,11 @@
 #include "platform/dao/parserbase.h"
 #include "platform/dao/types.h"
 
-namespace dao {
+namespace dao
+{
 
-namespace {
+namespace
+{
 // Deeper than any person nests parentheses, shallower than the stack.
 constexpr int deepestNesting = 200;
 } // namespace
@@ -229,7 +231,8 @@ ExprPtr QueryParser::power()
 {
     ExprPtr left = primary();
     while (take(Symbol::Power))
-        left = binary(ExprKind::Arithmetic, Operator::Power, std::move(left), at(Symbol::Minus) ? sign() : primary());
+        left = binary(ExprKind::Arithmetic, Operator::Power, std::move(left),
+                      at(Symbol::Minus) ? sign() : primary());
     return left;
 }
 

@@ -6,12 +6,13 @@
 #include <algorithm>
 #include <array>
 
-namespace dao {
-
-namespace {
-
-struct Reserved
+namespace dao
 {
+
+namespace
+{
+
+struct Reserved {
     QLatin1StringView text;
     Word word;
 };
@@ -65,9 +66,10 @@ Word reservedWord(QStringView text)
 {
     if (text.size() > longestReserved)
         return Word::None;
-    const auto it = std::lower_bound(reserved.begin(), reserved.end(), text, [](const Reserved &r, QStringView t) {
-        return t.compare(r.text, Qt::CaseInsensitive) > 0;
-    });
+    const auto it =
+        std::lower_bound(reserved.begin(), reserved.end(), text, [](const Reserved &r, QStringView t) {
+            return t.compare(r.text, Qt::CaseInsensitive) > 0;
+        });
     return it != reserved.end() && text.compare(it->text, Qt::CaseInsensitive) == 0 ? it->word : Word::None;
 }
 
@@ -103,7 +105,7 @@ Token Lexer::next()
     while (at_ < source_.size() && source_[at_].isSpace())
         ++at_;
     if (at_ >= source_.size())
-        return {.position = source_.size()};
+        return {.position = source_.size(), .text = {}};
     const QChar c = source_[at_];
     if (c == u'[')
         return delimited(TokenKind::BracketName, u']');
@@ -179,8 +181,10 @@ Token Lexer::symbol()
     const QChar following = at_ < source_.size() ? source_[at_] : QChar();
     const auto token = [&](Symbol symbol, qsizetype length = 1) {
         at_ = start + length;
-        return Token{
-            .kind = TokenKind::Symbol, .symbol = symbol, .position = start, .text = source_.mid(start, length)};
+        return Token{.kind = TokenKind::Symbol,
+                     .symbol = symbol,
+                     .position = start,
+                     .text = source_.mid(start, length)};
     };
     switch (source_[start].unicode()) {
     case u'(':

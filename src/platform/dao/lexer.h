@@ -3,25 +3,80 @@
 #include <QString>
 #include <QStringView>
 
-namespace dao {
+namespace dao
+{
 
 /// Reserved words of the dialect. A reserved word is a name only in brackets.
 enum class Word : quint8 {
-    None, All, And, As, Asc, Between, By, Delete, Desc, Distinct, Distinctrow, Exists, False, From, Group, Having,
-    In, Inner, Insert, Into, Is, Join, Left, Like, Mod, Not, Null, On, Or, Order, Outer, Right, Select, Set, Top,
-    True, Union, Update, Values, Where, Xor,
+    None,
+    All,
+    And,
+    As,
+    Asc,
+    Between,
+    By,
+    Delete,
+    Desc,
+    Distinct,
+    Distinctrow,
+    Exists,
+    False,
+    From,
+    Group,
+    Having,
+    In,
+    Inner,
+    Insert,
+    Into,
+    Is,
+    Join,
+    Left,
+    Like,
+    Mod,
+    Not,
+    Null,
+    On,
+    Or,
+    Order,
+    Outer,
+    Right,
+    Select,
+    Set,
+    Top,
+    True,
+    Union,
+    Update,
+    Values,
+    Where,
+    Xor,
 };
 
 enum class TokenKind : quint8 { End, Name, BracketName, Number, Text, Date, Symbol };
 
 enum class Symbol : quint8 {
-    None, Open, Close, Comma, Point, Semicolon, Plus, Minus, Times, Divide, IntDivide, Power, Join, Equal, NotEqual,
-    Less, LessEqual, Greater, GreaterEqual,
+    None,
+    Open,
+    Close,
+    Comma,
+    Point,
+    Semicolon,
+    Plus,
+    Minus,
+    Times,
+    Divide,
+    IntDivide,
+    Power,
+    Join,
+    Equal,
+    NotEqual,
+    Less,
+    LessEqual,
+    Greater,
+    GreaterEqual,
 };
 
 /// One token. `text` is the part of the source without its delimiters.
-struct Token
-{
+struct Token {
     TokenKind kind = TokenKind::End;
     Word word = Word::None;
     Symbol symbol = Symbol::None;

@@ -2,7 +2,8 @@
 
 #include <QStringView>
 
-namespace dao {
+namespace dao
+{
 
 /// Names of tables, columns and indexes are one name whatever their case.
 inline bool sameName(QStringView a, QStringView b)

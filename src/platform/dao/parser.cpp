@@ -4,7 +4,8 @@
 #include "platform/dao/parserbase.h"
 #include "platform/dao/types.h"
 
-namespace dao {
+namespace dao
+{
 
 SelectPtr QueryParser::wholeSelect()
 {
@@ -114,7 +115,8 @@ std::unique_ptr<TableRef> QueryParser::tableOrJoin()
     return ref;
 }
 
-namespace {
+namespace
+{
 
 class StatementParser : public QueryParser
 {
@@ -224,9 +226,9 @@ private:
             expectWord(u"PRIMARY");
             create.index.primary = create.index.unique = true;
         }
-        // The name that every screen seeks the primary key by.
+        // The name that every screen seeks the primary key by; it says nothing of being unique.
         if (sameName(create.index.name, u"PrimaryKey"))
-            create.index.primary = create.index.unique = true;
+            create.index.primary = true;
         return create;
     }
 

@@ -2,7 +2,8 @@
 
 #include "platform/dao/ast.h"
 
-namespace dao {
+namespace dao
+{
 
 /// Reads one statement of the dialect. Throws Error::SyntaxError with the position of what is not understood.
 Statement parseStatement(const QString &text);

@@ -2,9 +2,12 @@
 
 #include "platform/dao/names.h"
 
-namespace dao {
+namespace dao
+{
 
-ParserBase::ParserBase(QStringView source) : source_(source), lexer_(source), token_(lexer_.next()) {}
+ParserBase::ParserBase(QStringView source) : source_(source), lexer_(source), token_(lexer_.next())
+{
+}
 
 bool ParserBase::atWord(QStringView word) const
 {
@@ -55,7 +58,8 @@ void ParserBase::expectWord(QStringView word)
 
 bool ParserBase::atName() const
 {
-    return token_.kind == TokenKind::BracketName || (token_.kind == TokenKind::Name && token_.word == Word::None);
+    return token_.kind == TokenKind::BracketName ||
+           (token_.kind == TokenKind::Name && token_.word == Word::None);
 }
 
 QString ParserBase::expectName()

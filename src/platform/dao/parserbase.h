@@ -3,7 +3,8 @@
 #include "platform/dao/ast.h"
 #include "platform/dao/lexer.h"
 
-namespace dao {
+namespace dao
+{
 
 /// What the parsers of expressions and of statements share: the token at hand and the steps over it.
 class ParserBase

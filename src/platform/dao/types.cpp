@@ -8,36 +8,50 @@
 #include <cmath>
 #include <limits>
 
-namespace dao {
-
-namespace {
-
-struct TypeName
+namespace dao
 {
+
+namespace
+{
+
+struct TypeName {
     QStringView name;
     FieldType type;
 };
 
 // The first name of each type is the one that DDL is written back with.
 constexpr std::array typeNames{
-    TypeName{u"COUNTER", FieldType::Counter},   TypeName{u"LONG", FieldType::Long},
-    TypeName{u"INTEGER", FieldType::Integer},   TypeName{u"DOUBLE", FieldType::Double},
-    TypeName{u"CURRENCY", FieldType::Currency}, TypeName{u"TEXT", FieldType::Text},
-    TypeName{u"MEMO", FieldType::Memo},         TypeName{u"BIT", FieldType::Bit},
-    TypeName{u"DATE", FieldType::Date},         TypeName{u"TIME", FieldType::Time},
-    TypeName{u"AUTOINCREMENT", FieldType::Counter}, TypeName{u"SHORT", FieldType::Integer},
-    TypeName{u"SMALLINT", FieldType::Integer},  TypeName{u"FLOAT", FieldType::Double},
-    TypeName{u"NUMBER", FieldType::Double},     TypeName{u"MONEY", FieldType::Currency},
-    TypeName{u"CHAR", FieldType::Text},         TypeName{u"VARCHAR", FieldType::Text},
-    TypeName{u"STRING", FieldType::Text},       TypeName{u"LONGTEXT", FieldType::Memo},
-    TypeName{u"YESNO", FieldType::Bit},         TypeName{u"LOGICAL", FieldType::Bit},
-    TypeName{u"BOOLEAN", FieldType::Bit},       TypeName{u"DATETIME", FieldType::Date},
+    TypeName{u"COUNTER", FieldType::Counter},
+    TypeName{u"LONG", FieldType::Long},
+    TypeName{u"INTEGER", FieldType::Integer},
+    TypeName{u"DOUBLE", FieldType::Double},
+    TypeName{u"CURRENCY", FieldType::Currency},
+    TypeName{u"TEXT", FieldType::Text},
+    TypeName{u"MEMO", FieldType::Memo},
+    TypeName{u"BIT", FieldType::Bit},
+    TypeName{u"DATE", FieldType::Date},
+    TypeName{u"TIME", FieldType::Time},
+    TypeName{u"AUTOINCREMENT", FieldType::Counter},
+    TypeName{u"SHORT", FieldType::Integer},
+    TypeName{u"SMALLINT", FieldType::Integer},
+    TypeName{u"FLOAT", FieldType::Double},
+    TypeName{u"NUMBER", FieldType::Double},
+    TypeName{u"MONEY", FieldType::Currency},
+    TypeName{u"CHAR", FieldType::Text},
+    TypeName{u"VARCHAR", FieldType::Text},
+    TypeName{u"STRING", FieldType::Text},
+    TypeName{u"LONGTEXT", FieldType::Memo},
+    TypeName{u"YESNO", FieldType::Bit},
+    TypeName{u"LOGICAL", FieldType::Bit},
+    TypeName{u"BOOLEAN", FieldType::Bit},
+    TypeName{u"DATETIME", FieldType::Date},
 };
 
 [[noreturn]] void throwMismatch(const FieldDef &field)
 {
     throw Error(Error::TypeMismatch,
-                QStringLiteral("Los tipos de datos no coinciden: el valor no sirve para el campo '%1'.").arg(field.name));
+                QStringLiteral("Los tipos de datos no coinciden: el valor no sirve para el campo '%1'.")
+                    .arg(field.name));
 }
 
 double numberFor(const basic::Value &value, const FieldDef &field)
@@ -76,10 +90,11 @@ basic::Value shortText(const basic::Value &value, const FieldDef &field)
 {
     QString text = value.text();
     if (field.type == FieldType::Text && text.size() > field.size)
-        throw Error(Error::TextTooLong, QStringLiteral("El campo '%1' es demasiado pequeño para la cantidad de datos que "
-                                                       "intentó agregar: admite %2 caracteres.")
-                                            .arg(field.name)
-                                            .arg(field.size));
+        throw Error(Error::TextTooLong,
+                    QStringLiteral("El campo '%1' es demasiado pequeño para la cantidad de datos que "
+                                   "intentó agregar: admite %2 caracteres.")
+                        .arg(field.name)
+                        .arg(field.size));
     return text;
 }
 
@@ -120,7 +135,8 @@ QString typeText(const FieldDef &field)
 {
     for (const TypeName &entry : typeNames) {
         if (entry.type == field.type)
-            return field.type == FieldType::Text ? QStringLiteral("TEXT(%1)").arg(field.size) : entry.name.toString();
+            return field.type == FieldType::Text ? QStringLiteral("TEXT(%1)").arg(field.size)
+                                                 : entry.name.toString();
     }
     return {};
 }

@@ -6,7 +6,8 @@
 
 #include <optional>
 
-namespace dao {
+namespace dao
+{
 
 /// The type that a name of the dialect's DDL stands for, without regard to case.
 std::optional<FieldType> typeNamed(QStringView name);
