@@ -3,9 +3,11 @@
 #include <QCoreApplication>
 #include <QDir>
 
-namespace basic {
+namespace basic
+{
 
-namespace {
+namespace
+{
 qint64 clockOffsetMs = 0;
 }
 

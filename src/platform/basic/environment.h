@@ -6,12 +6,14 @@
 #include <QString>
 
 /// What the program asks of its surroundings, so that a test can set it: the clock and the program's folder.
-namespace basic {
+namespace basic
+{
 
 QDateTime now();
 Date today();
 Date time(); ///< the time of day alone
-/// From here on the program's clock shows `moment` and goes on from there; an invalid moment restores the machine's.
+/// From here on the program's clock shows `moment` and goes on from there; an invalid moment restores the
+/// machine's.
 void setClock(const QDateTime &moment);
 
 /// The folder with the database, the chart pictures and the help: the one that the environment variable

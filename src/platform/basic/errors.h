@@ -4,7 +4,8 @@
 
 #include <exception>
 
-namespace basic {
+namespace basic
+{
 
 /// A failure that the program can tell a person about: a number and a Spanish description. Every layer
 /// below the screens throws this or a class of it.

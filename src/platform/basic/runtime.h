@@ -8,7 +8,8 @@
 
 /// The functions of the language runtime that the practice's rules are written in, in the es-AR locale:
 /// dd/mm/yyyy, decimal comma, thousands point. Names and results are the runtime's own.
-namespace basic {
+namespace basic
+{
 
 /// Formats a number, date or text by a pattern: digits "0 # , . %", dates "d dd ddd dddd m mm mmm mmmm
 /// yy yyyy", times "H HH h M MM (after an hour) N NN S SS AM/PM", the names "currency", "General Number",
@@ -17,10 +18,12 @@ QString format(const Value &value, QStringView pattern);
 
 bool isNumeric(QStringView text); ///< a whole number by the locale: "1.234,5", "-3", "$ 20"; blank is not
 bool isDate(QStringView text);
-/// The number at the start of the text, with a decimal point whatever the locale; blanks are skipped. 0 without one.
+/// The number at the start of the text, with a decimal point whatever the locale; blanks are skipped. 0
+/// without one.
 double val(QStringView text);
 std::optional<double> toNumber(QStringView text); ///< by the locale, as isNumeric accepts it
-std::optional<Date> toDate(QStringView text);      ///< "15/3/2024", "15-03-24", "2024-03-15", with or without "10:30[:15]"; a lone time has day 0
+std::optional<Date> toDate(QStringView text);     ///< "15/3/2024", "15-03-24", "2024-03-15", with or without
+                                                  ///< "10:30[:15]"; a lone time has day 0
 /// A number in text with a leading blank for the sign and a decimal point.
 QString str(double number);
 

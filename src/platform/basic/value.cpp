@@ -4,16 +4,17 @@
 
 #include <cmath>
 
-namespace basic {
+namespace basic
+{
 
-namespace {
+namespace
+{
 
 const QDate epoch(1899, 12, 30);
 constexpr int secondsPerDay = 86400;
 
 template <class... Cases>
-struct Match : Cases...
-{
+struct Match : Cases... {
     using Cases::operator()...;
 };
 template <class... Cases>
@@ -22,7 +23,8 @@ Match(Cases...) -> Match<Cases...>;
 } // namespace
 
 Date::Date(QDate date, QTime time)
-    : days_(date.isValid() ? epoch.daysTo(date) : 0), seconds_(time.isValid() ? time.msecsSinceStartOfDay() / 1000 : 0)
+    : days_(date.isValid() ? epoch.daysTo(date) : 0),
+      seconds_(time.isValid() ? time.msecsSinceStartOfDay() / 1000 : 0)
 {
 }
 
@@ -89,34 +91,32 @@ bool Value::isNumeric() const
 
 QString Value::text() const
 {
-    return std::visit(
-        Match{
-            [](std::monostate) { return QString(); },
-            [](basic::Null) { return QString(); },
-            [](bool b) { return b ? QStringLiteral("Verdadero") : QStringLiteral("Falso"); },
-            [](qint64 n) { return QString::number(n); },
-            [](double d) { return sqlNumber(d).replace(u'.', u','); },
-            [](basic::Currency c) { return sqlNumber(c.toDouble()).replace(u'.', u','); },
-            [](basic::Date d) { return dateText(d); },
-            [](const QString &s) { return s; },
-        },
-        data_);
+    return std::visit(Match{
+                          [](std::monostate) { return QString(); },
+                          [](basic::Null) { return QString(); },
+                          [](bool b) { return b ? QStringLiteral("Verdadero") : QStringLiteral("Falso"); },
+                          [](qint64 n) { return QString::number(n); },
+                          [](double d) { return sqlNumber(d).replace(u'.', u','); },
+                          [](basic::Currency c) { return sqlNumber(c.toDouble()).replace(u'.', u','); },
+                          [](basic::Date d) { return dateText(d); },
+                          [](const QString &s) { return s; },
+                      },
+                      data_);
 }
 
 double Value::number() const
 {
-    return std::visit(
-        Match{
-            [](std::monostate) { return 0.0; },
-            [](basic::Null) { return 0.0; },
-            [](bool b) { return b ? -1.0 : 0.0; },
-            [](qint64 n) { return static_cast<double>(n); },
-            [](double d) { return d; },
-            [](basic::Currency c) { return c.toDouble(); },
-            [](basic::Date d) { return d.serial(); },
-            [](const QString &s) { return toNumber(s).value_or(0.0); },
-        },
-        data_);
+    return std::visit(Match{
+                          [](std::monostate) { return 0.0; },
+                          [](basic::Null) { return 0.0; },
+                          [](bool b) { return b ? -1.0 : 0.0; },
+                          [](qint64 n) { return static_cast<double>(n); },
+                          [](double d) { return d; },
+                          [](basic::Currency c) { return c.toDouble(); },
+                          [](basic::Date d) { return d.serial(); },
+                          [](const QString &s) { return toNumber(s).value_or(0.0); },
+                      },
+                      data_);
 }
 
 qint64 Value::integer() const

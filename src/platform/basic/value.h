@@ -8,7 +8,8 @@
 #include <compare>
 #include <variant>
 
-namespace basic {
+namespace basic
+{
 
 /// A moment as the practice's data hold it: whole days since 1899-12-30 with the time of day as the
 /// fraction, to the whole second, so that date minus date is days. A time alone has day 0.
@@ -54,8 +55,7 @@ private:
     qint64 units_ = 0;
 };
 
-struct Null
-{
+struct Null {
     bool operator==(const Null &) const = default;
 };
 
@@ -91,19 +91,23 @@ public:
     QString text() const;
     /// Null, Empty and texts that are no number give 0; a date gives its serial, true gives -1.
     double number() const;
-    qint64 integer() const; ///< number(), rounded half to even
-    bool truth() const;     ///< number() other than 0
+    qint64 integer() const;   ///< number(), rounded half to even
+    bool truth() const;       ///< number() other than 0
     basic::Date date() const; ///< a text is read as CDate does; what is no date gives day 0
     basic::Currency currency() const;
 
     template <class T>
-    const T *as() const { return std::get_if<T>(&data_); }
+    const T *as() const
+    {
+        return std::get_if<T>(&data_);
+    }
 
     /// Same kind and same content; texts compare exactly.
     bool operator==(const Value &) const = default;
 
 private:
-    std::variant<std::monostate, basic::Null, bool, qint64, double, basic::Currency, basic::Date, QString> data_;
+    std::variant<std::monostate, basic::Null, bool, qint64, double, basic::Currency, basic::Date, QString>
+        data_;
 };
 
 } // namespace basic

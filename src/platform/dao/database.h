@@ -9,7 +9,8 @@
 #include <memory>
 #include <optional>
 
-namespace dao {
+namespace dao
+{
 
 class DatabasePrivate;
 
@@ -40,9 +41,10 @@ public:
     /// Runs one DDL or action statement; throws Error. Returns the rows affected.
     qint64 execute(const QString &sql);
 
-    QStringList tableNames() const;             ///< in Spanish order, without the engine's own
-    TableDef tableDef(QStringView name);        ///< throws Error::ItemNotFound
-    void createQuery(const QString &name, const QString &select); ///< a saved query; replaces one of that name
+    QStringList tableNames() const;      ///< in Spanish order, without the engine's own
+    TableDef tableDef(QStringView name); ///< throws Error::ItemNotFound
+    void createQuery(const QString &name,
+                     const QString &select); ///< a saved query; replaces one of that name
     QStringList queryNames() const;
 
     /// Batches for long jobs: between the two, writes share commits; every `batchRows` writes one commit is
@@ -69,8 +71,7 @@ void compactDatabase(const QString &source, const QString &destination, const QS
 void repairDatabase(const QString &path, const QString &connect);
 
 /// The prepared form of a statement for tests and tools: what the engine runs for a text of the dialect.
-struct Translation
-{
+struct Translation {
     QString engineSql;
     std::vector<basic::Value> parameters;
     std::vector<FieldDef> columns;

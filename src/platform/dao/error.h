@@ -2,7 +2,8 @@
 
 #include "platform/basic/errors.h"
 
-namespace dao {
+namespace dao
+{
 
 /// Failure of the database layer, under the numbers that programs of this dialect know. The description is
 /// Spanish, fit for a box, and never holds a password.

@@ -10,7 +10,8 @@
 #include <memory>
 #include <vector>
 
-namespace dao {
+namespace dao
+{
 
 class RecordsetPrivate;
 class Recordset;
@@ -87,12 +88,14 @@ public:
 
     void setIndex(QStringView name); ///< table-type only
     QString index() const;
-    /// Moves to the first row whose key compares so with the values; `comparison` is "=", ">=", ">", "<=" or "<".
+    /// Moves to the first row whose key compares so with the values; `comparison` is "=", ">=", ">", "<=" or
+    /// "<".
     void seek(QStringView comparison, const std::vector<basic::Value> &key);
     void seek(QStringView comparison, const basic::Value &key) { seek(comparison, std::vector{key}); }
     bool noMatch() const;
 
-    /// The criterion is a condition of the dialect over the recordset's fields; on no match the position stays.
+    /// The criterion is a condition of the dialect over the recordset's fields; on no match the position
+    /// stays.
     void findFirst(const QString &criterion);
     void findLast(const QString &criterion);
     void findNext(const QString &criterion);

@@ -6,14 +6,14 @@
 #include <memory>
 #include <vector>
 
-namespace dao {
+namespace dao
+{
 
 enum class FieldType { Counter, Long, Integer, Double, Currency, Text, Memo, Bit, Date, Time };
 
 /// A column as the dialect sees it. `size` is the length in characters of a Text, else the size in bytes of
 /// the type (Memo 0).
-struct FieldDef
-{
+struct FieldDef {
     QString name;
     FieldType type = FieldType::Text;
     int size = 0;
@@ -21,8 +21,7 @@ struct FieldDef
     bool operator==(const FieldDef &) const = default;
 };
 
-struct IndexDef
-{
+struct IndexDef {
     QString name;
     QStringList fields;
     bool unique = false;

@@ -2,7 +2,8 @@
 
 #include <QApplication>
 
-namespace forms {
+namespace forms
+{
 
 /// The event dispatcher: an error that a handler lets through is shown in a box and the program goes on,
 /// unless the error is raised from a timer's handler that has asked to end the program with it.

@@ -6,7 +6,8 @@
 #include <memory>
 #include <stdexcept>
 
-namespace forms {
+namespace forms
+{
 
 /// Controls of one kind under one name with an index; element n's objectName is "name(n)".
 template <class Control>
@@ -20,7 +21,8 @@ public:
     Control &add(int index, Args &&...args)
     {
         auto &slot = controls_[index];
-        slot = std::make_unique<Control>(QStringLiteral("%1(%2)").arg(name_).arg(index), std::forward<Args>(args)...);
+        slot = std::make_unique<Control>(QStringLiteral("%1(%2)").arg(name_).arg(index),
+                                         std::forward<Args>(args)...);
         return *slot;
     }
     void remove(int index) { controls_.erase(index); }

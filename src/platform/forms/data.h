@@ -9,7 +9,8 @@
 
 class QWidget;
 
-namespace forms {
+namespace forms
+{
 
 /// A record source with a current row that controls are bound to: they show the row, and what was changed
 /// in them is written back when the row is left, refreshed or updateRecord() is called.
@@ -23,16 +24,22 @@ public:
     void setDatabase(dao::Database *database) { database_ = database; }
     void setRecordSource(const QString &sql) { source_ = sql; }
     QString recordSource() const { return source_; }
-    /// Opens the record source anew and stands on the first row. Throws dao::Error; then no recordset is open.
+    /// Opens the record source anew and stands on the first row. Throws dao::Error; then no recordset is
+    /// open.
     void refresh();
     bool hasRecordset() const { return recordset_.isOpen(); }
     dao::Recordset &recordset() { return recordset_; }
 
     /// Binds a control of controls.h to a column by name: text, memo, check box (BIT), combo, date or label.
     void bind(QWidget &control, const QString &field);
-    bool dirty() const { return dirty_; } ///< a bound control was changed by the user and not written yet
-    void updateRecord(); ///< writes the bound controls into the row
-    void updateControls();   ///< shows the row again, dropping what was changed
+    bool dirty() const { return dirty_; } ///< a bound control was changed and not written yet
+    bool hasRow() const;                  ///< there is a current row, or one being added
+    /// Writes the changed controls into the row, and a row being added to the table. Throws dao::Error; the
+    /// controls then keep what was typed.
+    void updateRecord();
+    void updateControls(); ///< shows the row again, dropping what was changed
+    void writeCell(qint64 row, int ordinal,
+                   const QString &text); ///< for grids: stands on the row and writes one column
 
     /// Runs a move, find, delete or edit on the recordset; writes changed controls first and tells the bound
     /// controls and grids afterwards.
@@ -41,13 +48,19 @@ public:
 signals:
     void reposition(); ///< the current row is another, or none
     void refreshed();  ///< the rows are others
+    void rowWritten(); ///< the bound controls' values are in the row
 
 private:
-    struct Binding
-    {
+    struct Binding {
         QWidget *control;
         QString field;
+        bool changed = false;
     };
+    void leaveRow();
+    void forgetChanges();
+    void writeRow();
+    basic::Value valueToShow(const QString &field) const;
+
     dao::Database *database_ = nullptr;
     QString source_;
     dao::Recordset recordset_;

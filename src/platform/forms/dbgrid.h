@@ -4,12 +4,12 @@
 
 #include <QTableView>
 
-namespace forms {
+namespace forms
+{
 
 /// A column of a grid: heading, field, display pattern (basic::format; empty shows the value's text), width
 /// in pixels (0: by its heading).
-struct GridColumn
-{
+struct GridColumn {
     QString heading;
     QString field;
     QString pattern = {};
@@ -39,6 +39,11 @@ protected:
 
 private:
     class Model;
+    void dropModel();
+    void sizeColumns();
+    int dataRow() const;
+    void followData();
+    void leadData(const QModelIndex &current);
     Model *model_ = nullptr;
     Data *data_ = nullptr;
     bool following_ = false;

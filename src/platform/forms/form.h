@@ -5,9 +5,12 @@
 #include <QDialog>
 #include <QList>
 
+class QEventLoop;
 class QMdiArea;
+class QMdiSubWindow;
 
-namespace forms {
+namespace forms
+{
 
 /// A window of the system: a child of the main window's area or a modal dialogue. It answers its caller
 /// through tag() ("SI", "NO", a value) and hides; the caller reads the answer and lets it go. Its objectName
@@ -46,12 +49,14 @@ protected:
     virtual void escape() { unload(); }
 
     void closeEvent(QCloseEvent *event) override;
-    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     friend void activated(Form *form);
     void prepare();
+    QMdiSubWindow *frame() const; ///< of a child form, else null
     bool loaded_ = false;
+    QEventLoop *loop_ = nullptr; ///< of showModal()
 };
 
 /// The area of the main window that child forms open in; set once by the main window.
@@ -61,6 +66,11 @@ QMdiArea *childArea();
 Form *activeChild();
 /// Every form that exists, the main window aside, oldest first.
 QList<Form *> openForms();
+
+/// The visible forms, the last active one first.
+QList<Form *> formsByActivity();
+/// The modal form above all others, or null.
+Form *topModal();
 
 /// Tells the form system that `form` has become the active one; calls activate() when it was another before.
 void activated(Form *form);

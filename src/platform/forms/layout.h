@@ -20,7 +20,8 @@ class QWidget;
 ///
 /// Margins and spacing are the same everywhere; a field's label is its buddy, so its mnemonic leads to it.
 /// Tab order is the order of declaration.
-namespace forms {
+namespace forms
+{
 
 /// Anything that stands in a layout.
 class Item
@@ -41,21 +42,18 @@ private:
 
 using Items = std::initializer_list<Item>;
 
-struct Column : Item
-{
+struct Column : Item {
     Column(Items items);
     explicit Column(std::vector<Item> items);
 };
 
-struct Row : Item
-{
+struct Row : Item {
     Row(Items items);
     explicit Row(std::vector<Item> items);
 };
 
 /// Labels to the left, fields to the right, aligned. A null caption gives the field the whole width.
-struct FieldRow
-{
+struct FieldRow {
     FieldRow(const QString &label, Item field);
     FieldRow(QWidget &label, Item field); ///< a label that is a control of the screen
     QString text;
@@ -63,9 +61,9 @@ struct FieldRow
     Item field;
 };
 
-struct Fields : Item
-{
+struct Fields : Item {
     Fields(std::initializer_list<FieldRow> rows);
+    explicit Fields(std::vector<FieldRow> rows);
 };
 
 /// Equal columns side by side, items placed row by row.
@@ -78,8 +76,7 @@ Item Space(int pixels);
 /// Gives the item the room that is left over.
 Item Expanding(Item item, int factor = 1);
 
-struct Page
-{
+struct Page {
     QString caption;
     Item content;
 };

@@ -10,11 +10,11 @@ class QTextDocument;
 
 /// Paper. A printer is one of the system's, or a PDF file; when the environment variable SANIRELL_IMPRESORA
 /// names a folder, every document goes there as a numbered PDF file.
-namespace printing {
+namespace printing
+{
 
 /// What the person chose in the printer dialogue.
-struct Choice
-{
+struct Choice {
     QString printer; ///< a system printer's name; empty for a PDF file
     QString file;    ///< the PDF file
     int copies = 1;

@@ -3,7 +3,8 @@
 #include <QString>
 
 /// Documents and programs outside this one.
-namespace shell {
+namespace shell
+{
 
 /// Opens a file or web address with the system's viewer; false when there is none or it is missing.
 bool openDocument(const QString &fileOrAddress);
