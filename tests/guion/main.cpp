@@ -27,7 +27,7 @@ struct Result {
 
 void say(const QString &line)
 {
-    std::fputs(qPrintable(line), stdout);
+    std::fputs(qUtf8Printable(line), stdout);
     std::fputc('\n', stdout);
     std::fflush(stdout);
 }
@@ -71,6 +71,10 @@ QProcessEnvironment environmentIn(const QDir &root)
     }
     if (const QString pictures = environment.value(QStringLiteral("GUION_CAPTURAS")); !pictures.isEmpty())
         environment.insert(QStringLiteral("GUION_CAPTURAS"), QDir(pictures).absolutePath());
+    const bool display = environment.contains(QStringLiteral("DISPLAY")) ||
+                         environment.contains(QStringLiteral("WAYLAND_DISPLAY"));
+    if (!display && !environment.contains(QStringLiteral("QT_QPA_PLATFORM")))
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     QFile::setPermissions(root.filePath(QStringLiteral("sesion")),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     return environment;
@@ -134,12 +138,22 @@ int runAll(int argc, char **argv)
     return total.failed == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
-int runOne(int argc, char **argv, Program &program)
+/// The plugin without a display tells of each thing it lacks.
+void printMessage(QtMsgType, const QMessageLogContext &, const QString &message)
 {
+    if (!message.startsWith(QLatin1String("This plugin does not support")))
+        std::fprintf(stderr, "%s\n", qUtf8Printable(message));
+}
+
+int runOne(int argc, char **argv, const ProgramFactory &makeProgram)
+{
+    qInstallMessageHandler(printMessage);
     forms::Application application(argc, argv);
     const QStringList arguments = application.arguments();
     try {
-        Runner runner(arguments[2], read(arguments[2]), program, arguments[3]);
+        const std::vector<Step> steps = read(arguments[2]);
+        const auto program = makeProgram();
+        Runner runner(arguments[2], steps, *program, arguments[3]);
         return runner.run();
     } catch (const Failure &failure) {
         say(failure.text());
@@ -173,10 +187,10 @@ void copyDelivered(const QString &source, const QString &target)
     }
 }
 
-int runMain(int argc, char **argv, Program &program)
+int runMain(int argc, char **argv, const ProgramFactory &makeProgram)
 {
     const bool child = argc == 4 && qstrcmp(argv[1], childOption) == 0;
-    return child ? runOne(argc, argv, program) : runAll(argc, argv);
+    return child ? runOne(argc, argv, makeProgram) : runAll(argc, argv);
 }
 
 } // namespace guion

@@ -2,6 +2,9 @@
 
 #include <QString>
 
+#include <functional>
+#include <memory>
+
 namespace guion
 {
 
@@ -27,7 +30,10 @@ public:
 /// Copies a folder of delivered files; pictures, which the program only reads, become links.
 void copyDelivered(const QString &source, const QString &target);
 
+/// Makes the program once there is an application object.
+using ProgramFactory = std::function<std::unique_ptr<Program>()>;
+
 /// The command line: `guion FILE.guion [FILE.guion ...]`. Each file runs in a process of its own.
-int runMain(int argc, char **argv, Program &program);
+int runMain(int argc, char **argv, const ProgramFactory &makeProgram);
 
 } // namespace guion
