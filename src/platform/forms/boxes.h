@@ -6,6 +6,8 @@
 
 #include <optional>
 
+class QWidget;
+
 /// Message boxes, prompts and the common dialogues: real windows that a script answers as a person does.
 namespace forms
 {
@@ -24,6 +26,15 @@ QString openFileDialog(const QString &title, const QString &folder, const QStrin
 QString saveFileDialog(const QString &title, const QString &file, const QString &filter);
 QString folderDialog(const QString &title, const QString &folder);
 std::optional<QColor> colourDialog(const QString &title, const QColor &initial);
+
+/// What a box asks or tells: a message, a prompt or one of the dialogues above. Null for any other window.
+struct Box {
+    QString title;
+    QString text;
+};
+std::optional<Box> describeBox(const QWidget *window);
+/// Makes a dialogue a box of that text for describeBox().
+void markAsBox(QWidget &dialogue, const QString &text);
 
 /// The error that reached nobody: shown in a box, after which the program goes on.
 void showUnhandled(const QString &description);

@@ -18,6 +18,8 @@
 #include <QTimer>
 #include <QTreeWidget>
 
+#include <vector>
+
 /// The controls of the system's windows: thin classes over the toolkit's widgets. Each takes the name it has
 /// in the system (its objectName) and, where it shows one, its caption with "&" before the mnemonic. They
 /// are members of their form and get their parent from the layout.
@@ -98,6 +100,10 @@ class CommandButton : public QPushButton
 public:
     /// `icon` names a picture of the program's own set (assets/icons) without extension; empty for none.
     CommandButton(const QString &name, const QString &caption, const QString &icon = {});
+    QSize sizeHint() const override;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override; // Enter presses the focused button
 };
 
 /// A date field "dd/mm/yyyy" with a drop-down calendar; starts at today.
@@ -124,6 +130,7 @@ class SSTab : public QTabWidget
     Q_OBJECT
 public:
     explicit SSTab(const QString &name);
+    ~SSTab() override;
 };
 
 class Frame : public QGroupBox
@@ -131,6 +138,7 @@ class Frame : public QGroupBox
     Q_OBJECT
 public:
     Frame(const QString &name, const QString &caption);
+    ~Frame() override;
 };
 
 class TreeView : public QTreeWidget
@@ -154,20 +162,28 @@ class PictureBox : public QWidget
     Q_OBJECT
 public:
     PictureBox(const QString &name, QSizeF sizeTwips);
+    ~PictureBox() override;
 
     void loadPicture(
         const QString &file); ///< throws basic::Error 53 when the file is missing, 481 when it is no picture
     void clear();             ///< takes away what was drawn, not the background
     void drawLine(QPointF from, QPointF to, QColor colour);
     void drawCircle(QPointF centre, double radius, QColor colour);
+    void setSizeTwips(QSizeF size);
     /// Background and drawing as one picture, at the resolution of the background if that is finer than the
     /// screen.
     QImage image() const;
     QSizeF sizeTwips() const { return size_; }
     QSize sizeHint() const override;
 
+signals:
+    void clicked(QPointF twips);
+    void doubleClicked(QPointF twips);
+
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
 
 private:
     struct Stroke {
@@ -176,6 +192,7 @@ private:
         QColor colour;
     };
     void paintStrokes(QPainter &painter) const;
+    QPointF twipsAt(const QMouseEvent &event) const;
 
     QSizeF size_;
     QImage background_;

@@ -32,9 +32,14 @@ public:
 
     /// Binds a control of controls.h to a column by name: text, memo, check box (BIT), combo, date or label.
     void bind(QWidget &control, const QString &field);
-    bool dirty() const { return dirty_; } ///< a bound control was changed by the user and not written yet
-    void updateRecord();                  ///< writes the bound controls into the row
-    void updateControls();                ///< shows the row again, dropping what was changed
+    bool dirty() const { return dirty_; } ///< a bound control was changed and not written yet
+    bool hasRow() const;                  ///< there is a current row, or one being added
+    /// Writes the changed controls into the row, and a row being added to the table. Throws dao::Error; the
+    /// controls then keep what was typed.
+    void updateRecord();
+    void updateControls(); ///< shows the row again, dropping what was changed
+    void writeCell(qint64 row, int ordinal,
+                   const QString &text); ///< for grids: stands on the row and writes one column
 
     /// Runs a move, find, delete or edit on the recordset; writes changed controls first and tells the bound
     /// controls and grids afterwards.
@@ -43,12 +48,19 @@ public:
 signals:
     void reposition(); ///< the current row is another, or none
     void refreshed();  ///< the rows are others
+    void rowWritten(); ///< the bound controls' values are in the row
 
 private:
     struct Binding {
         QWidget *control;
         QString field;
+        bool changed = false;
     };
+    void leaveRow();
+    void forgetChanges();
+    void writeRow();
+    basic::Value valueToShow(const QString &field) const;
+
     dao::Database *database_ = nullptr;
     QString source_;
     dao::Recordset recordset_;

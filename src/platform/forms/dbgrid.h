@@ -39,6 +39,11 @@ protected:
 
 private:
     class Model;
+    void dropModel();
+    void sizeColumns();
+    int dataRow() const;
+    void followData();
+    void leadData(const QModelIndex &current);
     Model *model_ = nullptr;
     Data *data_ = nullptr;
     bool following_ = false;

@@ -5,7 +5,9 @@
 #include <QDialog>
 #include <QList>
 
+class QEventLoop;
 class QMdiArea;
+class QMdiSubWindow;
 
 namespace forms
 {
@@ -47,12 +49,14 @@ protected:
     virtual void escape() { unload(); }
 
     void closeEvent(QCloseEvent *event) override;
-    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     friend void activated(Form *form);
     void prepare();
+    QMdiSubWindow *frame() const; ///< of a child form, else null
     bool loaded_ = false;
+    QEventLoop *loop_ = nullptr; ///< of showModal()
 };
 
 /// The area of the main window that child forms open in; set once by the main window.
@@ -62,6 +66,11 @@ QMdiArea *childArea();
 Form *activeChild();
 /// Every form that exists, the main window aside, oldest first.
 QList<Form *> openForms();
+
+/// The visible forms, the last active one first.
+QList<Form *> formsByActivity();
+/// The modal form above all others, or null.
+Form *topModal();
 
 /// Tells the form system that `form` has become the active one; calls activate() when it was another before.
 void activated(Form *form);

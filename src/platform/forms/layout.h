@@ -63,6 +63,7 @@ struct FieldRow {
 
 struct Fields : Item {
     Fields(std::initializer_list<FieldRow> rows);
+    explicit Fields(std::vector<FieldRow> rows);
 };
 
 /// Equal columns side by side, items placed row by row.

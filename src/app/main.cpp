@@ -1,0 +1,25 @@
+#include "subsystems.h"
+
+#include "core/session/Vademecum.h"
+#include "core/session/ending.h"
+#include "core/session/startup.h"
+#include "platform/forms/application.h"
+#include "platform/settings/settings.h"
+
+using namespace Qt::StringLiterals;
+
+int main(int argc, char **argv)
+{
+    forms::Application application(argc, argv);
+    forms::Application::dress();
+    if (const QString title = qEnvironmentVariable("SANIRELL_TITULO"); !title.isEmpty())
+        settings::setApplicationTitle(title);
+    app::prepare();
+
+    // Start-up shows windows of its own, so it runs inside the event loop.
+    const QStringList words = QApplication::arguments();
+    std::unique_ptr<Vademecum> window;
+    QMetaObject::invokeMethod(
+        &application, [&] { window = MODULE11::iniciar(words.value(1)); }, Qt::QueuedConnection);
+    return QApplication::exec();
+}

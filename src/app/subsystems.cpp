@@ -1,0 +1,14 @@
+#include "subsystems.h"
+
+#include "clinical/register.h"
+#include "core/session/ayuda.h"
+#include "core/session/register.h"
+#include "paediatrics/register.h"
+
+void app::prepare()
+{
+    core::registerScreens();
+    clinical::registerScreens();
+    paediatrics::registerScreens();
+    instalarAyuda();
+}

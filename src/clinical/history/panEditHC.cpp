@@ -1,0 +1,192 @@
+#include "clinical/history/panEditHC.h"
+
+#include "clinical/patients/fichas.h"
+#include "core/security/eventos.h"
+#include "core/services/services.h"
+#include "core/session/session.h"
+#include "platform/basic/environment.h"
+#include "platform/basic/runtime.h"
+#include "platform/forms/boxes.h"
+#include "platform/forms/colour.h"
+#include "platform/forms/layout.h"
+#include "platform/printing/printer.h"
+#include "platform/settings/settings.h"
+
+#include <QFontDatabase>
+
+using namespace Qt::StringLiterals;
+using namespace forms;
+
+namespace
+{
+
+const QString accion = u"EDICION DE HC.TEXTUAL"_s;
+const QString ajusteFuente = u"Fuente Editor de HC"_s;
+const QString ajusteTamano = u"Tamaño Fuente Editor de HC"_s;
+const QString ajusteFondo = u"Color Fondo HC"_s;
+const QString ajusteLetra = u"Color Letra HC"_s;
+
+QString ajuste(const QString &clave, const QString &omision = {})
+{
+    const QString valor = settings::getSetting(u"Configuracion"_s, clave);
+    return valor.isEmpty() ? omision : valor;
+}
+
+void guardarAjuste(const QString &clave, const QString &valor)
+{
+    settings::saveSetting(u"Configuracion"_s, clave, valor);
+}
+
+QFont fuenteElegida()
+{
+    return QFont(ajuste(ajusteFuente, u"Arial"_s), ajuste(ajusteTamano, u"10"_s).toInt());
+}
+
+} // namespace
+
+panEditHC::panEditHC() : Form(u"panEditHC"_s)
+{
+    setWindowTitle(u"Edición de la historia clinica de "_s);
+    for (int puntos : {8, 9, 10, 11, 12, 14, 16, 18, 20, 24, 28, 36})
+        Combo1.addItem(QString::number(puntos));
+    Combo2.addItems(QFontDatabase::families());
+    Command9.setEnabled(false); // until the history can be told as text
+    for (CommandButton *boton :
+         {&Command1, &Command2, &Command3, &Command4, &Command5, &Command6, &Command7, &Command8, &Command9})
+        boton->setAutoDefault(false);
+
+    setContents(this, Column{
+                          Row{Command3, Command1, Command2, Stretch(), Command9},
+                          Row{Command4, Command5, Command6, Stretch(), Fields{{u"&Fuente :"_s, Combo2}},
+                              Fields{{u"&Tamaño :"_s, Combo1}}, Command7, Command8},
+                          Expanding(RT1),
+                      });
+    resize(900, 560);
+
+    connect(&RT1, &QPlainTextEdit::textChanged, this, [this] { modificado_ = true; });
+    connect(&Combo1, &QComboBox::textActivated, this, [this](const QString &puntos) {
+        guardarAjuste(ajusteTamano, puntos);
+        aplicarAspecto();
+    });
+    connect(&Combo2, &QComboBox::textActivated, this, [this](const QString &familia) {
+        guardarAjuste(ajusteFuente, familia);
+        aplicarAspecto();
+    });
+    connect(&Command1, &QPushButton::clicked, this, &panEditHC::command1Click);
+    connect(&Command2, &QPushButton::clicked, this, &panEditHC::command2Click);
+    connect(&Command3, &QPushButton::clicked, this, &panEditHC::command3Click);
+    connect(&Command4, &QPushButton::clicked, &RT1, &QPlainTextEdit::cut);
+    connect(&Command5, &QPushButton::clicked, &RT1, &QPlainTextEdit::copy);
+    connect(&Command6, &QPushButton::clicked, &RT1, &QPlainTextEdit::paste);
+    connect(&Command7, &QPushButton::clicked, this, [this] { elegirColor(ajusteFondo, u"Fondo"_s); });
+    connect(&Command8, &QPushButton::clicked, this, [this] { elegirColor(ajusteLetra, u"Letra"_s); });
+}
+
+void panEditHC::load()
+{
+    captionAjeno_ = windowTitle() != u"Edición de la historia clinica de ";
+    aplicarAspecto();
+}
+
+void panEditHC::activate()
+{
+    if (cargado_ != tag())
+        cargar();
+}
+
+void panEditHC::cargar()
+{
+    dao::Recordset pacientes = MODULE11::BaseDatos.openRecordset(u"Pacientes"_s);
+    pacientes.setIndex(u"PrimaryKey");
+    pacientes.seek(u"=", tag());
+    if (pacientes.noMatch()) {
+        MODULE11::MuestraError(u"Paciente no encontrado!"_s);
+        return;
+    }
+    if (!captionAjeno_)
+        setWindowTitle(u"Edición de la historia clinica de "_s + pacientes[u"Apellido y Nombres"].text());
+    RT1.setPlainText(pacientes[u"Historia Clinica"].text());
+    cargado_ = tag();
+    modificado_ = false;
+}
+
+void panEditHC::aplicarAspecto()
+{
+    const QFont fuente = fuenteElegida();
+    Combo1.setValue(QString::number(fuente.pointSize()));
+    Combo2.setValue(fuente.family());
+    RT1.setFont(fuente);
+    if (const QString fondo = ajuste(ajusteFondo); !fondo.isEmpty())
+        setBackColor(RT1, fromColourValue(fondo.toInt()));
+    if (const QString letra = ajuste(ajusteLetra); !letra.isEmpty())
+        setForeColor(RT1, fromColourValue(letra.toInt()));
+}
+
+void panEditHC::elegirColor(const QString &clave, const QString &titulo)
+{
+    const QString guardado = ajuste(clave);
+    const QColor actual = clave == ajusteFondo ? backColor(RT1) : foreColor(RT1);
+    const auto elegido =
+        colourDialog(titulo, guardado.isEmpty() ? actual : fromColourValue(guardado.toInt()));
+    if (!elegido)
+        return;
+    guardarAjuste(clave, QString::number(toColourValue(*elegido)));
+    aplicarAspecto();
+}
+
+/// Whether the text may be left: nothing was changed, or the person gives the changes up.
+bool panEditHC::dejarLosCambios()
+{
+    if (!modificado_)
+        return true;
+    if (!MODULE11::Pregunta(u"Está seguro de salir sin guardar los cambios??"_s))
+        return false;
+    MODULE11::RegistraEvento(accion, u"PACIENTE : %1 // SALE SIN GUARDAR CAMBIOS"_s.arg(cargado_));
+    return true;
+}
+
+bool panEditHC::queryUnload()
+{
+    return dejarLosCambios();
+}
+
+void panEditHC::command1Click()
+{
+    const QString numero = EligePaciente();
+    if (numero.isEmpty() || numero == u"0" || !dejarLosCambios())
+        return;
+    setTag(numero);
+    captionAjeno_ = false;
+    cargar();
+}
+
+void panEditHC::command2Click()
+{
+    printing::Choice impresora;
+    if (!printing::defaultChoice(impresora))
+        return;
+    printing::Document documento(impresora, windowTitle());
+    documento.setFont(fuenteElegida());
+    documento.print(u"Fecha de impresión : "_s + basic::format(basic::today(), u"dd/mm/yyyy"));
+    documento.print(u"----------------------------------"_s);
+    documento.print(RT1.toPlainText());
+    documento.endDoc();
+}
+
+void panEditHC::command3Click()
+{
+    dao::Recordset pacientes = MODULE11::BaseDatos.openRecordset(u"Pacientes"_s);
+    pacientes.setIndex(u"PrimaryKey");
+    pacientes.seek(u"=", tag());
+    if (pacientes.noMatch()) {
+        MODULE11::MuestraError(u"No se localizó el paciente para efectuar los cambios!!!"_s);
+        return;
+    }
+    const QString texto = RT1.toPlainText();
+    pacientes.edit();
+    pacientes[u"Historia Clinica"] = texto;
+    pacientes.update();
+    modificado_ = false;
+    MODULE11::RegistraEvento(
+        accion, u"GUARDAR CAMBIOS // PACIENTE : %1 // LARGO TXT : %2"_s.arg(tag()).arg(texto.size()));
+}

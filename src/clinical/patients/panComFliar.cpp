@@ -1,0 +1,76 @@
+#include "clinical/patients/panComFliar.h"
+
+#include "clinical/patients/panAnteFliares.h"
+#include "platform/forms/layout.h"
+
+using namespace Qt::StringLiterals;
+using namespace forms;
+
+namespace
+{
+
+const QDate sinFecha(1900, 1, 1); // stands for a date that is not known
+
+const QStringList ocupacionesDelPadre = {u"<No>"_s,       u"Empleado"_s, u"Profesional"_s, u"Jubilado"_s,
+                                         u"Desocupado"_s, u"Tecnico"_s,  u"Comerciante"_s, u"Empresario"_s,
+                                         u"Artista"_s,    u"Docente"_s};
+const QStringList ocupacionesDeLaMadre = {u"<No>"_s,       u"Empleada"_s, u"Profesional"_s, u"Jubilada"_s,
+                                          u"Desocupada"_s, u"Tecnica"_s,  u"Comerciante"_s, u"Empresaria"_s,
+                                          u"Artista"_s,    u"Docente"_s,  u"Ama de Casa"_s};
+
+} // namespace
+
+panComFliar::panComFliar() : Form(u"panComFliar"_s)
+{
+    setWindowTitle(u"Condición familiar del paciente"_s);
+    for (const Progenitor quien : {padre, madre}) {
+        Text1.add(quien, 100);
+        Combo1.add(quien, quien == padre ? ocupacionesDelPadre : ocupacionesDeLaMadre, true)
+            .setValue(u"<No>"_s);
+        Text2.add(quien, 20);
+    }
+    mFPa.setValue(basic::Date(sinFecha));
+    mFMa.setValue(basic::Date(sinFecha));
+    List1.setToolTip(u"Antecedentes psicologicos familiares"_s);
+    Command7.setToolTip(u"Agrega una patologia familiar a la lista"_s);
+    Command8.setToolTip(u"Borra la patologia seleccionada"_s);
+    Command1.setDefault(true);
+    Command7.setAutoDefault(false);
+    Command8.setAutoDefault(false);
+
+    const auto progenitor = [this](const QString &titulo, const QString &nombre, Progenitor quien) {
+        return Group(titulo, Fields{{nombre, Text1(quien)},
+                                    {u"Fecha de nacimiento :"_s, quien == padre ? mFPa : mFMa},
+                                    {u"Actividad Laboral"_s, Combo1(quien)},
+                                    {u"Horas de permanencia en el hogar :"_s, Text2(quien)}});
+    };
+    setContents(this, Column{
+                          Row{progenitor(u"Padre"_s, u"Nombre del &padre"_s, padre),
+                              progenitor(u"Madre"_s, u"Nombre de la &madre"_s, madre)},
+                          Group(u"Patologías familiares"_s,
+                                Row{Expanding(List1), Column{Command7, Command8, Stretch()}}),
+                          Row{Stretch(), Command1, Command2},
+                      });
+    connect(&Command7, &QPushButton::clicked, this, &panComFliar::command7Click);
+    connect(&Command8, &QPushButton::clicked, this, &panComFliar::command8Click);
+    connect(&Command1, &QPushButton::clicked, this, [this] { answer(u"SI"_s); });
+    connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
+}
+
+basic::Value panComFliar::nacimiento(const DTPicker &fecha) const
+{
+    return fecha.value().date() == sinFecha ? basic::Value(basic::Null{}) : basic::Value(fecha.value());
+}
+
+void panComFliar::command7Click()
+{
+    panAnteFliares seleccion;
+    seleccion.showModal();
+    if (seleccion.tag() == u"SI")
+        List1.addItems(seleccion.marcados());
+}
+
+void panComFliar::command8Click()
+{
+    delete List1.takeItem(List1.currentRow());
+}

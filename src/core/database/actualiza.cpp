@@ -1,0 +1,228 @@
+#include "core/database/actualiza.h"
+
+#include "core/session/session.h"
+#include "platform/basic/errors.h"
+#include "platform/forms/boxes.h"
+
+using namespace Qt::StringLiterals;
+
+namespace MODULE11
+{
+
+namespace
+{
+
+// In this order; a later index needs an earlier column. Some fail at every run by design.
+constexpr const char *antesDeLosEstados[] = {
+    "ALTER TABLE TURNOS ADD COLUMN idTurno COUNTER",
+    "CREATE INDEX idTurno ON Turnos (idTurno)",
+    "ALTER TABLE Profesionales ADD COLUMN interturnos INTEGER",
+    "ALTER TABLE TRATAMIENTOS ADD COLUMN IMAGEN TEXT(100)",
+    "ALTER TABLE TRATAMIENTOS ADD COLUMN NOMBRECOMERCIAL TEXT(50)",
+    "ALTER TABLE TRATAMIENTOS ADD COLUMN DETALLES MEMO",
+    "ALTER TABLE PACIENTES ADD COLUMN IdProfesional LONG",
+    "CREATE INDEX idProfesional ON Pacientes (IdProfesional)",
+    "ALTER TABLE CAJA ADD COLUMN idCaja COUNTER",
+    "ALTER TABLE Recetario ADD COLUMN idReceta COUNTER",
+    "ALTER TABLE Recetario ADD COLUMN idPaciente Long",
+    "CREATE INDEX idReceta on Recetario (idReceta)",
+    "CREATE INDEX idPaciente on Recetario (idPaciente)",
+    "CREATE TABLE ExFisico (idExFisico COUNTER, idPaciente LONG, idConsulta LONG, Fecha DATE, Titulo TEXT(50), Valor TEXT(100), Dr TEXT(50))",
+    "CREATE INDEX idExFisico on ExFisico (idExFisico)",
+    "CREATE INDEX idPaciente on ExFisico (idPaciente)",
+    "CREATE INDEX Fecha on ExFisico (Fecha)",
+    "ALTER TABLE Consulta ADD COLUMN idConsulta COUNTER",
+    "CREATE INDEX idConsulta on Consulta (idConsulta)",
+    "ALTER TABLE Recetario ADD COLUMN Dr TEXT(50)",
+    "ALTER TABLE Tratamientos ADD COLUMN idTratamiento COUNTER",
+    "CREATE INDEX idTratamiento on Tratamientos (idTratamiento)",
+    "ALTER TABLE Diagnosticos ADD COLUMN idDiagnosticoCIE COUNTER",
+    "CREATE INDEX idDiagnosticoCIE on Diagnosticos (idDiagnosticoCIE)",
+    "ALTER TABLE DIAGPERSONALES ADD COLUMN idDiagPersonales COUNTER",
+    "CREATE INDEX idDiagPersonales on DIAGPERSONALES (idDiagPersonales)",
+    "ALTER TABLE Consulta ADD COLUMN Dosis1 TEXT(30)",
+    "ALTER TABLE Consulta ADD COLUMN Dosis2 TEXT(30)",
+    "ALTER TABLE Consulta ADD COLUMN Dosis3 TEXT(30)",
+    "ALTER TABLE Consulta ADD COLUMN Dosis4 TEXT(30)",
+    "ALTER TABLE Consulta ADD COLUMN Dosis5 TEXT(30)",
+    "ALTER TABLE Consulta ADD COLUMN Intervalo1 TEXT(30)",
+    "ALTER TABLE Consulta ADD COLUMN Intervalo2 TEXT(30)",
+    "ALTER TABLE Consulta ADD COLUMN Intervalo3 TEXT(30)",
+    "ALTER TABLE Consulta ADD COLUMN Intervalo4 TEXT(30)",
+    "ALTER TABLE Consulta ADD COLUMN Intervalo5 TEXT(30)",
+    "ALTER TABLE Consulta ADD COLUMN Lapso1 TEXT(30)",
+    "ALTER TABLE Consulta ADD COLUMN Lapso2 TEXT(30)",
+    "ALTER TABLE Consulta ADD COLUMN Lapso3 TEXT(30)",
+    "ALTER TABLE Consulta ADD COLUMN Lapso4 TEXT(30)",
+    "ALTER TABLE Consulta ADD COLUMN Lapso5 TEXT(30)",
+    "ALTER TABLE Estudios ADD COLUMN Hora TIME",
+    "ALTER TABLE Turnos ADD COLUMN Estado TEXT(20)",
+    "CREATE INDEX Estado on Turnos (Estado)",
+    "ALTER TABLE Consulta ADD COLUMN idPrestacion LONG",
+    "CREATE INDEX IdPrestacion ON Consulta (IdPrestacion)",
+    "ALTER TABLE Consulta ADD COLUMN NroOrden TEXT(50)",
+    "ALTER TABLE Consulta ADD COLUMN ObrSocial TEXT(50)",
+    "CREATE INDEX ObrSocial ON Consulta (ObrSocial)",
+    "ALTER TABLE Consulta ADD COLUMN StatusOrden TEXT(20)",
+    "CREATE INDEX StatusOrden ON Consulta (StatusOrden)",
+    "ALTER TABLE [Obra Social] ADD COLUMN idObraSocial COUNTER",
+    "CREATE INDEX IdObraSocial ON [Obra Social] (idObraSocial)",
+    "ALTER TABLE Turnos ADD COLUMN idPaciente LONG",
+    "ALTER TABLE Turnos ADD COLUMN idProfesional LONG",
+    "ALTER TABLE Turnos ADD COLUMN idMutual LONG",
+    "CREATE INDEX idPaciente ON Turnos (idPaciente)",
+    "CREATE INDEX idProfesional ON Turnos (idProfesional)",
+    "CREATE INDEX idMutual ON Turnos (idMutual)",
+    "CREATE TABLE EstadosTurnos (idEstado COUNTER, Estado TEXT(40))",
+    "CREATE INDEX idEstado ON EstadosTurnos (idEstado)",
+    "CREATE INDEX Estado ON EstadosTurnos (Estado)",
+    "ALTER TABLE Pacientes ADD COLUMN FechaBaja DATE",
+};
+
+constexpr const char *estados[] = {"Asignado", "Ausente", "En Curso", "En espera", "Espontáneo", "Rechazado"};
+
+constexpr const char *trasLosEstados[] = {
+    "CREATE TABLE Prestaciones (idPrestacion COUNTER, idGrupoPrestaciones LONG, Codigo TEXT(10), Descripcion TEXT(50), [Honorarios Especialista] Currency, [Honorarios Ayudantes] Currency, [Cantidad Ayudantes] Integer, [Total Honorarios] Currency, Gastos Currency, CoSeguro Currency, [Valor Total] Currency, idTipoUnidadArancelaria LONG, idPlanDeSalud LONG, TipoFacturacion TEXT(2), AlicuotaIva Currency)",
+    "CREATE UNIQUE INDEX idPrestacion ON Prestaciones (idPrestacion) WITH PRIMARY",
+    "CREATE INDEX Codigo ON Prestaciones (Codigo)",
+    "CREATE INDEX Descripcion ON Prestaciones (Descripcion)",
+    "CREATE INDEX idGrupo ON Prestaciones (idGrupo)",
+    "CREATE INDEX idPlanDeSalud on Prestaciones (idPlanDeSalud)",
+    "ALTER TABLE Usuarios ADD COLUMN Tipo Text(1)",
+    "ALTER TABLE Usuarios ADD COLUMN idUsuario COUNTER",
+    "CREATE UNIQUE INDEX idUsuario on Usuarios (idUsuario) WITH PRIMARY",
+    "ALTER TABLE Profesionales ADD COLUMN TipoPermiso Text(1)",
+    "ALTER TABLE Profesionales ADD COLUMN idUsuario LONG",
+    "CREATE INDEX idUsuario ON Profesionales (idUsuario)",
+    "ALTER TABLE Turnos ADD COLUMN Coseguro TEXT(60)",
+    "ALTER TABLE Turnos ADD COLUMN Observaciones MEMO",
+    "ALTER TABLE Consulta ADD COLUMN Facturada BIT",
+    "CREATE INDEX Facturada ON Consulta (Facturada)",
+    "ALTER TABLE Consulta ADD COLUMN TmpCheck Text(1)",
+    "CREATE TABLE Facturacion (idFacturacion COUNTER, idPrestador LONG, Numero TEXT(15), Fecha DATE, idObraSocial LONG, Total CURRENCY, Cobrada BIT)",
+    "CREATE INDEX idFacturacion on Facturacion (idFacturacion)",
+    "CREATE INDEX Fecha on Facturacion (Fecha)",
+    "CREATE INDEX idObraSocial on Facturacion (idObraSocial)",
+    "CREATE INDEX Numero on Facturacion (Numero)",
+    "CREATE INDEX idPrestador on Facturacion (idPrestador)",
+    "CREATE TABLE DetalleFacturacion (idDetFacturacion COUNTER, idFactura LONG,idPaciente LONG, NroOrden TEXT (30), idPrestacion LONG, Importe CURRENCY, idConsulta LONG)",
+    "CREATE INDEX idDetFacturacion on DetalleFacturacion (idDetFacturacion)",
+    "CREATE INDEX idFactura on DetalleFacturacion (idFactura)",
+    "CREATE INDEX idPaciente on DetalleFacturacion (idPaciente)",
+    "CREATE INDEX idCOnsulta on DetalleFacturacion (idConsulta)",
+    "ALTER TABLE Turnos ADD COLUMN Observaciones MEMO",
+    "ALTER TABLE Niveles ADD COLUMN AgregarFacturacion BIT",
+    "ALTER TABLE Niveles ADD COLUMN BorrarFacturacion BIT",
+    "ALTER TABLE Niveles ADD COLUMN IngresarAFacturacion BIT",
+};
+
+constexpr const char *trasLosTamanos[] = {
+    "ALTER TABLE Turnos ADD Column EDAD TEXT(15)",
+    "UPDATE Niveles SET AgregarFacturacion = TRUE, BorrarFacturacion = TRUE, IngresarAFacturacion = TRUE WHERE Descripcion = 'supervisor' and Nivel = 3",
+    "CREATE TABLE Articulos (idArticulo COUNTER, idProfesional LONG, Codigo TEXT(15), Descripcion TEXT(50), idProveedor LONG, idRubro LONG, StockActual DOUBLE, StockIdeal DOUBLE, StockMinimo DOUBLE, idUnidadMedida LONG, PrecioCostoSinImpuestos CURRENCY, CostoTotal CURRENCY, PrecioVenta CURRENCY)",
+    "CREATE UNIQUE INDEX idArticulo ON Articulos (idArticulo)",
+    "CREATE INDEX idProfesional ON Articulos (idProfesional)",
+    "CREATE INDEX Codigo ON Articulos (Codigo)",
+    "CREATE INDEX Descripcion ON Articulos (Descripcion)",
+    "CREATE INDEX idProveedor ON Articulos (idProveedor)",
+    "CREATE INDEX idRubro ON Articulos (idRubro)",
+    "CREATE INDEX idUnidadMedida ON Articulos (idUnidadMedida)",
+    "CREATE TABLE MovStock (idMovStock COUNTER, idArticulo LONG, Cantidad DOUBLE, Fecha DATE, idTipoMovimiento LONG, Comprobante TEXT(20))",
+    "CREATE UNIQUE INDEX idMovStock on MovStock (idMovStock)",
+    "CREATE INDEX idArticulo ON MovStock (idArticulo)",
+    "CREATE INDEX Fecha ON MovStock (Fecha)",
+    "CREATE INDEX idTipoMovimiento on MovStock (idTipoMovimiento)",
+    "CREATE INDEX Comprobante ON MovStock (Comprobante)",
+    "CREATE TABLE TipoMovimientos (idTipoMovimiento COUNTER, Descripcion TEXT(50))",
+    "CREATE UNIQUE INDEX idTipoMovimiento ON TipoMovimientos (idTipoMovimiento)",
+    "CREATE TABLE Proveedores (idProveedor COUNTER, Persona TEXT(50), Empresa TEXT(50), Domicilio TEXT(50), Telefono TEXT(50), Email TEXT(60), Cuit TEXT(15))",
+    "CREATE UNIQUE INDEX idProveedor ON Proveedores (idProveedor)",
+    "CREATE INDEX Persona ON Proveedores (Persona)",
+    "CREATE INDEX Empresa ON Proveedores (Empresa)",
+    "CREATE TABLE Rubros (idRubro COUNTER, Descripcion TEXT(50))",
+    "CREATE UNIQUE INDEX idRubro ON Rubros (idRubro)",
+    "CREATE TABLE UnidadMedidas (idUnidadMedida COUNTER, Descripcion TEXT(50))",
+    "CREATE UNIQUE INDEX idUnidadMedida ON UnidadMedidas (idUnidadMedida)",
+};
+
+void ejecuta(const QString &sentencia)
+{
+    basic::ignoringErrors([&] { BaseDatos.execute(sentencia); });
+}
+
+template <std::size_t n>
+void ejecuta(const char *const (&sentencias)[n])
+{
+    for (const char *sentencia : sentencias)
+        ejecuta(QString::fromUtf8(sentencia));
+}
+
+/// Gives a column of `Turnos` that is still `tamano` characters long its present 60; its values are lost.
+void alargaCampoDeTurnos(const QString &campo, int tamano)
+{
+    basic::ignoringErrors([&] {
+        const dao::TableDef turnos = BaseDatos.tableDef(u"turnos");
+        const dao::FieldDef *columna = turnos.field(campo);
+        if (!columna || columna->size != tamano)
+            return;
+        ejecuta(u"ALTER TABLE Turnos DROP COLUMN "_s + campo);
+        ejecuta(u"ALTER TABLE Turnos ADD COLUMN %1 TEXT(60)"_s.arg(campo));
+    });
+}
+
+/// Accounts of older versions have no type; they count as doctors.
+void reparaTipoDeUsuarios()
+{
+    basic::ignoringErrors([] {
+        dao::Recordset usuarios = BaseDatos.openRecordset(u"Select * from usuarios"_s);
+        for (; !usuarios.eof(); usuarios.moveNext()) {
+            if (!usuarios[u"Tipo"].isNull())
+                continue;
+            usuarios.edit();
+            usuarios[u"Tipo"] = u"M"_s;
+            usuarios.update();
+        }
+    });
+}
+
+} // namespace
+
+void ActualizaBase()
+{
+    ejecuta(antesDeLosEstados);
+    for (const char *estado : estados)
+        basic::ignoringErrors([&] { AgregaEstadoTurno(QString::fromUtf8(estado)); });
+    ejecuta(trasLosEstados);
+    alargaCampoDeTurnos(u"Coseguro"_s, 20);
+    alargaCampoDeTurnos(u"Motivo"_s, 50);
+    ejecuta(trasLosTamanos);
+    reparaTipoDeUsuarios();
+}
+
+void AgregaEstadoTurno(const QString &estado)
+{
+    dao::Recordset filas =
+        BaseDatos.openRecordset(u"Select * from EstadosTurnos where estado = '%1'"_s.arg(estado));
+    if (!filas.eof())
+        return;
+    filas.addNew();
+    filas[u"estado"] = estado;
+    filas.update();
+}
+
+void ModificaCampo(const QString &tabla, const QString &campo, dao::FieldType tipo, int tamano,
+                   const QString &accion)
+{
+    dao::TableDef definicion = BaseDatos.tableDef(tabla);
+    if (!definicion.updatable()) {
+        forms::msgBox(u"¡TableDef no se puede actualizar! No se puede terminar la tarea."_s,
+                      forms::Icon::None, u"Error"_s);
+        return;
+    }
+    if (accion == u"DELETE")
+        definicion.deleteField(campo);
+    else if (!definicion.field(campo))
+        definicion.append({campo, tipo, tamano});
+}
+
+} // namespace MODULE11

@@ -1,0 +1,53 @@
+#include "core/security/niveles.h"
+
+#include "core/security/eventos.h"
+#include "core/session/session.h"
+#include "platform/basic/environment.h"
+#include "platform/basic/errors.h"
+#include "platform/forms/boxes.h"
+
+using namespace Qt::StringLiterals;
+
+namespace MODULE11
+{
+
+namespace
+{
+
+void rechaza(const QString &clave, const QString &texto, const QString &suceso)
+{
+    forms::msgBox(texto, forms::Icon::Critical, u"Error"_s);
+    RegistraEvento(clave, suceso);
+}
+
+} // namespace
+
+bool VerificaNivel(const QString &clave)
+{
+    if (NivelActual == 0) {
+        RegistraEvento(clave, u"<NADIE>"_s, basic::today(), basic::time(),
+                       u"INGRESO CORRECTO SIN USUARIOS"_s);
+        return true;
+    }
+    bool definido = false;
+    bool permitido = false;
+    basic::ignoringErrors([&] {
+        dao::Recordset niveles = BaseDatos.openRecordset(u"Niveles"_s);
+        niveles.setIndex(u"nivel");
+        niveles.seek(u"=", NivelActual);
+        definido = !niveles.noMatch();
+        permitido = definido && niveles[clave].truth(); // an unknown key reads as a refusal
+    });
+    if (permitido)
+        RegistraEvento(clave, u"INGRESO CORRECTO"_s);
+    else if (definido)
+        rechaza(clave, u"Nivel no permitido para el usuario "_s + UsuarioActual, u"NIVEL NO PERMITIDO"_s);
+    else
+        rechaza(
+            clave,
+            u"El usuario actual no tiene definido el nivel de acceso o el nivel de acceso de este usuario no existe. Verifique Niveles de acceso y usuarios del menu Servicios"_s,
+            u"NIVEL NO DEFINIDO PARA EL USUARIO"_s);
+    return permitido;
+}
+
+} // namespace MODULE11

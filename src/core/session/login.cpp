@@ -1,0 +1,87 @@
+#include "core/session/login.h"
+
+#include "core/session/panIngresoUsuario.h"
+#include "core/session/session.h"
+#include "platform/basic/errors.h"
+#include "platform/forms/boxes.h"
+
+using namespace Qt::StringLiterals;
+
+namespace MODULE11
+{
+
+TurnosPorUsuario turnosPorUsuario;
+
+namespace
+{
+
+constexpr int intentos = 3;
+constexpr int suspendido = 1000;
+
+void error(const QString &texto, const QString &titulo = u"Error"_s)
+{
+    forms::msgBox(texto, forms::Icon::Critical, titulo);
+}
+
+enum class Intento { Aceptado, Repetir, Rechazado };
+
+/// One pass through the login window.
+Intento intentar(panIngresoUsuario &ventana)
+{
+    ventana.setTag({});
+    ventana.showModal();
+    if (ventana.tag() != u"SI") {
+        error(u"No podrá ingresar al sistema"_s, u"Error de ingreso"_s);
+        return Intento::Rechazado;
+    }
+    dao::Recordset usuarios;
+    const bool leido = basic::ignoringErrors([&] {
+        usuarios =
+            BaseDatos.openRecordset(u"Select * from usuarios where nombre = '%1'"_s.arg(ventana.usuario()));
+    });
+    if (!leido || usuarios.eof()) {
+        error(u"Usuario no registrado en el sistema."_s);
+        return Intento::Repetir;
+    }
+    const int nivel = static_cast<int>(usuarios[u"Nivel"].integer());
+    if (nivel >= suspendido) {
+        error(u"Usuario Suspendido para el ingreso al sistema"_s);
+        return Intento::Rechazado;
+    }
+    if (usuarios[u"clave"].text() != ventana.clave()) {
+        error(u"Clave de acceso errónea."_s);
+        return Intento::Repetir;
+    }
+    NivelActual = nivel;
+    UsuarioActual = usuarios[u"Nombre"].text();
+    IdUsuarioActual = usuarios[u"idUsuario"].integer();
+    TipoUsuario = usuarios[u"Tipo"].value().isBlank() ? u"M"_s : usuarios[u"Tipo"].text();
+    turnosPorUsuario = {ventana.fechaDeTurnos(), ventana.profesionalDeTurnos()};
+    return Intento::Aceptado;
+}
+
+bool hayUsuarios()
+{
+    bool hay = false;
+    basic::ignoringErrors([&] { hay = !BaseDatos.openRecordset(u"Usuarios"_s).eof(); });
+    return hay;
+}
+
+} // namespace
+
+bool ingresar()
+{
+    if (!hayUsuarios()) {
+        forms::msgBox(
+            u"Si desea controlar el ingreso de los usuarios al sistema, deberá agregarlos en el menú herramientas --> control de acceso --> usuarios"_s,
+            forms::Icon::Information, u"Sugerencia"_s);
+        return true;
+    }
+    panIngresoUsuario ventana;
+    for (int intento = 0; intento < intentos; ++intento)
+        if (const Intento resultado = intentar(ventana); resultado != Intento::Repetir)
+            return resultado == Intento::Aceptado;
+    return false;
+}
+
+} // namespace MODULE11

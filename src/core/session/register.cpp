@@ -1,0 +1,15 @@
+#include "core/session/register.h"
+
+#include "core/session/acerca.h"
+#include "core/session/asistente.h"
+#include "core/session/panPersonaliza.h"
+#include "core/session/screens.h"
+
+using namespace Qt::StringLiterals;
+
+void core::registerScreens()
+{
+    screens::add<panPersonaliza>(u"panPersonaliza"_s);
+    screens::add<asistente>(u"asistente"_s);
+    screens::add<acerca>(u"acerca"_s);
+}

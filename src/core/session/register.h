@@ -1,0 +1,9 @@
+#pragma once
+
+namespace core
+{
+
+/// Registers the windows of this subsystem.
+void registerScreens();
+
+} // namespace core

@@ -1,0 +1,182 @@
+#include "core/session/startup.h"
+
+#include "core/database/actualiza.h"
+#include "core/services/services.h"
+#include "core/session/Vademecum.h"
+#include "core/session/ending.h"
+#include "core/session/login.h"
+#include "core/session/panSelProf.h"
+#include "core/session/portada.h"
+#include "core/session/screens.h"
+#include "core/session/session.h"
+#include "platform/basic/environment.h"
+#include "platform/basic/errors.h"
+#include "platform/basic/runtime.h"
+#include "platform/forms/boxes.h"
+#include "platform/forms/twips.h"
+#include "platform/settings/settings.h"
+#include "platform/shell/shell.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QScreen>
+
+using namespace Qt::StringLiterals;
+
+namespace MODULE11
+{
+
+namespace
+{
+
+constexpr double anchoMinimo = 12000; // twips
+const QString tablaPorOmision = u"POSRECETARIO"_s;
+const QString claveDelRecetario = u"Archivo de configuraciones de la receta"_s;
+
+void escribirSiVacio(const QString &clave, const QString &valor)
+{
+    if (settings::getSetting(u"Configuracion"_s, clave).isEmpty())
+        settings::saveSetting(u"Configuracion"_s, clave, valor);
+}
+
+void abrirBase()
+{
+    QDir::setCurrent(basic::programFolder());
+    basic::ignoringErrors([] { BaseDatos.open(u"BASE.MDB"_s, false, false, conexionDeLaBase()); });
+    settings::saveSetting(u"Sanirell!"_s, u"Ruta"_s, u"Ruta"_s, basic::programFolder() + u"\\BASE.MDB"_s);
+    escribirSiVacio(u"Abrir ficha paciente"_s, u"FICHA GLOBAL"_s);
+}
+
+void importar()
+{
+    if (screens::has(u"panImportAfiliados"_s))
+        screens::showModal(u"panImportAfiliados"_s, u"AUTO"_s);
+    else
+        MuestraError(u"La importación de afiliados no está disponible en esta versión."_s);
+    terminar();
+}
+
+bool existeTabla(const QString &nombre)
+{
+    return BaseDatos.tableNames().contains(nombre, Qt::CaseInsensitive);
+}
+
+void avisarPantallaChica()
+{
+    if (forms::toTwips(QGuiApplication::primaryScreen()->size().width()) >= anchoMinimo)
+        return;
+    forms::msgBox(
+        u"ATENCION : Para poder visualizar el sistema en toda su magnitud, debe configurar la pantalla en una resolución de 1024 x 768 pixels o superior. Para ello, dirijase al Panel de control de Windows, elija Pantalla y en la hojuela Configuración realize el cambio correspondiente."_s,
+        forms::Icon::Exclamation, u"Visualización de Video"_s);
+}
+
+void adoptarDoctor(const QString &nombre)
+{
+    settings::saveSetting(u"Usuario"_s, u"Apellido y Nombres"_s, nombre);
+    DrActual = nombre;
+}
+
+/// `DrActual` still holds its initial text here, so the question comes at every start unless a professional
+/// bears exactly that name.
+void elegirDoctorDelEquipo()
+{
+    const QString consulta = u"Select * from profesionales where nombre = '%1'"_s.arg(DrActual);
+    basic::Value nombre; // a look-up that fails leaves it empty, which is not Null
+    basic::ignoringErrors([&] { nombre = BuscaCampo(consulta, u"Nombre"); });
+    if (!nombre.isNull())
+        return;
+    panSelProf seleccion;
+    seleccion.showModal();
+    if (seleccion.tag() == u"SI" && !seleccion.nombre().isEmpty())
+        adoptarDoctor(seleccion.nombre());
+}
+
+void enlazarUsuarioConProfesional()
+{
+    basic::ignoringErrors([] {
+        const QString consulta =
+            u"Select nombre,idUsuario from profesionales where idusuario = %1"_s.arg(IdUsuarioActual);
+        if (!BuscaCampo(consulta, u"idUsuario").isNull())
+            adoptarDoctor(BuscaCampo(consulta, u"nombre").text());
+    });
+}
+
+} // namespace
+
+QString conexionDeLaBase()
+{
+    return u";PWD=qTzR8mvW2"_s;
+}
+
+void prepararRecetario()
+{
+    if (!TablaRecetario.isEmpty())
+        return;
+    if (!BaseDatos.isOpen()) { // nothing is told about a missing base before the login
+        TablaRecetario = tablaPorOmision;
+        return;
+    }
+    QString nombre = settings::getSetting(u"Configuracion"_s, claveDelRecetario);
+    if (nombre.isEmpty()) {
+        nombre = u"TblRec_"_s + basic::sqlNumber(basic::timer()).remove(u'.');
+        const bool creada = basic::ignoringErrors([&] {
+            BaseDatos.execute(
+                u"CREATE TABLE [%1] (Elemento LONG, Valor TEXT(100), [Posicion X] Long, [Posicion Y] Long, Fuente TEXT(40), [Tamaño] LONG, Bold BIT, Italic BIT, Subrayado BIT, Fecha BIT, Grafico BIT)"_s
+                    .arg(nombre));
+            BaseDatos.execute(u"CREATE INDEX PrimaryKey on [%1] (Elemento)"_s.arg(nombre));
+        });
+        if (creada) {
+            settings::saveSetting(u"Configuracion"_s, claveDelRecetario, nombre);
+        } else {
+            forms::msgBox(
+                u"No se ha creado una tabla definida por el usuario, se utilizará la tabla por omisión"_s,
+                forms::Icon::Information, u"Atencion"_s);
+            nombre = u"posRecetario"_s;
+        }
+    }
+    if (!existeTabla(nombre)) {
+        forms::msgBox(
+            u"Error : La tabla %1 no está creada en la base de datos, se utilizará la tabla POSRECETARIO."_s
+                .arg(nombre),
+            forms::Icon::Critical, u"Error"_s);
+        nombre = tablaPorOmision;
+        settings::saveSetting(u"Configuracion"_s, claveDelRecetario, nombre);
+    }
+    TablaRecetario = nombre;
+}
+
+std::unique_ptr<Vademecum> iniciar(const QString &comando)
+{
+    valoresIniciales();
+    auto principal = std::make_unique<Vademecum>();
+    if (!shell::claimSingleInstance(settings::applicationTitle())) {
+        forms::msgBox(u"Otra instancia del programa se está ejecutando en éste momento!"_s,
+                      forms::Icon::Critical, u"Error"_s);
+        terminar();
+        return nullptr;
+    }
+    {
+        portada presentacion;
+        presentacion.showModal();
+    }
+    abrirBase();
+    if (comando.toUpper() == u"IMPORTAR") {
+        importar();
+        return nullptr;
+    }
+    ActualizaBase();
+    basic::ignoringErrors(prepararRecetario);
+    avisarPantallaChica();
+    elegirDoctorDelEquipo();
+    escribirSiVacio(u"AplicacionEdicionImagenes"_s, u"C:\\WINDOWS\\SYSTEM32\\MSPAINT.EXE"_s);
+    sinUsuario();
+    if (!ingresar()) {
+        terminar();
+        return nullptr;
+    }
+    enlazarUsuarioConProfesional();
+    principal->show();
+    return principal;
+}
+
+} // namespace MODULE11

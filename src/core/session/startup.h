@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+class Vademecum;
+
+namespace MODULE11
+{
+
+/// The start-up procedure, in its fixed order, up to the main window shown. `comando` is the word of the
+/// command line. Null when the program has ended on the way.
+std::unique_ptr<Vademecum> iniciar(const QString &comando);
+
+/// The connect string under which the practice's file is opened.
+QString conexionDeLaBase();
+
+/// Settles the table of the prescription layout: the one in the settings, or a new one of this workstation.
+void prepararRecetario();
+
+} // namespace MODULE11

@@ -1,0 +1,86 @@
+#include "paediatrics/anthropometry/panMedidas.h"
+
+#include "core/services/services.h"
+#include "platform/basic/environment.h"
+#include "platform/basic/runtime.h"
+#include "platform/forms/layout.h"
+#include "platform/settings/settings.h"
+
+using namespace Qt::StringLiterals;
+using namespace forms;
+
+panMedidas::panMedidas() : Form(u"panMedidas"_s)
+{
+    setWindowTitle(u"Antropometría"_s);
+    medidas_ = {
+        {1, &Command3, u"Peso"_s, u"Gr."_s, u"Kg."_s, 1000},
+        {2, &Command4, u"Talla"_s, u"Cm."_s, u"Mts."_s, 100},
+        {3, &Command5, u"Pc"_s, u"Cm."_s, u"Mts."_s, 100},
+    };
+    for (const Medida &medida : medidas_) {
+        Text1.add(medida.indice, 12);
+        medida.unidad->setAutoDefault(false);
+        medida.unidad->setFixedWidth(56);
+        medida.unidad->setToolTip(u"Cambiar la unidad"_s);
+        mostrarUnidad(medida, u"1"_s);
+        connect(medida.unidad, &QPushButton::clicked, this, [this, &medida] { cambiarUnidad(medida); });
+    }
+    Command1.setDefault(true);
+    setContents(this, Column{
+                          Fields{{u"&Fecha :"_s, TextF},
+                                 {u"&Peso :"_s, Row{Expanding(Text1(1)), Command3}},
+                                 {u"&Talla :"_s, Row{Expanding(Text1(2)), Command4}},
+                                 {u"P. C&efálico :"_s, Row{Expanding(Text1(3)), Command5}}},
+                          Row{Stretch(), Command1, Command2},
+                      });
+    setMinimumWidth(360);
+    connect(&Command1, &QPushButton::clicked, this, &panMedidas::command1Click);
+    connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
+}
+
+void panMedidas::load()
+{
+    for (const Medida &medida : medidas_)
+        if (const QString guardado = settings::getSetting(u"Medidas"_s, medida.clave); !guardado.isEmpty())
+            mostrarUnidad(medida, guardado);
+    TextF.setValue(basic::today());
+    MODULE11::MuestraAyudante(
+        u"Aquí se ingresan las medidas tomadas al paciente, fíjese que puede seleccionar la fecha de medición, y que puede diferir de la fecha de hoy, de esta forma se integran las curvas en forma cronológica.\nUd. puede ingresar la fecha desde el calendario adjunto a la casilla de entrada."_s);
+}
+
+void panMedidas::activate()
+{
+    Text1(1).setFocus();
+}
+
+double panMedidas::enUnidad(int indice, const CommandButton &unidad) const
+{
+    return basic::toNumber(Text1(indice).text()).value_or(0) * basic::val(forms::tag(&unidad));
+}
+
+void panMedidas::mostrarUnidad(const Medida &medida, const QString &tag)
+{
+    forms::setTag(medida.unidad, tag);
+    medida.unidad->setText(tag == u"1" ? medida.chica : medida.grande);
+}
+
+/// What was typed in the other unit is thrown away.
+void panMedidas::cambiarUnidad(const Medida &medida)
+{
+    const QString tag = forms::tag(medida.unidad) == u"1" ? QString::number(medida.factor) : u"1"_s;
+    mostrarUnidad(medida, tag);
+    Text1(medida.indice).clear();
+    Text1(medida.indice).setFocus();
+    settings::saveSetting(u"Medidas"_s, medida.clave, tag);
+}
+
+void panMedidas::command1Click()
+{
+    for (const Medida &medida : medidas_) {
+        if (!basic::isNumeric(Text1(medida.indice).text())) {
+            MODULE11::MuestraError(u"Datos mal ingresados."_s);
+            return;
+        }
+    }
+    answer(u"SI"_s);
+}

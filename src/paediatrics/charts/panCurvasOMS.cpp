@@ -1,0 +1,117 @@
+#include "paediatrics/charts/panCurvasOMS.h"
+
+#include "core/session/session.h"
+#include "paediatrics/anthropometry/medidas.h"
+#include "paediatrics/charts/mapping.h"
+#include "platform/basic/environment.h"
+#include "platform/basic/errors.h"
+#include "platform/basic/runtime.h"
+#include "platform/forms/boxes.h"
+#include "platform/forms/layout.h"
+#include "platform/forms/twips.h"
+#include "platform/printing/printer.h"
+
+#include <QPainter>
+
+using namespace Qt::StringLiterals;
+using namespace forms;
+
+namespace
+{
+
+constexpr int nitidez = 2; // pixels on paper for each of the screen
+
+QStringView columnaProbada(charts::Measure medida)
+{
+    return medida == charts::Measure::Talla ? u"talla" : u"peso";
+}
+
+} // namespace
+
+panCurvasOMS::panCurvasOMS() : Form(u"panCurvasOMS"_s), Image1(u"Image1"_s, charts::whoPictureBox.size())
+{
+    setWindowTitle(u"Curvas OMS"_s);
+    for (const charts::WhoChart &chart : charts::whoCharts())
+        Combo1.addItem(chart.text.toString());
+    Combo1.setCurrentIndex(-1);
+    Combo1.setMaxVisibleItems(30);
+    marcadores_.resize(toPixels(charts::whoPictureBox.size()).toSize());
+    for (CommandButton *boton : {&Command1, &Command2})
+        boton->setAutoDefault(false);
+    setContents(this, Column{
+                          Row{Fields{{Label1, Combo1}}, Check1, Stretch(), Command2, Command1},
+                          Image1,
+                      });
+    connect(&Combo1, &QComboBox::currentIndexChanged, this, &panCurvasOMS::combo1Click);
+    connect(&Check1, &QCheckBox::toggled, this, &panCurvasOMS::combo1Click);
+    connect(&Command1, &QPushButton::clicked, this, &panCurvasOMS::unload);
+    connect(&Command2, &QPushButton::clicked, this, &panCurvasOMS::command2Click);
+}
+
+void panCurvasOMS::combo1Click()
+{
+    if (Combo1.currentIndex() < 0)
+        return;
+    try {
+        dibujar(charts::whoCharts()[static_cast<std::size_t>(Combo1.currentIndex())]);
+    } catch (const basic::Error &error) {
+        msgBox(u"Error detectado : "_s + error.description(), Icon::None, u"Sanirell!"_s);
+    }
+}
+
+/// With all patients every measure is placed as if its child were born on this patient's birthday.
+void panCurvasOMS::dibujar(const charts::WhoChart &chart)
+{
+    marcadores_.quitar();
+    const QString seleccion = Check1.isChecked() ? u"true"_s : u"paciente = %1 order by fecha"_s.arg(tag());
+    Image1.loadPicture(basic::programFile(u"curvas/oms/%1.jpg"_s.arg(chart.picture)));
+    dao::Recordset pacientes = MODULE11::BaseDatos.openRecordset(u"Pacientes"_s);
+    pacientes.setIndex(u"PrimaryKey");
+    pacientes.seek(u"=", tag());
+    if (pacientes.noMatch())
+        return;
+    const basic::Value nacimiento = pacientes[u"Fecha de Nacimiento"];
+    dao::Recordset medidas = MODULE11::BaseDatos.openRecordset(u"select * from Medidas where "_s + seleccion);
+    if (nacimiento.isNull())
+        return;
+    for (; !medidas.eof(); medidas.moveNext())
+        dibujarFila(chart, medidas, nacimiento.date());
+}
+
+void panCurvasOMS::dibujarFila(const charts::WhoChart &chart, dao::Recordset &medidas, basic::Date nacimiento)
+{
+    if (medidas[columnaProbada(chart.measure)].number() == 0)
+        return;
+    const basic::Date fecha = medidas[u"fecha"].date();
+    const auto dias = static_cast<int>(fecha.wholeDays() - nacimiento.wholeDays());
+    const double peso = medidas[u"peso"].number();
+    const double talla = medidas[u"talla"].number();
+    const QString rotulo = basic::dateText(fecha) + u": "_s;
+    const QString unidad = chart.unit.toString();
+
+    if (chart.measure == charts::Measure::PesoParaTalla) {
+        if (dias >= chart.lowestDays && (!chart.highestDays || dias <= *chart.highestDays))
+            marcadores_.poner(charts::mapped(chart.frame, talla, peso), rotulo + unidad);
+        return;
+    }
+    const double valor = chart.measure == charts::Measure::Imc     ? paediatrics::CalcularIMC(peso, talla)
+                         : chart.measure == charts::Measure::Talla ? talla
+                                                                   : peso;
+    marcadores_.poner(charts::mapped(chart.frame, dias, valor),
+                      rotulo + basic::format(valor, u"###.#") + unidad);
+}
+
+void panCurvasOMS::command2Click()
+{
+    printing::Choice impresora;
+    if (!printing::defaultChoice(impresora))
+        return;
+    QImage imagen(size() * nitidez, QImage::Format_RGB32);
+    imagen.setDevicePixelRatio(nitidez);
+    QPainter painter(&imagen);
+    render(&painter);
+    painter.end();
+    printing::Document documento(impresora, windowTitle(), true);
+    documento.paintPage(imagen);
+    documento.endDoc();
+}

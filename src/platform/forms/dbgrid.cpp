@@ -1,0 +1,293 @@
+#include "platform/forms/dbgrid.h"
+
+#include "platform/basic/runtime.h"
+#include "platform/forms/boxes.h"
+
+#include <QAbstractTableModel>
+#include <QHeaderView>
+#include <QKeyEvent>
+
+namespace forms
+{
+
+namespace
+{
+
+constexpr char16_t deletedMark[] = u"#Eliminado";
+constexpr int linePixels = 24;
+constexpr int narrowestColumn = 70;
+constexpr int widestByHeading = 260;
+
+} // namespace
+
+/// The rows of the Data's recordset, each read when it comes into sight.
+class DBGrid::Model : public QAbstractTableModel
+{
+public:
+    Model(Data &data, std::vector<GridColumn> columns) : data_(data), columns_(std::move(columns))
+    {
+        reload();
+    }
+
+    void reload()
+    {
+        beginResetModel();
+        rows_ = countRows();
+        ordinals_.clear();
+        for (const GridColumn &column : columns_)
+            ordinals_.push_back(data_.hasRecordset() ? data_.recordset().ordinal(column.field) : -1);
+        endResetModel();
+    }
+
+    /// Takes in rows that were added, and shows what changed in the others.
+    void follow()
+    {
+        const int rows = countRows();
+        if (rows > rows_) {
+            beginInsertRows({}, rows_, rows - 1);
+            rows_ = rows;
+            endInsertRows();
+        } else if (rows < rows_) {
+            reload();
+        }
+    }
+
+    void rowChanged(int row)
+    {
+        if (row >= 0 && row < rows_)
+            emit dataChanged(index(row, 0), index(row, columnCount({}) - 1));
+    }
+
+    void setEditable(bool editable) { editable_ = editable; }
+    const std::vector<GridColumn> &columns() const { return columns_; }
+
+    int rowCount(const QModelIndex &parent) const override { return parent.isValid() ? 0 : rows_; }
+    int columnCount(const QModelIndex &parent) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(columns_.size());
+    }
+
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        const auto column = static_cast<std::size_t>(index.column());
+        if (role == Qt::TextAlignmentRole)
+            return static_cast<int>(alignment(column) | Qt::AlignVCenter);
+        if ((role != Qt::DisplayRole && role != Qt::EditRole) || ordinals_[column] < 0)
+            return {};
+        try {
+            const basic::Value value = data_.recordset().valueAt(index.row(), ordinals_[column]);
+            const QString &pattern = columns_[column].pattern;
+            if (role == Qt::EditRole || pattern.isEmpty())
+                return value.text();
+            return basic::format(value, pattern);
+        } catch (const dao::Error &error) {
+            if (error.number() == dao::Error::RecordDeleted)
+                return QString::fromUtf16(deletedMark);
+            return QStringLiteral("#Error");
+        }
+    }
+
+    bool setData(const QModelIndex &index, const QVariant &text, int role) override
+    {
+        if (role != Qt::EditRole)
+            return false;
+        const int ordinal = ordinals_[static_cast<std::size_t>(index.column())];
+        try {
+            data_.writeCell(index.row(), ordinal, text.toString());
+        } catch (const dao::Error &error) {
+            showUnhandled(error.description());
+            return false;
+        }
+        rowChanged(index.row());
+        return true;
+    }
+
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override
+    {
+        if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+            return {};
+        return columns_[static_cast<std::size_t>(section)].heading;
+    }
+
+    Qt::ItemFlags flags(const QModelIndex &index) const override
+    {
+        const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+        return editable_ && data_.hasRecordset() && data_.recordset().updatable() ? flags | Qt::ItemIsEditable
+                                                                                  : flags;
+    }
+
+private:
+    int countRows() const
+    {
+        return data_.hasRecordset() ? static_cast<int>(data_.recordset().rowCount()) : 0;
+    }
+
+    Qt::Alignment alignment(std::size_t column) const
+    {
+        if (ordinals_[column] < 0 || !data_.hasRecordset())
+            return Qt::AlignLeft;
+        using dao::FieldType;
+        switch (data_.recordset().fields()[static_cast<std::size_t>(ordinals_[column])].type) {
+        case FieldType::Counter:
+        case FieldType::Long:
+        case FieldType::Integer:
+        case FieldType::Double:
+        case FieldType::Currency:
+            return Qt::AlignRight;
+        default:
+            return Qt::AlignLeft;
+        }
+    }
+
+    Data &data_;
+    std::vector<GridColumn> columns_;
+    std::vector<int> ordinals_;
+    int rows_ = 0;
+    bool editable_ = false;
+};
+
+DBGrid::DBGrid(const QString &name)
+{
+    setObjectName(name);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setAlternatingRowColors(true);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(linePixels);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeader()->setStretchLastSection(true);
+    connect(this, &QTableView::doubleClicked, this, [this] {
+        if (editTriggers() == QAbstractItemView::NoEditTriggers)
+            emit accepted();
+    });
+}
+
+DBGrid::~DBGrid()
+{
+    dropModel();
+}
+
+void DBGrid::dropModel()
+{
+    setModel(nullptr);
+    delete model_;
+    model_ = nullptr;
+    data_ = nullptr;
+}
+
+void DBGrid::setSource(Data &source, std::vector<GridColumn> columns)
+{
+    if (data_)
+        data_->disconnect(this);
+    dropModel();
+    data_ = &source;
+    model_ = new Model(source, std::move(columns));
+    model_->setEditable(editTriggers() != QAbstractItemView::NoEditTriggers);
+    setModel(model_);
+    sizeColumns();
+    connect(&source, &Data::refreshed, this, [this] {
+        following_ = true;
+        model_->reload();
+        following_ = false;
+    });
+    connect(&source, &Data::rowWritten, this, [this] {
+        model_->follow();
+        model_->rowChanged(dataRow());
+    });
+    connect(&source, &Data::reposition, this, &DBGrid::followData);
+    connect(&source, &QObject::destroyed, this, &DBGrid::dropModel);
+    connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this, &DBGrid::leadData);
+    followData();
+}
+
+void DBGrid::sizeColumns()
+{
+    const QFontMetrics metrics(horizontalHeader()->font());
+    for (std::size_t i = 0; i < model_->columns().size(); ++i) {
+        const GridColumn &column = model_->columns()[i];
+        const int byHeading =
+            qBound(narrowestColumn, metrics.horizontalAdvance(column.heading) * 5 / 4 + 28, widestByHeading);
+        setColumnWidth(static_cast<int>(i), column.width > 0 ? column.width : byHeading);
+    }
+}
+
+int DBGrid::dataRow() const
+{
+    return data_ && data_->hasRow() ? static_cast<int>(data_->recordset().absolutePosition()) : -1;
+}
+
+/// The Data stands on another row: so does the grid.
+void DBGrid::followData()
+{
+    if (!model_)
+        return;
+    following_ = true;
+    const int left = currentRow();
+    model_->follow();
+    const int row = dataRow();
+    model_->rowChanged(left);
+    if (row != left)
+        model_->rowChanged(row);
+    const int column = qMax(0, currentIndex().column());
+    if (row != left)
+        setCurrentIndex(row < 0 ? QModelIndex() : model_->index(row, column));
+    following_ = false;
+    if (row != left)
+        emit rowChanged(row);
+}
+
+/// The person went to another row: so does the Data, unless the row left cannot be written.
+void DBGrid::leadData(const QModelIndex &current)
+{
+    if (following_ || !current.isValid() || current.row() == dataRow())
+        return;
+    const int row = current.row();
+    try {
+        following_ = true;
+        data_->change([row](dao::Recordset &rows) { rows.setAbsolutePosition(row); });
+        following_ = false;
+        emit rowChanged(row);
+    } catch (const basic::Error &error) {
+        setCurrentIndex(dataRow() < 0 ? QModelIndex() : model_->index(dataRow(), current.column()));
+        following_ = false;
+        showUnhandled(error.description());
+    }
+}
+
+void DBGrid::setEditable(bool editable)
+{
+    setEditTriggers(editable ? QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
+                                   QAbstractItemView::AnyKeyPressed
+                             : QAbstractItemView::NoEditTriggers);
+    setSelectionBehavior(editable ? QAbstractItemView::SelectItems : QAbstractItemView::SelectRows);
+    if (model_)
+        model_->setEditable(editable);
+}
+
+int DBGrid::currentRow() const
+{
+    return currentIndex().isValid() ? currentIndex().row() : -1;
+}
+
+void DBGrid::setCurrentRow(int row)
+{
+    if (model_)
+        setCurrentIndex(row < 0 ? QModelIndex() : model_->index(row, qMax(0, currentIndex().column())));
+}
+
+void DBGrid::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && currentIndex().isValid() && state() != QAbstractItemView::EditingState &&
+        editTriggers() == QAbstractItemView::NoEditTriggers)
+        emit accepted();
+    else
+        QTableView::keyPressEvent(event);
+}
+
+} // namespace forms

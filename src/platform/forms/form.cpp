@@ -1,0 +1,266 @@
+#include "platform/forms/form.h"
+
+#include "platform/basic/errors.h"
+#include "platform/forms/boxes.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPointer>
+#include <QScreen>
+#include <QWindow>
+
+namespace forms
+{
+
+namespace
+{
+
+/// What is open. Kept here and not asked of the window system, whose own activation comes late, or never
+/// where there is no display.
+struct State {
+    QList<Form *> all;        // oldest first
+    QList<Form *> byActivity; // last active first
+    QList<Form *> modals;     // innermost last
+    QPointer<QMdiArea> area;
+    Form *active = nullptr;
+};
+
+State &state()
+{
+    static State instance;
+    return instance;
+}
+
+/// The form that is in front once another one has gone.
+Form *frontForm()
+{
+    Form *modal = topModal();
+    return modal ? modal : activeChild();
+}
+
+/// Runs what the toolkit calls through frames that know no exceptions.
+template <class Handler>
+void runHandler(Handler &&handler)
+{
+    try {
+        handler();
+    } catch (const basic::Error &error) {
+        showUnhandled(error.description());
+    }
+}
+
+void standInFrontOf(QWidget *window, QWidget *owner)
+{
+    if (!owner || owner == window)
+        return;
+    window->winId();
+    owner->window()->winId();
+    window->windowHandle()->setTransientParent(owner->window()->windowHandle());
+}
+
+} // namespace
+
+Form::Form(const QString &name)
+{
+    setObjectName(name);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    state().all.append(this);
+}
+
+Form::~Form()
+{
+    State &s = state();
+    s.all.removeAll(this);
+    s.byActivity.removeAll(this);
+    s.modals.removeAll(this);
+    if (s.active == this)
+        s.active = nullptr;
+}
+
+void Form::prepare()
+{
+    if (loaded_)
+        return;
+    loaded_ = true;
+    load();
+}
+
+QMdiSubWindow *Form::frame() const
+{
+    return qobject_cast<QMdiSubWindow *>(parentWidget());
+}
+
+void Form::showModal()
+{
+    const QPointer<Form> self(this);
+    prepare();
+    QWidget *owner = topModal() ? topModal() : (childArea() ? childArea()->window() : nullptr);
+    setWindowModality(Qt::ApplicationModal);
+    standInFrontOf(this, owner);
+    if (!testAttribute(Qt::WA_Moved)) {
+        adjustSize();
+        centreOnScreen(this);
+    }
+    state().modals.append(this);
+    show();
+    activateWindow();
+    activated(this);
+    if (self && isVisible()) {
+        QEventLoop loop;
+        loop_ = &loop;
+        loop.exec(QEventLoop::DialogExec);
+        if (self)
+            loop_ = nullptr;
+    }
+    if (self) {
+        hide(); // still in sight only when the program is ending
+        state().modals.removeAll(this);
+        if (state().active == this)
+            state().active = nullptr;
+    }
+    if (owner)
+        owner->activateWindow();
+    activated(frontForm());
+}
+
+void Form::showChild(bool maximised)
+{
+    if (QMdiSubWindow *sub = frame()) {
+        sub->show();
+        childArea()->setActiveSubWindow(sub);
+        activated(this);
+        return;
+    }
+    prepare();
+    Q_ASSERT(childArea());
+    QMdiSubWindow *sub = childArea()->addSubWindow(this);
+    sub->setAttribute(Qt::WA_DeleteOnClose);
+    sub->setWindowIcon(windowIcon());
+    if (maximised) {
+        sub->showMaximized();
+    } else {
+        sub->show();
+        sub->resize(sub->sizeHint().boundedTo(childArea()->viewport()->size()));
+    }
+    show();
+    childArea()->setActiveSubWindow(sub);
+    activated(this);
+}
+
+void Form::unload()
+{
+    if (QMdiSubWindow *sub = frame())
+        sub->close();
+    else
+        close();
+}
+
+void Form::answer(const QString &tag)
+{
+    setTag(tag);
+    if (QMdiSubWindow *sub = frame())
+        sub->close();
+    else
+        hide();
+}
+
+void Form::done(int)
+{
+    unload();
+}
+
+void Form::reject()
+{
+    escape();
+}
+
+void Form::closeEvent(QCloseEvent *event)
+{
+    bool agreed = false;
+    runHandler([&] { agreed = queryUnload(); });
+    event->setAccepted(agreed);
+}
+
+void Form::hideEvent(QHideEvent *event)
+{
+    QDialog::hideEvent(event);
+    if (loop_ && !event->spontaneous())
+        loop_->exit();
+}
+
+void setChildArea(QMdiArea *area)
+{
+    state().area = area;
+    if (!area)
+        return;
+    QObject::connect(area, &QMdiArea::subWindowActivated, area, [](QMdiSubWindow *sub) {
+        auto *form = sub ? qobject_cast<Form *>(sub->widget()) : nullptr;
+        if (form && form->isVisible() && !topModal())
+            activated(form);
+    });
+}
+
+QMdiArea *childArea()
+{
+    return state().area;
+}
+
+Form *activeChild()
+{
+    QMdiArea *area = childArea();
+    QMdiSubWindow *sub = area ? area->currentSubWindow() : nullptr;
+    auto *form = sub ? qobject_cast<Form *>(sub->widget()) : nullptr;
+    return form && form->isVisibleTo(sub) ? form : nullptr;
+}
+
+QList<Form *> openForms()
+{
+    return state().all;
+}
+
+QList<Form *> formsByActivity()
+{
+    QList<Form *> visible;
+    for (Form *form : state().byActivity)
+        if (form->isVisible())
+            visible.append(form);
+    return visible;
+}
+
+Form *topModal()
+{
+    const QList<Form *> &modals = state().modals;
+    for (auto it = modals.rbegin(); it != modals.rend(); ++it)
+        if ((*it)->isVisible())
+            return *it;
+    return nullptr;
+}
+
+void activated(Form *form)
+{
+    State &s = state();
+    if (form == s.active)
+        return;
+    s.active = form;
+    if (!form)
+        return;
+    s.byActivity.removeAll(form);
+    s.byActivity.prepend(form);
+    runHandler([&] { form->activate(); });
+}
+
+void centreOnScreen(QWidget *window)
+{
+    const QScreen *screen = window->screen();
+    if (!screen)
+        return;
+    const QRect room = screen->availableGeometry();
+    QRect place(QPoint(), window->frameSize());
+    place.moveCenter(room.center());
+    window->move(qMax(place.left(), room.left()), qMax(place.top(), room.top()));
+}
+
+} // namespace forms

@@ -1,0 +1,50 @@
+// The runner of the scripts over the whole program.
+#include "guion/program.h"
+
+#include "subsystems.h"
+
+#include "core/session/Vademecum.h"
+#include "core/session/ending.h"
+#include "core/session/startup.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Sanirell : public guion::Program
+{
+public:
+    void deliver(const QString &folder, bool withDatabase) override
+    {
+        guion::copyDelivered(QStringLiteral(DELIVERED), folder);
+        if (!withDatabase)
+            QFile::remove(QDir(folder).filePath(databaseFile()));
+    }
+
+    bool start(const QString &word) override
+    {
+        app::prepare();
+        window_ = MODULE11::iniciar(word);
+        return window_ != nullptr;
+    }
+
+    QString splash() const override { return u"portada"_s; }
+    QString databaseFile() const override { return u"BASE.MDB"_s; }
+    QString connect() const override { return MODULE11::conexionDeLaBase(); }
+
+private:
+    std::unique_ptr<Vademecum> window_;
+};
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    Sanirell program;
+    return guion::runMain(argc, argv, program);
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "guion/script.h"
+#include "platform/forms/boxes.h"
+
+#include <QAction>
+#include <QObject>
+#include <QWidget>
+
+#include <optional>
+
+/// What is on the screen, and where an address leads.
+namespace guion
+{
+
+/// The box on top, or null when the topmost window is none.
+QWidget *topBox();
+/// The window that has the person's attention: the topmost modal one, the active child, the main window.
+QWidget *activeWindow();
+/// A visible window by class name and tag, the one last active of several; null without one.
+QWidget *findWindow(const Address::Part &part);
+/// One line about all that is open, for reports.
+QString describeWindows();
+
+/// A control or menu item, or a window when the address names one. Throws Missing.
+QObject *find(const Address &address);
+QWidget *findWidget(const Address &address);
+/// A widget a person can reach: visible, enabled, not behind a modal window. Throws Missing or Failure.
+QWidget *findReachable(const Address &address);
+/// A caption as it is read, "&" marks removed.
+QString withoutMnemonic(const QString &caption);
+
+/// A menu item of an open popup, the active window or the main window, by its item name; null without one.
+QAction *findAction(const QString &name);
+
+/// Makes the widget's window the active one, as a click on it does.
+void bringForward(QWidget *widget);
+
+} // namespace guion
