@@ -196,6 +196,7 @@ void setChildArea(QMdiArea *area)
     state().area = area;
     if (!area)
         return;
+    area->setBackground(area->palette().color(QPalette::Button).darker(106));
     QObject::connect(area, &QMdiArea::subWindowActivated, area, [](QMdiSubWindow *sub) {
         auto *form = sub ? qobject_cast<Form *>(sub->widget()) : nullptr;
         if (form && form->isVisible() && !topModal())
