@@ -185,14 +185,14 @@ void RelojNormal()
         QApplication::restoreOverrideCursor();
 }
 
-void DescargaVentanas()
+bool DescargaVentanas()
 {
     for (qsizetype antes = -1;;) {
-        const QList<forms::Form *> abiertas = forms::openForms();
+        const QList<forms::Form *> abiertas = forms::formsByActivity();
         if (abiertas.isEmpty() || abiertas.size() == antes)
-            return;
+            return abiertas.isEmpty();
         antes = abiertas.size();
-        abiertas.last()->unload();
+        abiertas.first()->unload();
     }
 }
 

@@ -44,8 +44,9 @@ basic::Date PideFecha(const QString &fecha);
 void CentraVentana(QWidget &ventana);
 void RelojEspera();
 void RelojNormal();
-/// Unloads all windows, the last one first, until none is left or one of them stays.
-void DescargaVentanas();
+/// Unloads all windows, the last active one first, until none is left or one of them stays; true when none
+/// is left.
+bool DescargaVentanas();
 
 /// The help text of a screen for the note `panHelp`; in this design it is not shown.
 void MuestraAyudante(const QString &texto);

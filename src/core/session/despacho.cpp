@@ -89,7 +89,8 @@ void choosePatientBound(const Entry &entry)
 
 void exitAtOnce()
 {
-    if (MODULE11::Pregunta(u"Sale del sistema"_s))
+    // A window that keeps its unsaved text keeps the program.
+    if (MODULE11::Pregunta(u"Sale del sistema"_s) && MODULE11::DescargaVentanas())
         MODULE11::terminar();
 }
 
@@ -203,7 +204,7 @@ bool exitDialogue()
 {
     panSalida dialogo;
     dialogo.showModal();
-    if (dialogo.tag() != u"SI")
+    if (dialogo.tag() != u"SI" || !MODULE11::DescargaVentanas())
         return false;
     MODULE11::terminar();
     return true;

@@ -112,6 +112,10 @@ void prepararRecetario()
 {
     if (!TablaRecetario.isEmpty())
         return;
+    if (!BaseDatos.isOpen()) { // nothing is told about a missing base before the login
+        TablaRecetario = tablaPorOmision;
+        return;
+    }
     QString nombre = settings::getSetting(u"Configuracion"_s, claveDelRecetario);
     if (nombre.isEmpty()) {
         nombre = u"TblRec_"_s + basic::sqlNumber(basic::timer()).remove(u'.');
@@ -130,7 +134,7 @@ void prepararRecetario()
             nombre = u"posRecetario"_s;
         }
     }
-    if (BaseDatos.isOpen() && !existeTabla(nombre)) {
+    if (!existeTabla(nombre)) {
         forms::msgBox(
             u"Error : La tabla %1 no está creada en la base de datos, se utilizará la tabla POSRECETARIO."_s
                 .arg(nombre),

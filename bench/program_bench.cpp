@@ -1,0 +1,104 @@
+// How long the program's heavy moments take on a practice's folder, as a person would wait for them:
+//   bench_program FOLDER
+#include "subsystems.h"
+
+#include "clinical/patients/panSelPaciente.h"
+#include "core/database/actualiza.h"
+#include "core/session/Vademecum.h"
+#include "core/session/session.h"
+#include "core/session/startup.h"
+#include "paediatrics/charts/panPercentil.h"
+#include "platform/basic/environment.h"
+#include "platform/forms/application.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTimer>
+
+#include <functional>
+#include <iostream>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+void report(const char *work, double milliseconds, double limit)
+{
+    std::cout << (milliseconds <= limit ? "ok   " : "OVER ") << work << ": " << milliseconds
+              << " ms (at most " << limit << ")\n";
+}
+
+/// Milliseconds until the first paint of a modal window has reached its picture.
+double untilPainted(forms::Form &form)
+{
+    QElapsedTimer timer;
+    timer.start();
+    double elapsed = 0;
+    QTimer::singleShot(0, [&] {
+        form.grab();
+        elapsed = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+        form.unload();
+    });
+    form.showModal();
+    return elapsed;
+}
+
+double resident()
+{
+    QFile status(u"/proc/self/status"_s);
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    for (const QByteArray &line : status.readAll().split('\n'))
+        if (line.startsWith("VmRSS:"))
+            return line.mid(6).trimmed().split(' ').first().toDouble() / 1024;
+    return 0;
+}
+
+int measure()
+{
+    MODULE11::valoresIniciales();
+    QElapsedTimer timer;
+    timer.start();
+    MODULE11::BaseDatos.open(basic::programFile(u"BASE.MDB"_s), false, false, MODULE11::conexionDeLaBase());
+    MODULE11::ActualizaBase();
+    MODULE11::prepararRecetario();
+    Vademecum window;
+    window.show();
+    window.grab();
+    report("start-up to the main window, upgrade list included",
+           static_cast<double>(timer.nsecsElapsed()) / 1e6, 1500);
+
+    for (const char *which : {"first", "again"}) {
+        panSelPaciente register_;
+        report((std::string("panSelPaciente, open to first paint, ") + which).c_str(),
+               untilPainted(register_), 150);
+    }
+    panPercentil chart(*charts::classicalChart(u"panPercenPeso"));
+    chart.setTag(u"<TODOS>"_s);
+    report("all patients' measures on a chart", untilPainted(chart), 2000);
+    std::cout << "resident memory: " << resident() << " MB (under 200)\n";
+    window.hide();
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc != 2) {
+        std::cerr << "bench_program FOLDER\n";
+        return 2;
+    }
+    qputenv("SANIRELL_CARPETA", argv[1]);
+    qputenv("SANIRELL_AJUSTES", "/tmp");
+    forms::Application application(argc, argv);
+    forms::Application::dress();
+    app::prepare();
+    try {
+        return measure();
+    } catch (const basic::Error &error) {
+        std::cerr << error.what() << '\n';
+        return 1;
+    }
+}
