@@ -38,6 +38,12 @@ public:
         FieldExists = 3380,
         FieldNotFound = 3381,
         Closed = 3420,
+        NotSupported = 3251,  ///< the kind of recordset has no such operation
+        NotAggregated = 3122, ///< a column outside the aggregates that is not grouped by
+        FieldInIndex = 3280,  ///< a column that an index is over cannot be dropped
+        NullKey = 3058,       ///< a primary key without a value
+        FileExists = 3204,
+        QueryNotUpdatable = 3073,
         Engine = 3000, ///< anything else the engine reports
     };
 

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QStringView>
+
+namespace dao
+{
+
+/// Names of tables, columns and indexes are one name whatever their case.
+inline bool sameName(QStringView a, QStringView b)
+{
+    return a.size() == b.size() && a.compare(b, Qt::CaseInsensitive) == 0;
+}
+
+} // namespace dao
