@@ -1,5 +1,6 @@
 #include "platform/forms/style.h"
 
+#include <QAbstractSpinBox>
 #include <QStyleFactory>
 
 namespace forms
@@ -9,6 +10,14 @@ Style::Style() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
 {
 }
 
+/// Number and date fields are as high as text fields, which the style does not make them.
+void Style::polish(QWidget *widget)
+{
+    QProxyStyle::polish(widget);
+    if (auto *field = qobject_cast<QAbstractSpinBox *>(widget))
+        field->setMinimumHeight(field->fontMetrics().height() + 11);
+}
+
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
                               const QWidget *widget) const
 {
@@ -16,7 +25,6 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, con
     switch (type) {
     case CT_LineEdit:
     case CT_ComboBox:
-    case CT_SpinBox:
     case CT_ItemViewItem:
         return size + QSize(0, 4);
     case CT_TabBarTab:

@@ -10,6 +10,8 @@ class Style : public QProxyStyle
 {
 public:
     Style();
+    using QProxyStyle::polish;
+    void polish(QWidget *widget) override;
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
                            const QWidget *widget) const override;
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
