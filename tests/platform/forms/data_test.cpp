@@ -5,7 +5,6 @@
 #include "platform/forms/dbgrid.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -169,10 +168,18 @@ TEST_F(DataTest, gridAndDataFollowEachOther)
     data.updateRecord();
     EXPECT_EQ(grid.model()->index(1, 0).data().toString(), u"Jeringa 5"_s);
     data.change([](dao::Recordset &rows) { rows.deleteRow(); });
-    EXPECT_EQ(grid.model()->index(1, 0).data().toString(), u"#Eliminado"_s);
-    EXPECT_EQ(grid.model()->rowCount(), 3);
-    data.refresh();
     EXPECT_EQ(grid.model()->rowCount(), 2);
+    EXPECT_EQ(grid.currentRow(), -1);
+    EXPECT_EQ(name.text(), QString());
+    grid.setCurrentRow(1);
+    EXPECT_EQ(name.text(), u"Venda"_s);
+
+    database.execute(u"DELETE FROM Articulos WHERE Nombre = 'Gasa'"_s);
+    EXPECT_EQ(grid.model()->index(0, 0).data().toString(), u"#Eliminado"_s);
+    grid.setCurrentRow(0);
+    EXPECT_EQ(name.text(), QString());
+    data.refresh();
+    EXPECT_EQ(grid.model()->rowCount(), 1);
     EXPECT_EQ(grid.currentRow(), 0);
 }
 
