@@ -116,6 +116,7 @@ Error engineError(sqlite3 *db, int code)
     case SQLITE_NOTADB:
         return {Error::NotADatabase, QStringLiteral("El archivo no tiene el formato de una base de datos.")};
     case SQLITE_CORRUPT:
+    case SQLITE_NOMEM: // what the cipher makes of a page that does not decipher
         return {Error::FileDamaged, QStringLiteral("El archivo de la base de datos está dañado.")};
     case SQLITE_CONSTRAINT:
         if (extended == SQLITE_CONSTRAINT_UNIQUE || extended == SQLITE_CONSTRAINT_PRIMARYKEY ||

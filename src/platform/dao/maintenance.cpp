@@ -225,6 +225,10 @@ void compactDatabase(const QString &source, const QString &destination, const QS
             QStringLiteral("ATTACH %1 AS destino KEY %2")
                 .arg(quoted(QFile::encodeName(fresh.path())),
                      key.isEmpty() ? QStringLiteral("''") : u'"' + QString::fromLatin1(key) + u'"');
+        // The connection may not make files, but fills an empty one.
+        if (QFile empty(fresh.path()); !empty.open(QIODevice::WriteOnly))
+            throw Error(Error::ReadOnly, QStringLiteral("No se pudo crear el archivo '%1'.")
+                                             .arg(QDir::toNativeSeparators(destination)));
         engine->run(attach.toUtf8());
         engine->run("BEGIN; SELECT sqlcipher_export('destino'); COMMIT; DETACH destino");
     }
