@@ -1,6 +1,7 @@
 #include "core/services/services.h"
 
 #include "core/services/buscaDato.h"
+#include "core/services/panListados.h"
 #include "core/services/selagenda.h"
 #include "core/session/session.h"
 #include "platform/basic/environment.h"
@@ -104,6 +105,12 @@ void BuscaEnLista(dao::Recordset &recordset, const QString &campo)
         recordset.findNext(criterio);
         break;
     }
+}
+
+void MuestraListado(const QString &sql, const QString &titulo)
+{
+    panListados listado(sql, titulo);
+    listado.showModal();
 }
 
 basic::Value ProximoCodigo(const QString & /*titulo*/, const QString &tabla, const QString &campo)
