@@ -327,7 +327,7 @@ void findLastHit(benchmark::State &state)
         },
         [&] {
             sqlite3_stmt *s =
-                practice.prepare("SELECT _fila FROM Pacientes WHERE \"Apellido y Nombres\" LIKE ? LIMIT 1");
+                practice.prepare("SELECT _fila FROM Pacientes WHERE \"Apellido y Nombres\" LIKE ? ORDER BY _fila LIMIT 1");
             const QByteArray pattern = '%' + wanted.toUtf8() + '%';
             sqlite3_bind_text(s, 1, pattern.constData(), -1, SQLITE_TRANSIENT);
             if (sqlite3_step(s) != SQLITE_ROW)
