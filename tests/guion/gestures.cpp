@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDateTimeEdit>
 #include <QKeySequence>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -152,6 +153,15 @@ void typeInto(QWidget *widget, const QString &text)
 
 void replaceText(QWidget *control, const QString &text)
 {
+    if (auto *date = qobject_cast<QDateTimeEdit *>(control)) {
+        // Its parts are typed one by one and correct each other on the way; the whole is what is meant.
+        const QDateTime moment = QDateTime::fromString(text, date->displayFormat());
+        if (!moment.isValid())
+            throw Failure(QStringLiteral("%1 takes no such text").arg(control->objectName()));
+        focus(control);
+        date->setDateTime(moment);
+        return;
+    }
     QWidget *field = typingPart(control);
     if (!isField(field))
         throw Failure(QStringLiteral("%1 takes no text").arg(control->objectName()));

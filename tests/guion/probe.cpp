@@ -319,6 +319,11 @@ bool isPropertyName(const QString &name)
 
 QString readProperty(const QObject &object, const Property &property)
 {
+    if (!object.isWidgetType() && !as<QAction>(object)) {
+        const QVariant value = object.property(property.name.toUtf8().constData());
+        if (value.isValid())
+            return value.typeId() == QMetaType::Bool ? scriptForm(value.toBool()) : value.toString();
+    }
     const auto reader = readers().find(property.name);
     const auto read = reader == readers().end() ? std::nullopt : reader->second(object, property.arguments);
     if (!read)

@@ -64,7 +64,14 @@ QString captionOf(const QWidget *widget)
     return {};
 }
 
-QWidget *findControl(QWidget *window, const Address::Part &part)
+/// A field goes by the caption of its label.
+QWidget *labelled(QWidget *widget)
+{
+    const auto *label = qobject_cast<const QLabel *>(widget);
+    return label && label->buddy() ? label->buddy() : widget;
+}
+
+QWidget *findWidget(QWidget *window, const Address::Part &part)
 {
     QWidget *hidden = nullptr;
     for (QWidget *widget : window->findChildren<QWidget *>()) {
@@ -72,11 +79,18 @@ QWidget *findControl(QWidget *window, const Address::Part &part)
             continue;
         const bool fits = part.isCaption ? captionOf(widget) == part.name : widget->objectName() == part.name;
         if (fits && widget->isVisible())
-            return widget;
+            return part.isCaption ? labelled(widget) : widget;
         if (fits && !hidden)
             hidden = widget;
     }
     return hidden;
+}
+
+/// A widget, or an element that a widget draws itself and keeps as a named object.
+QObject *findControl(QWidget *window, const Address::Part &part)
+{
+    QObject *found = findWidget(window, part);
+    return found || part.isCaption ? found : window->findChild<QObject *>(part.name);
 }
 
 QObject *findInActive(const Address::Part &part)

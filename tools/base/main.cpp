@@ -56,6 +56,7 @@ void make(const QString &file, const QDir &data)
     seeds::fill(base, data);
     base.commitTrans();
     base.close();
+    QFile::remove(unfinished + u"-journal"_s);
     QFile::remove(file);
     if (!QFile::rename(unfinished, file))
         throw std::runtime_error("cannot write " + file.toStdString());

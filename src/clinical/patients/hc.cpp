@@ -201,6 +201,13 @@ void hc::activate()
         prepararPruebas();
 }
 
+/// What was changed last is written when the window goes.
+bool hc::queryUnload()
+{
+    Data1.updateRecord();
+    return true;
+}
+
 /// The patient's row, made now if there is none.
 bool hc::abrirRegistro()
 {

@@ -40,6 +40,7 @@ public:
 
 protected:
     void activate() override;
+    bool queryUnload() override;
 
 private:
     forms::Item armarAntecedentes();

@@ -89,6 +89,9 @@ panSelPaciente::panSelPaciente() : Form(u"panSelPaciente"_s)
         if (!texto.isEmpty())
             buscar(u"[Apellido y Nombres] LIKE '*%1*'"_s.arg(texto));
     });
+    connect(&Data1, &Data::reposition, this, [this] {
+        numero_ = Data1.hasRow() ? Data1.recordset()[u"Numero"].text() : QString();
+    });
     connect(&DBGrid1, &DBGrid::accepted, this, &panSelPaciente::command2Click);
     connect(&Command1, &QPushButton::clicked, this, &panSelPaciente::command1Click);
     connect(&Command2, &QPushButton::clicked, this, &panSelPaciente::command2Click);
@@ -106,6 +109,8 @@ void panSelPaciente::load()
 
 void panSelPaciente::activate()
 {
+    if (Data1.hasRecordset())
+        return; // back from the search dialogue, which has moved the row
     if (!leerPermiso()) {
         unload();
         return;
@@ -173,8 +178,8 @@ void panSelPaciente::command1Click()
 
 void panSelPaciente::command2Click()
 {
-    if (Data1.hasRecordset() && !Data1.recordset().eof())
-        answer(Data1.recordset()[u"Numero"].text());
+    if (!numero_.isEmpty())
+        answer(numero_);
 }
 
 /// The arrow keys of a search field move in the list, so that a name typed is chosen without the mouse.

@@ -44,5 +44,6 @@ private:
                                   QStringLiteral("cancelar")};
 
     QString filtro_ = QStringLiteral(" true "); ///< which professionals' patients are seen
+    QString numero_;                            ///< of the current row
     QString letraDeLaLista_;                    ///< the tab that the list was built with
 };

@@ -82,7 +82,6 @@ Vademecum::Vademecum()
 Vademecum::~Vademecum()
 {
     forms::setChildArea(nullptr);
-    setStatusBar(nullptr);
 }
 
 void Vademecum::ponerCaption()

@@ -51,13 +51,13 @@ private:
     void command2Click();
     void mostrarEstado();
 
+    QWidget panel_; // before the controls in it, which must go first
     forms::ControlArray<core::ToolbarButton> Command1{QStringLiteral("Command1")};
     QToolButton Command2;
     forms::ControlArray<forms::Label> lblPac{QStringLiteral("lblPac")};
     forms::Timer Timer1{QStringLiteral("Timer1"), 65534};
     QStatusBar StatusBar1;
     QMdiArea area_;
-    QWidget panel_;
     QWidget *listaPacientes_ = nullptr;
     bool MostrarAsistente = false; // nothing sets these two: neither window opens by itself
     bool MostrarInicial = false;

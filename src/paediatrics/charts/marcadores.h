@@ -15,10 +15,10 @@ namespace charts
 class Marcador : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(double Left READ left)
-    Q_PROPERTY(double Top READ top)
-    Q_PROPERTY(double Width READ width)
-    Q_PROPERTY(double Height READ width)
+    Q_PROPERTY(int Left READ izquierda)
+    Q_PROPERTY(int Top READ arriba)
+    Q_PROPERTY(int Width READ tamano)
+    Q_PROPERTY(int Height READ tamano)
     Q_PROPERTY(bool Visible MEMBER visible_)
     Q_PROPERTY(QString ToolTipText MEMBER tip_)
 public:
@@ -28,11 +28,14 @@ public:
 
     double left() const { return centro_.x() - lado / 2; }
     double top() const { return centro_.y() - lado / 2; }
-    double width() const { return lado; }
     QPointF centro() const { return centro_; } ///< twips
     const QString &tip() const { return tip_; }
 
 private:
+    int izquierda() const { return qRound(left()); }
+    int arriba() const { return qRound(top()); }
+    int tamano() const { return qRound(lado); }
+
     QPointF centro_;
     QString tip_;
     bool visible_ = true;

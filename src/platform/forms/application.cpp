@@ -2,13 +2,13 @@
 
 #include "platform/basic/errors.h"
 #include "platform/forms/boxes.h"
+#include "platform/forms/style.h"
 
 #include <QFont>
 #include <QFontDatabase>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
-#include <QStyleFactory>
 #include <QTranslator>
 
 namespace forms
@@ -102,7 +102,7 @@ bool Application::notify(QObject *receiver, QEvent *event)
 
 void Application::dress()
 {
-    setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    setStyle(new Style);
     setPalette(calmPalette());
     chooseFont();
     qApp->setStyleSheet(QString::fromLatin1(sheet));

@@ -56,6 +56,7 @@ void dressFileDialog(QFileDialog &dialogue, const QString &accept)
     dialogue.setOption(QFileDialog::DontUseNativeDialog);
     dialogue.setLabelText(QFileDialog::Accept, accept);
     dialogue.setLabelText(QFileDialog::Reject, QStringLiteral("Cancelar"));
+    dialogue.resize(780, 500);
     markAsBox(dialogue, {});
 }
 

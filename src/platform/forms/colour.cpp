@@ -1,5 +1,6 @@
 #include "platform/forms/colour.h"
 
+#include <QLabel>
 #include <QPalette>
 #include <QWidget>
 
@@ -36,6 +37,8 @@ int toColourValue(const QColor &colour)
 void setBackColor(QWidget &control, const QColor &colour)
 {
     control.setAutoFillBackground(true);
+    if (auto *label = qobject_cast<QLabel *>(&control); label && label->margin() == 0)
+        label->setMargin(4); // a coloured label is a panel
     setRoles(control, grounds, colour);
 }
 

@@ -39,7 +39,7 @@ public:
         endResetModel();
     }
 
-    /// Takes in rows that were added, and shows what changed in the others.
+    /// Takes in rows that were added or went away.
     void follow()
     {
         const int rows = countRows();
@@ -50,12 +50,6 @@ public:
         } else if (rows < rows_) {
             reload();
         }
-    }
-
-    void rowChanged(int row)
-    {
-        if (row >= 0 && row < rows_)
-            emit dataChanged(index(row, 0), index(row, columnCount({}) - 1));
     }
 
     void setEditable(bool editable) { editable_ = editable; }
@@ -98,7 +92,7 @@ public:
             showUnhandled(error.description());
             return false;
         }
-        rowChanged(index.row());
+        emit dataChanged(index, index);
         return true;
     }
 
@@ -197,7 +191,7 @@ void DBGrid::setSource(Data &source, std::vector<GridColumn> columns)
     });
     connect(&source, &Data::rowWritten, this, [this] {
         model_->follow();
-        model_->rowChanged(dataRow());
+        viewport()->update();
     });
     connect(&source, &Data::reposition, this, &DBGrid::followData);
     connect(&source, &QObject::destroyed, this, &DBGrid::dropModel);
@@ -230,9 +224,7 @@ void DBGrid::followData()
     const int left = currentRow();
     model_->follow();
     const int row = dataRow();
-    model_->rowChanged(left);
-    if (row != left)
-        model_->rowChanged(row);
+    viewport()->update(); // the model keeps no values: what is in sight is read anew
     const int column = qMax(0, currentIndex().column());
     if (row != left)
         setCurrentIndex(row < 0 ? QModelIndex() : model_->index(row, column));

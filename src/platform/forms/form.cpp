@@ -97,30 +97,35 @@ void Form::showModal()
 {
     const QPointer<Form> self(this);
     prepare();
-    QWidget *owner = topModal() ? topModal() : (childArea() ? childArea()->window() : nullptr);
+    const QPointer<QWidget> owner = topModal() ? topModal() : (childArea() ? childArea()->window() : nullptr);
     setWindowModality(Qt::ApplicationModal);
     standInFrontOf(this, owner);
-    if (!testAttribute(Qt::WA_Moved)) {
+    if (!testAttribute(Qt::WA_Resized))
         adjustSize();
+    if (!testAttribute(Qt::WA_Moved))
         centreOnScreen(this);
-    }
     state().modals.append(this);
     show();
     activateWindow();
     activated(this);
+    bool programEnds = false;
     if (self && isVisible()) {
         QEventLoop loop;
         loop_ = &loop;
         loop.exec(QEventLoop::DialogExec);
+        programEnds = self && isVisible(); // nothing hid the window: all loops are being left
         if (self)
             loop_ = nullptr;
     }
     if (self) {
-        hide(); // still in sight only when the program is ending
         state().modals.removeAll(this);
         if (state().active == this)
             state().active = nullptr;
+        if (programEnds)
+            hide();
     }
+    if (programEnds)
+        return; // what lies below must not read a database that is closed
     if (owner)
         owner->activateWindow();
     activated(frontForm());
@@ -136,6 +141,7 @@ void Form::showChild(bool maximised)
     }
     prepare();
     Q_ASSERT(childArea());
+    const QSize own = testAttribute(Qt::WA_Resized) ? size() : sizeHint();
     QMdiSubWindow *sub = childArea()->addSubWindow(this);
     sub->setAttribute(Qt::WA_DeleteOnClose);
     sub->setWindowIcon(windowIcon());
@@ -143,7 +149,8 @@ void Form::showChild(bool maximised)
         sub->showMaximized();
     } else {
         sub->show();
-        sub->resize(sub->sizeHint().boundedTo(childArea()->viewport()->size()));
+        const QSize border = sub->sizeHint() - sizeHint();
+        sub->resize((own + border).boundedTo(childArea()->viewport()->size()));
     }
     show();
     childArea()->setActiveSubWindow(sub);
@@ -196,6 +203,7 @@ void setChildArea(QMdiArea *area)
     state().area = area;
     if (!area)
         return;
+    area->setBackground(area->palette().color(QPalette::Button).darker(106));
     QObject::connect(area, &QMdiArea::subWindowActivated, area, [](QMdiSubWindow *sub) {
         auto *form = sub ? qobject_cast<Form *>(sub->widget()) : nullptr;
         if (form && form->isVisible() && !topModal())

@@ -45,6 +45,5 @@ private:
 
 int main(int argc, char **argv)
 {
-    Sanirell program;
-    return guion::runMain(argc, argv, program);
+    return guion::runMain(argc, argv, [] { return std::make_unique<Sanirell>(); });
 }

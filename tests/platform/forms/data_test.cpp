@@ -1,0 +1,215 @@
+#include "platform/basic/environment.h"
+#include "platform/dao/database.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/data.h"
+#include "platform/forms/dbgrid.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+class DataTest : public testing::Test
+{
+protected:
+    DataTest()
+    {
+        database.create(folder.filePath(u"BASE.MDB"_s), u";PWD=prueba"_s);
+        if (!database.isOpen())
+            database.open(folder.filePath(u"BASE.MDB"_s), false, false, u";PWD=prueba"_s);
+        database.execute(
+            u"CREATE TABLE Articulos (id COUNTER, Nombre TEXT(60), Precio CURRENCY, Facturada BIT, Alta DATE)"_s);
+        add({u"Gasa"_s, u"Jeringa"_s, u"Venda"_s});
+        data.setDatabase(&database);
+        data.setRecordSource(u"Select * from Articulos order by id"_s);
+        data.bind(name, u"Nombre"_s);
+        data.bind(price, u"Precio"_s);
+        data.bind(billed, u"Facturada"_s);
+        QObject::connect(&data, &forms::Data::reposition, &data, [this] { ++repositions; });
+    }
+
+    void add(const QStringList &names)
+    {
+        dao::Recordset rows = database.openRecordset(u"Articulos"_s);
+        for (const QString &text : names) {
+            rows.addNew();
+            rows[u"Nombre"] = text;
+            rows[u"Precio"] = 10;
+            rows.update();
+        }
+    }
+
+    void moveTo(qint64 row)
+    {
+        data.change([row](dao::Recordset &rows) { rows.setAbsolutePosition(row); });
+    }
+
+    basic::Value stored(qint64 row, QStringView field)
+    {
+        dao::Recordset rows = database.openRecordset(data.recordSource());
+        rows.setAbsolutePosition(row);
+        return rows[field];
+    }
+
+    QTemporaryDir folder;
+    dao::Database database;
+    forms::TextBox name{u"Text1"_s}, price{u"Text2"_s};
+    forms::CheckBox billed{u"Check1"_s, u"Facturada"_s};
+    forms::Data data{u"Data1"_s};
+    int repositions = 0;
+};
+
+int errorOf(const std::function<void()> &work)
+{
+    try {
+        work();
+    } catch (const dao::Error &error) {
+        return error.number();
+    }
+    return 0;
+}
+
+} // namespace
+
+TEST_F(DataTest, changedControlsAreWrittenBeforeTheRowChanges)
+{
+    data.refresh();
+    EXPECT_EQ(name.text(), u"Gasa"_s);
+    EXPECT_FALSE(data.dirty());
+    name.setText(u"Gasa estéril"_s);
+    billed.setChecked(true);
+    EXPECT_TRUE(data.dirty());
+    moveTo(2);
+    EXPECT_EQ(name.text(), u"Venda"_s);
+    EXPECT_FALSE(billed.isChecked());
+    EXPECT_FALSE(data.dirty());
+    EXPECT_EQ(repositions, 2);
+    EXPECT_EQ(stored(0, u"Nombre").text(), u"Gasa estéril"_s);
+    EXPECT_TRUE(stored(0, u"Facturada").truth());
+
+    price.setText(u"1.234,5"_s);
+    data.refresh();
+    EXPECT_EQ(stored(2, u"Precio").number(), 1234.5);
+    price.clear();
+    data.updateRecord();
+    EXPECT_TRUE(stored(0, u"Precio").isNull());
+    name.setText(u"x"_s);
+    data.updateControls();
+    EXPECT_EQ(name.text(), u"Gasa estéril"_s);
+}
+
+TEST_F(DataTest, valueThatIsRefusedKeepsTheRowAndWhatWasTyped)
+{
+    data.refresh();
+    price.setText(u"caro"_s);
+    EXPECT_NE(errorOf([&] { moveTo(1); }), 0);
+    EXPECT_EQ(data.recordset().absolutePosition(), 0);
+    EXPECT_EQ(price.text(), u"caro"_s);
+    price.setText(u"12"_s);
+    moveTo(1);
+    EXPECT_EQ(stored(0, u"Precio").number(), 12);
+}
+
+TEST_F(DataTest, addedRowTakesWhatTheControlsShow)
+{
+    data.refresh();
+    data.change([](dao::Recordset &rows) { rows.addNew(); });
+    EXPECT_EQ(name.text(), QString());
+    name.setText(u"Algodón"_s);
+    data.updateRecord();
+    EXPECT_EQ(stored(3, u"Nombre").text(), u"Algodón"_s);
+}
+
+TEST_F(DataTest, rowThatSomebodyDeletedLetsGoOfItsControls)
+{
+    data.refresh();
+    database.execute(u"DELETE FROM Articulos WHERE Nombre = 'Gasa'"_s);
+    name.setText(u"otra"_s);
+    EXPECT_EQ(errorOf([&] { moveTo(1); }), dao::Error::RecordDeleted);
+    moveTo(1);
+    EXPECT_EQ(name.text(), u"Jeringa"_s);
+}
+
+TEST_F(DataTest, sourceThatDoesNotOpenLeavesNoRecordset)
+{
+    data.refresh();
+    data.setRecordSource(u"Select * from NoExiste"_s);
+    EXPECT_NE(errorOf([&] { data.refresh(); }), 0);
+    EXPECT_FALSE(data.hasRecordset());
+    EXPECT_EQ(name.text(), QString());
+}
+
+TEST_F(DataTest, gridAndDataFollowEachOther)
+{
+    forms::DBGrid grid(u"DBGrid1"_s);
+    int changed = -1;
+    QObject::connect(&grid, &forms::DBGrid::rowChanged, &grid, [&](int row) { changed = row; });
+    data.refresh();
+    grid.setSource(data, {{u"Artículo"_s, u"nombre"_s}, {u"Precio"_s, u"Precio"_s, u"#,##0.00"_s}});
+    EXPECT_EQ(grid.currentRow(), 0);
+    EXPECT_EQ(grid.model()->index(0, 1).data().toString(), u"10,00"_s);
+
+    grid.setCurrentRow(2);
+    EXPECT_EQ(data.recordset().absolutePosition(), 2);
+    EXPECT_EQ(name.text(), u"Venda"_s);
+    EXPECT_EQ(changed, 2);
+    moveTo(1);
+    EXPECT_EQ(grid.currentRow(), 1);
+    EXPECT_EQ(changed, 1);
+
+    name.setText(u"Jeringa 5"_s);
+    data.updateRecord();
+    EXPECT_EQ(grid.model()->index(1, 0).data().toString(), u"Jeringa 5"_s);
+    data.change([](dao::Recordset &rows) { rows.deleteRow(); });
+    EXPECT_EQ(grid.model()->rowCount(), 2);
+    EXPECT_EQ(grid.currentRow(), -1);
+    EXPECT_EQ(name.text(), QString());
+    grid.setCurrentRow(1);
+    EXPECT_EQ(name.text(), u"Venda"_s);
+
+    database.execute(u"DELETE FROM Articulos WHERE Nombre = 'Gasa'"_s);
+    EXPECT_EQ(grid.model()->index(0, 0).data().toString(), u"#Eliminado"_s);
+    grid.setCurrentRow(0);
+    EXPECT_EQ(name.text(), QString());
+    data.refresh();
+    EXPECT_EQ(grid.model()->rowCount(), 1);
+    EXPECT_EQ(grid.currentRow(), 0);
+}
+
+TEST_F(DataTest, gridStaysOnARowThatCannotBeWritten)
+{
+    forms::DBGrid grid(u"DBGrid1"_s);
+    data.refresh();
+    grid.setSource(data, {{u"Artículo"_s, u"Nombre"_s}});
+    price.setText(u"caro"_s);
+    bool told = false;
+    QTimer::singleShot(0, qApp, [&] {
+        told = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        QApplication::activeModalWidget()->close();
+    });
+    grid.setCurrentRow(2);
+    EXPECT_TRUE(told);
+    EXPECT_EQ(grid.currentRow(), 0);
+    EXPECT_EQ(price.text(), u"caro"_s);
+}
+
+TEST_F(DataTest, gridOutlivesItsData)
+{
+    forms::DBGrid grid(u"DBGrid1"_s);
+    {
+        forms::Data other(u"Data2"_s);
+        other.setDatabase(&database);
+        other.setRecordSource(u"Select * from Articulos"_s);
+        other.refresh();
+        grid.setSource(other, {{u"Artículo"_s, u"Nombre"_s}});
+        EXPECT_EQ(grid.model()->rowCount(), 3);
+    }
+    EXPECT_EQ(grid.model(), nullptr);
+}
