@@ -78,6 +78,29 @@ public:
         return {bytes, sqlite3_column_bytes(statement_, column)};
     }
 
+    Cell cell(int column) const override
+    {
+        sqlite3_value *value = sqlite3_column_value(statement_, column);
+        Cell cell;
+        switch (sqlite3_value_type(value)) {
+        case SQLITE_INTEGER:
+            cell.content = Cell::Integer;
+            cell.integer = sqlite3_value_int64(value);
+            break;
+        case SQLITE_FLOAT:
+            cell.content = Cell::Real;
+            cell.real = sqlite3_value_double(value);
+            break;
+        case SQLITE_NULL:
+            break;
+        default:
+            cell.content = Cell::Text;
+            cell.text = {reinterpret_cast<const char *>(sqlite3_value_text(value)),
+                         sqlite3_value_bytes(value)};
+        }
+        return cell;
+    }
+
     void *nativeHandle() const override { return statement_; }
 
 private:
@@ -152,8 +175,8 @@ EmbeddedEngine::EmbeddedEngine(const QString &path, const QByteArray &key, const
     const int flags = options.readOnly ? SQLITE_OPEN_READONLY
                                        : SQLITE_OPEN_READWRITE | (options.create ? SQLITE_OPEN_CREATE : 0);
     sqlite3 *db = nullptr;
-    const int code =
-        sqlite3_open_v2(QFile::encodeName(path).constData(), &db, flags | SQLITE_OPEN_EXRESCODE, nullptr);
+    const int code = sqlite3_open_v2(QFile::encodeName(path).constData(), &db,
+                                     flags | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX, nullptr);
     db_.reset(db);
     if (code != SQLITE_OK)
         throw Error(options.create ? Error::ReadOnly : Error::FileNotFound,
