@@ -4,6 +4,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRandomGenerator>
+#include <QThread>
 
 #include ENGINE_HEADER
 
@@ -13,7 +15,20 @@ namespace dao
 namespace
 {
 
-constexpr int busyTimeoutMs = 15000;
+constexpr int longestWaitMs = 60000;
+
+/// Another station holds the file. Stations that write without pause leave it free for moments only, so the
+/// file is asked for often, at irregular times: the engine's own ever longer naps would miss them all.
+int waitForTheFile(void *since, int attempts)
+{
+    auto &timer = *static_cast<QElapsedTimer *>(since);
+    if (attempts == 0)
+        timer.start();
+    if (timer.elapsed() > longestWaitMs)
+        return 0;
+    QThread::usleep(static_cast<unsigned long>(QRandomGenerator::global()->bounded(300, 3000)));
+    return 1;
+}
 
 class EmbeddedStatement final : public EngineStatement
 {
@@ -181,7 +196,7 @@ EmbeddedEngine::EmbeddedEngine(const QString &path, const QByteArray &key, const
     if (code != SQLITE_OK)
         throw Error(options.create ? Error::ReadOnly : Error::FileNotFound,
                     QStringLiteral("No se pudo abrir el archivo '%1'.").arg(QDir::toNativeSeparators(path)));
-    sqlite3_busy_timeout(db, busyTimeoutMs);
+    sqlite3_busy_handler(db, waitForTheFile, &waiting_);
     // Else a statement is compiled anew whenever a parameter that its plan looked at is bound again.
     sqlite3_db_config(db, SQLITE_DBCONFIG_ENABLE_QPSG, 1, nullptr);
     // A wrong password is told by the error alone; the cipher's own log would reach the person's terminal.
