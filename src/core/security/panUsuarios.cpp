@@ -24,7 +24,8 @@ panUsuarios::panUsuarios() : Form(u"panUsuarios"_s)
         datos->setDatabase(&MODULE11::BaseDatos);
     DBGrid1.setSource(Data1, {{u"Nombre"_s, u"Nombre"_s, {}, 240},
                               {u"Clave"_s, u"Clave"_s, {}, 180},
-                              {u"Nivel"_s, u"Nivel"_s, {}, 80}});
+                              {u"Nivel"_s, u"Nivel"_s, {}, 80},
+                              {u"Tipo"_s, u"Tipo"_s, {}, 80}});
     DBGrid2.setSource(Data2, {{u"Fecha"_s, u"Fecha"_s, u"dd/mm/yyyy"_s, 110},
                               {u"Hora"_s, u"Hora"_s, {}, 70},
                               {u"Proceso"_s, u"Proceso"_s, {}, 250},
