@@ -53,7 +53,7 @@ Item panUsuarios::fichaUsuarios()
         Expanding(DBGrid1),
         Group(u"Usuario seleccionado"_s,
               Row{Expanding(Fields{{u"Nom&bre :"_s, Text1}, {u"C&lave :"_s, Text3}}),
-                  Expanding(Fields{{u"Ni&vel :"_s, Row{Text2, Expanding(Combo1)}}, {u"Ti&po :"_s, Combo2}})}),
+                  Expanding(Fields{{u"N&ivel :"_s, Row{Text2, Expanding(Combo1)}}, {u"Ti&po :"_s, Combo2}})}),
         Row{Command1, Command2, Stretch(), Command4},
     };
 }
