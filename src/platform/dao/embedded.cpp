@@ -183,6 +183,8 @@ EmbeddedEngine::EmbeddedEngine(const QString &path, const QByteArray &key, const
         throw Error(options.create ? Error::ReadOnly : Error::FileNotFound,
                     QStringLiteral("No se pudo abrir el archivo '%1'.").arg(QDir::toNativeSeparators(path)));
     sqlite3_busy_timeout(db, busyTimeoutMs);
+    // Else a statement is compiled anew whenever a parameter that its plan looked at is bound again.
+    sqlite3_db_config(db, SQLITE_DBCONFIG_ENABLE_QPSG, 1, nullptr);
     // A wrong password is told by the error alone; the cipher's own log would reach the person's terminal.
     run("PRAGMA cipher_log_level = NONE");
     if (enciphered_)
