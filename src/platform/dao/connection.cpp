@@ -3,7 +3,6 @@
 #include "platform/dao/parser.h"
 #include "platform/dao/recordsetprivate.h"
 
-#include <atomic>
 #include <chrono>
 #include <ctime>
 
@@ -13,14 +12,12 @@ namespace dao
 namespace
 {
 
-/// Writes of all connections of this process, so that what one writes another one shows at once.
-std::atomic<qint64> processWrites{0};
-
-qint64 coarseMilliseconds()
+/// Steps every few milliseconds, and is read in as many nanoseconds.
+qint64 coarseClock()
 {
     timespec now{};
     clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
-    return static_cast<qint64>(now.tv_sec) * 1000 + now.tv_nsec / 1000000;
+    return static_cast<qint64>(now.tv_sec) * 1'000'000'000 + now.tv_nsec;
 }
 
 bool isDefinition(const Statement &statement)
@@ -37,7 +34,7 @@ void DatabasePrivate::attach(std::unique_ptr<Engine> engine, const QString &path
     catalogue_ = std::make_unique<Catalogue>(*engine_);
     catalogue_->reload();
     dataVersion_ = engine_->dataVersion();
-    checkedAt_ = coarseMilliseconds();
+    checkedAt_ = coarseClock();
 }
 
 void DatabasePrivate::detach()
@@ -132,7 +129,7 @@ qint64 DatabasePrivate::write(EngineStatement &statement)
         const StatementRun run(statement);
         statement.step();
     }
-    processWrites.fetch_add(1, std::memory_order_relaxed);
+    processWrites_.fetch_add(1, std::memory_order_relaxed);
     const qint64 rows = engine().changes();
     if (batch && ++rowsInBatch_ >= batchRows_) {
         engine().commit();
@@ -178,7 +175,7 @@ void DatabasePrivate::endBatch()
 
 qint64 DatabasePrivate::changeStamp()
 {
-    const qint64 now = coarseMilliseconds();
+    const qint64 now = coarseClock();
     if (now != checkedAt_) {
         checkedAt_ = now;
         const qint64 version = engine().dataVersion();
@@ -186,7 +183,7 @@ qint64 DatabasePrivate::changeStamp()
             ++foreignChanges_;
         dataVersion_ = version;
     }
-    return foreignChanges_ + processWrites.load(std::memory_order_relaxed);
+    return foreignChanges_ + ownWrites();
 }
 
 } // namespace dao

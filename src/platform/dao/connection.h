@@ -9,6 +9,7 @@
 
 #include <QSet>
 
+#include <atomic>
 #include <memory>
 #include <utility>
 
@@ -56,6 +57,8 @@ public:
     /// A number that differs whenever rows may have changed: at once for what this process writes, within
     /// milliseconds for what another one does.
     qint64 changeStamp();
+    /// The part of it that this process makes, which costs nothing to read.
+    static qint64 ownWrites() { return processWrites_.load(std::memory_order_relaxed); }
 
     /// Runs what may fail for a catalogue that somebody else has changed, once more after reading it again.
     template <class Work>
@@ -82,6 +85,9 @@ private:
     void dropIndex(const DropIndex &drop);
     void addColumn(const AddColumn &add);
     void dropColumn(const DropColumn &drop);
+
+    /// Of all connections, so that what one of them writes another one shows at once.
+    static inline std::atomic<qint64> processWrites_{0};
 
     // In this order: statements end before their engine.
     std::unique_ptr<Engine> engine_;

@@ -210,13 +210,17 @@ basic::Value Dynaset::cell(qint64 position, int ordinal)
 
 basic::Value Dynaset::currentValue(int ordinal)
 {
-    // Most reads are of a row at hand.
     const qint64 inside = position() - windowFirst_;
     const int slot = slotOf_[static_cast<size_t>(ordinal)];
-    if (slot >= 0 && standsOnRow() && inside >= 0 && inside < static_cast<qint64>(rowOf_.size()) &&
-        stamp_ == database().changeStamp()) {
-        if (const qint64 row = rowOf_[static_cast<size_t>(inside)]; row >= 0)
-            return window_.value(row, slot);
+    if (slot >= 0 && standsOnRow() && inside >= 0 && inside < static_cast<qint64>(rowOf_.size())) {
+        const bool samePass =
+            passPosition_ == position() && slot > passSlot_ && writes_ == DatabasePrivate::ownWrites();
+        if (samePass || stamp_ == database().changeStamp()) {
+            passPosition_ = position();
+            passSlot_ = slot;
+            if (const qint64 row = rowOf_[static_cast<size_t>(inside)]; row >= 0)
+                return window_.value(row, slot);
+        }
     }
     return cell(current(), ordinal);
 }
@@ -273,6 +277,8 @@ void Dynaset::loadWindow(qint64 position)
 void Dynaset::startWindow(qint64 first, qint64 rows)
 {
     stamp_ = database().changeStamp();
+    writes_ = DatabasePrivate::ownWrites();
+    passPosition_ = -1;
     windowFirst_ = first;
     rowOf_.assign(static_cast<size_t>(rows), -1);
     if (window_.types().size() == hot_.size()) {

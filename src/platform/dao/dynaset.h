@@ -71,6 +71,11 @@ private:
     qint64 windowFirst_ = 0;
     qint64 windowSize_ = 0;
     qint64 stamp_ = -1;
+    qint64 writes_ = -1;
+    // A row is held against changes of others when the first of its fields is read; the fields that follow in
+    // the same pass over the row are of the same state.
+    qint64 passPosition_ = -1;
+    int passSlot_ = -1;
     struct Fetcher {
         Emitter::Fetch fetch;
         int keys;

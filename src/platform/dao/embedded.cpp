@@ -93,27 +93,28 @@ public:
         return {bytes, sqlite3_column_bytes(statement_, column)};
     }
 
-    Cell cell(int column) const override
+    void cells(int firstColumn, std::span<Cell> to) const override
     {
-        sqlite3_value *value = sqlite3_column_value(statement_, column);
-        Cell cell;
-        switch (sqlite3_value_type(value)) {
-        case SQLITE_INTEGER:
-            cell.content = Cell::Integer;
-            cell.integer = sqlite3_value_int64(value);
-            break;
-        case SQLITE_FLOAT:
-            cell.content = Cell::Real;
-            cell.real = sqlite3_value_double(value);
-            break;
-        case SQLITE_NULL:
-            break;
-        default:
-            cell.content = Cell::Text;
-            cell.text = {reinterpret_cast<const char *>(sqlite3_value_text(value)),
-                         sqlite3_value_bytes(value)};
+        for (Cell &cell : to) {
+            sqlite3_value *value = sqlite3_column_value(statement_, firstColumn++);
+            switch (sqlite3_value_type(value)) {
+            case SQLITE_INTEGER:
+                cell.content = Cell::Integer;
+                cell.integer = sqlite3_value_int64(value);
+                break;
+            case SQLITE_FLOAT:
+                cell.content = Cell::Real;
+                cell.real = sqlite3_value_double(value);
+                break;
+            case SQLITE_NULL:
+                cell.content = Cell::Null;
+                break;
+            default:
+                cell.content = Cell::Text;
+                cell.text = {reinterpret_cast<const char *>(sqlite3_value_text(value)),
+                             sqlite3_value_bytes(value)};
+            }
         }
-        return cell;
     }
 
     void *nativeHandle() const override { return statement_; }

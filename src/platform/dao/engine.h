@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <memory>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -36,7 +37,8 @@ public:
     virtual qint64 integer(int column) const = 0;
     virtual double real(int column) const = 0;
     virtual QByteArrayView text(int column) const = 0; ///< UTF-8, until the next step
-    virtual Cell cell(int column) const = 0;
+    /// As many columns of the current row as there is room for, from the first one given on.
+    virtual void cells(int firstColumn, std::span<Cell> to) const = 0;
     virtual void *nativeHandle() const = 0; ///< for the engine's own parts
 };
 

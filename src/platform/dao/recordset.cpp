@@ -8,10 +8,10 @@ namespace dao
 namespace
 {
 
-RecordsetPrivate &open(const std::unique_ptr<RecordsetPrivate> &d)
+inline RecordsetPrivate &open(const std::unique_ptr<RecordsetPrivate> &d)
 {
-    if (!d || !d->isOpen())
-        throw Error(Error::Closed, QStringLiteral("El objeto no es válido o ya no está abierto."));
+    if (!d || !d->isOpen()) [[unlikely]]
+        RecordsetPrivate::throwClosed();
     return *d;
 }
 

@@ -29,11 +29,9 @@ void RecordsetPrivate::detach()
     editMode_ = Recordset::EditMode::None;
 }
 
-DatabasePrivate &RecordsetPrivate::database() const
+void RecordsetPrivate::throwClosed()
 {
-    if (!database_)
-        throw Error(Error::Closed, QStringLiteral("El objeto no es válido o ya no está abierto."));
-    return *database_;
+    throw Error(Error::Closed, QStringLiteral("El objeto no es válido o ya no está abierto."));
 }
 
 void RecordsetPrivate::throwNoCurrent()

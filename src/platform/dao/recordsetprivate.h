@@ -26,6 +26,7 @@ public:
     /// The database closes: nothing of its engine may be held any longer.
     void detach();
     bool isOpen() const { return database_ != nullptr; }
+    [[noreturn]] static void throwClosed();
     Recordset::Kind kind() const { return kind_; }
     const std::vector<FieldDef> &fields() const { return fields_; }
     int ordinal(QStringView name) const;
@@ -61,7 +62,12 @@ public:
     bool noMatch = false;
 
 protected:
-    DatabasePrivate &database() const; ///< throws Error::Closed
+    DatabasePrivate &database() const ///< throws Error::Closed
+    {
+        if (!database_) [[unlikely]]
+            throwClosed();
+        return *database_;
+    }
     void setFields(std::vector<FieldDef> fields, std::vector<QString> qualifiers);
     [[noreturn]] static void throwNoCurrent();
     [[noreturn]] static void throwDeleted();

@@ -3,13 +3,38 @@
 #include "platform/dao/types.h"
 
 #include <cmath>
+#include <cstring>
 
 namespace dao
 {
 
+namespace
+{
+
+bool isAscii(QByteArrayView text)
+{
+    const char *p = text.data();
+    qsizetype left = text.size();
+    quint64 high = 0;
+    for (; left >= 8; left -= 8, p += 8) {
+        quint64 eight = 0;
+        std::memcpy(&eight, p, 8);
+        high |= eight;
+    }
+    for (; left > 0; --left)
+        high |= static_cast<quint64>(static_cast<unsigned char>(*p++));
+    return (high & 0x8080808080808080u) == 0;
+}
+
+} // namespace
+
 void Rows::reset(std::vector<FieldType> types)
 {
     types_ = std::move(types);
+    wanted_.clear();
+    for (FieldType type : types_)
+        wanted_.push_back(exprTypeOf(type));
+    given_.resize(wanted_.size());
     clear();
 }
 
@@ -22,17 +47,20 @@ void Rows::clear()
 
 void Rows::append(const EngineStatement &row, int firstColumn)
 {
-    for (FieldType type : types_) {
-        const EngineStatement::Cell given = row.cell(firstColumn++);
-        Cell &cell = cells_.emplace_back();
-        const ExprType wanted = exprTypeOf(type);
+    cells_.resize(cells_.size() + wanted_.size());
+    auto next = cells_.end() - static_cast<qsizetype>(wanted_.size());
+    row.cells(firstColumn, given_);
+    for (size_t i = 0; i < wanted_.size(); ++i) {
+        const EngineStatement::Cell &given = given_[i];
+        const ExprType wanted = wanted_[i];
+        Cell &cell = *next++;
         switch (given.content) {
         case EngineStatement::Cell::Null:
             break;
         case EngineStatement::Cell::Text:
             if (wanted != ExprType::Text)
                 break;
-            cell.content = Cell::Text;
+            cell.content = isAscii(given.text) ? Cell::PlainText : Cell::Text;
             cell.length = static_cast<quint32>(given.text.size());
             cell.offset = static_cast<qint64>(texts_.size());
             texts_.append(given.text.data(), static_cast<size_t>(given.text.size()));
@@ -62,7 +90,8 @@ basic::Value Rows::value(qint64 row, int column) const
     switch (types_[columnAt]) {
     case FieldType::Text:
     case FieldType::Memo:
-        return QString::fromUtf8(texts_.data() + cell.offset, cell.length);
+        return cell.content == Cell::PlainText ? QString::fromLatin1(texts_.data() + cell.offset, cell.length)
+                                               : QString::fromUtf8(texts_.data() + cell.offset, cell.length);
     case FieldType::Double:
         return cell.real;
     case FieldType::Date:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/basic/value.h"
+#include "platform/dao/ast.h"
 #include "platform/dao/engine.h"
 #include "platform/dao/schema.h"
 
@@ -25,7 +26,7 @@ public:
 
 private:
     struct Cell {
-        enum Content : quint32 { Null, Number, Text } content = Null;
+        enum Content : quint32 { Null, Number, Text, PlainText } content = Null; ///< PlainText: ASCII alone
         quint32 length = 0;
         union {
             qint64 integer = 0;
@@ -35,7 +36,9 @@ private:
     };
 
     std::vector<FieldType> types_;
+    std::vector<ExprType> wanted_; ///< what the engine is to give for each
     std::vector<Cell> cells_;
+    std::vector<EngineStatement::Cell> given_; ///< room for the row being added
     std::string texts_;
     qint64 count_ = 0;
 };
