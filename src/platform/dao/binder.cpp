@@ -440,7 +440,54 @@ void Binder::bindInsert(Insert &insert, Bound &bound)
     const Scope none;
     for (size_t i = 0; i < insert.values.size(); ++i)
         bindAssigned(insert.values[i], *fields[i], none);
+    requireKeys(*bound.target, insert);
 }
+
+namespace
+{
+
+/// A primary key identifies its row: none of its columns may be unknown.
+void requireKey(const Table &table, const QString &column, const Expr *value)
+{
+    const int ordinal = table.ordinal(column);
+    const bool given = value ? value->kind != ExprKind::Null : ordinal == table.counter;
+    if (!given && table.columns[static_cast<size_t>(ordinal)].type != FieldType::Bit)
+        throw Error(Error::NullKey,
+                    QStringLiteral("El índice o la clave principal no puede contener un valor Nulo."));
+}
+
+bool isPrimaryKey(const IndexDef &index)
+{
+    return index.primary && index.unique;
+}
+
+void requireKeys(const Table &table, const Insert &insert)
+{
+    if (insert.select)
+        return;
+    for (const IndexDef &index : table.indexes) {
+        if (!isPrimaryKey(index))
+            continue;
+        for (const QString &field : index.fields) {
+            const auto it = std::find(insert.columns.begin(), insert.columns.end(), field);
+            const auto place = static_cast<size_t>(it - insert.columns.begin());
+            requireKey(table, field, it == insert.columns.end() ? nullptr : insert.values[place].get());
+        }
+    }
+}
+
+void requireKeys(const Table &table, const Update &update)
+{
+    for (const IndexDef &index : table.indexes) {
+        for (const Assignment &assignment : update.assignments) {
+            const QString &column = table.columns[static_cast<size_t>(assignment.ordinal)].name;
+            if (isPrimaryKey(index) && index.fields.contains(column))
+                requireKey(table, column, assignment.value.get());
+        }
+    }
+}
+
+} // namespace
 
 void Binder::bindUpdate(Update &update, Bound &bound)
 {
@@ -457,6 +504,7 @@ void Binder::bindUpdate(Update &update, Bound &bound)
                         QStringLiteral("Pocos parámetros: no existe el campo '%1'.").arg(assignment.column));
         bindAssigned(assignment.value, bound.target->columns[static_cast<size_t>(assignment.ordinal)], scope);
     }
+    requireKeys(*bound.target, update);
     if (update.where)
         bindCondition(update.where, scope);
 }
