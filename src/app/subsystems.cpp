@@ -4,11 +4,13 @@
 #include "core/session/ayuda.h"
 #include "core/session/register.h"
 #include "paediatrics/register.h"
+#include "practice/register.h"
 
 void app::prepare()
 {
     core::registerScreens();
     clinical::registerScreens();
     paediatrics::registerScreens();
+    practice::registerScreens();
     instalarAyuda();
 }

@@ -1,0 +1,13 @@
+#include "practice/register.h"
+
+#include "core/session/screens.h"
+#include "practice/appointments/panEstadosTurnos.h"
+#include "practice/appointments/panTurnos.h"
+
+using namespace Qt::StringLiterals;
+
+void practice::registerScreens()
+{
+    screens::add<panTurnos>(u"panTurnos"_s);
+    screens::add<panEstadosTurnos>(u"panEstadosTurnos"_s);
+}
