@@ -68,7 +68,7 @@ void escribirHorario(const Esquema &esquema, QDate fecha)
     dias[u"idProfesional"] = esquema.idProfesional;
     dias[u"Fecha"] = fecha;
     for (std::size_t i = 0; i < columnas.size(); ++i)
-        if (esquema.horas[i] != QTime(0, 0))
+        if (esquema.horas[i].isValid() && esquema.horas[i] != QTime(0, 0))
             dias[columnas[i]] = texto(esquema.horas[i]);
     dias.update();
 }
