@@ -26,6 +26,19 @@ void error(const QString &texto)
     msgBox(texto, Icon::Critical, u"Error"_s);
 }
 
+/// The focus that a window gives on opening leaves the hint in sight, selected, until the first letter.
+bool llegaLaPersona(const QFocusEvent &foco)
+{
+    switch (foco.reason()) {
+    case Qt::OtherFocusReason:
+    case Qt::ActiveWindowFocusReason:
+    case Qt::PopupFocusReason:
+        return false;
+    default:
+        return true;
+    }
+}
+
 } // namespace
 
 panNueTurno::panNueTurno() : Form(u"panNueTurno"_s)
@@ -112,7 +125,7 @@ void panNueTurno::activate()
     if (idTurno_)
         mostrarTurno();
     if (txtBusca.isEnabled()) {
-        txtBusca.setFocus(Qt::OtherFocusReason); // the hint stays in sight until the first letter
+        txtBusca.setFocus();
         txtBusca.selectAll();
     } else {
         mMotivo.setFocus();
@@ -150,6 +163,7 @@ void panNueTurno::mostrarPaciente()
 {
     if (!Data1.hasRow())
         return;
+    marcarBusqueda(true); // a row gone to is a choice, whatever was typed before
     dao::Recordset &paciente = Data1.recordset();
     idPaciente_ = paciente[u"Numero"].integer();
     Text1.setText(paciente[u"Apellido y Nombres"].text());
@@ -232,8 +246,13 @@ void panNueTurno::buscar(const QString &texto)
     Data1.change([&](dao::Recordset &pacientes) {
         pacientes.findFirst(u"[Apellido y Nombres] LIKE '%1*'"_s.arg(texto));
     });
-    sinCoincidencia_ = Data1.recordset().noMatch();
-    setForeColor(txtBusca, sinCoincidencia_ ? QColor(0xb0, 0x3a, 0x2e) : palette().color(QPalette::Text));
+    marcarBusqueda(!Data1.recordset().noMatch());
+}
+
+void panNueTurno::marcarBusqueda(bool hallado)
+{
+    sinCoincidencia_ = !hallado;
+    setForeColor(txtBusca, hallado ? palette().color(QPalette::Text) : QColor(0xb0, 0x3a, 0x2e));
 }
 
 void panNueTurno::paso(int filas)
@@ -245,8 +264,7 @@ void panNueTurno::paso(int filas)
 /// the letters meet nobody, Enter does not book the patient met before.
 bool panNueTurno::eventFilter(QObject *receptor, QEvent *evento)
 {
-    if (evento->type() == QEvent::FocusIn &&
-        static_cast<QFocusEvent *>(evento)->reason() != Qt::OtherFocusReason &&
+    if (evento->type() == QEvent::FocusIn && llegaLaPersona(*static_cast<QFocusEvent *>(evento)) &&
         txtBusca.text() == busquedaRapida)
         txtBusca.clear();
     if (evento->type() == QEvent::KeyPress) {

@@ -40,6 +40,7 @@ private:
     void mostrarTurnoDado(dao::Recordset &turno);
     void elegirCobertura(const QString &cobertura);
     void buscar(const QString &texto);
+    void marcarBusqueda(bool hallado);
     void paso(int filas);
     std::optional<qint64> profesionalElegido();
     bool atiendeEseDia(qint64 idProfesional);
