@@ -463,7 +463,7 @@ CREATE INDEX tipo ON Presion (tipo, Edad);
 CREATE TABLE Presupuestos (idpresupuesto COUNTER, codpaciente LONG, fecha DATE, Descripcion TEXT(255));
 CREATE INDEX codpaciente ON Presupuestos (codpaciente);
 
-CREATE TABLE Profesionales (idProfesional LONG, Nombre TEXT(50), Especialidad TEXT(60), Domicilio TEXT(100),
+CREATE TABLE Profesionales (idProfesional COUNTER, Nombre TEXT(50), Especialidad TEXT(60), Domicilio TEXT(100),
     Localidad TEXT(100), Telefonos TEXT(60), Observaciones MEMO);
 CREATE UNIQUE INDEX PrimaryKey ON Profesionales (idProfesional) WITH PRIMARY;
 CREATE INDEX Nombre ON Profesionales (Nombre);

@@ -18,15 +18,20 @@ constexpr int pointsOfInch = 72;
 /// Everything is laid out in points on the A4 sheet.
 constexpr QSizeF sheet(595, 842);
 constexpr QRectF body(62, 60, 471, 706);
-constexpr int frontPages = 2;
+constexpr double lineOfContents = 13;
+constexpr double chapterGap = 7;
+constexpr double firstLineOfContents = 40; // below the heading
 
 const QColor ink(0x2c, 0x4a, 0x66);
 const QColor soft(0x6b, 0x76, 0x80);
 
+/// A line of the table of contents.
 struct Entry {
     QString title;
     int level;
-    int page;
+    int page;  ///< of the text, from 0
+    int sheet; ///< of the table of contents that it stands on, from 0
+    double y;  ///< on that sheet
 };
 
 QFont letters(double points, bool bold = false)
@@ -61,7 +66,6 @@ public:
         if (!m_painter.begin(&m_writer))
             throw std::runtime_error("cannot write the manual");
         paintCover(logo);
-        m_writer.newPage();
         paintContents();
         for (int page = 0; page < m_text.pageCount(); ++page) {
             m_writer.newPage();
@@ -85,15 +89,25 @@ private:
         }
     }
 
+    /// Chapters and their sections, laid out on as many sheets as they take.
     std::vector<Entry> contents() const
     {
         std::vector<Entry> entries;
+        int sheetOfContents = 0;
+        double y = body.top() + firstLineOfContents;
         for (QTextBlock block = m_text.begin(); block.isValid(); block = block.next()) {
             const int level = block.blockFormat().headingLevel();
+            if (level < 1 || level > 2)
+                continue;
+            y += level == 1 ? chapterGap : 0;
+            if (y + lineOfContents > body.bottom()) {
+                ++sheetOfContents;
+                y = body.top();
+            }
             const double top = m_text.documentLayout()->blockBoundingRect(block).top();
-            if (level > 0)
-                entries.push_back(
-                    {block.text(), level, static_cast<int>(top / body.height()) + 1 + frontPages});
+            entries.push_back(
+                {block.text(), level, static_cast<int>(top / body.height()), sheetOfContents, y});
+            y += lineOfContents;
         }
         return entries;
     }
@@ -117,21 +131,25 @@ private:
 
     void paintContents()
     {
+        const std::vector<Entry> entries = contents();
+        m_frontPages = entries.empty() ? 2 : entries.back().sheet + 2; // the cover, then the contents
+        m_writer.newPage();
         write({body.left(), body.top(), body.width(), 30}, Qt::AlignLeft, "Contenido", letters(20, true),
               ink);
-        double y = body.top() + 40;
-        for (const Entry &entry : contents()) {
+        int sheetOfContents = 0;
+        for (const Entry &entry : entries) {
+            if (entry.sheet != sheetOfContents) {
+                m_writer.newPage();
+                sheetOfContents = entry.sheet;
+            }
             const bool isChapter = entry.level == 1;
-            y += isChapter ? 7 : 0;
-            const QRectF row(body.left(), y, body.width(), 13);
+            const QRectF row(body.left(), entry.y, body.width(), lineOfContents);
             const QFont font = letters(isChapter ? 10.5 : 9.5, isChapter);
             write(row.adjusted(isChapter ? 0 : 16, 0, 0, 0), Qt::AlignLeft, entry.title, font,
                   isChapter ? ink : soft);
-            write(row, Qt::AlignRight, QString::number(entry.page), font, isChapter ? ink : soft);
-            y += 13;
+            write(row, Qt::AlignRight, QString::number(entry.page + 1 + m_frontPages), font,
+                  isChapter ? ink : soft);
         }
-        if (y > body.bottom())
-            throw std::runtime_error("the table of contents does not fit its page");
     }
 
     void paintPage(int page)
@@ -147,12 +165,13 @@ private:
         m_painter.restore();
         const QRectF foot(body.left(), body.bottom() + 18, body.width(), 14);
         write(foot, Qt::AlignLeft, "Sanirell!  Manual del usuario", letters(8.5), soft);
-        write(foot, Qt::AlignRight, QString::number(page + 1 + frontPages), letters(8.5), soft);
+        write(foot, Qt::AlignRight, QString::number(page + 1 + m_frontPages), letters(8.5), soft);
     }
 
     QPdfWriter m_writer;
     QTextDocument m_text;
     QPainter m_painter;
+    int m_frontPages = 0; ///< cover and contents
 };
 
 } // namespace

@@ -64,7 +64,6 @@ void addDoctors()
     dao::Recordset rows = BaseDatos.openRecordset(u"Profesionales"_s);
     for (std::size_t i = 0; i < doctors.size(); ++i) {
         rows.addNew();
-        rows[u"idProfesional"] = static_cast<int>(i) + 1;
         rows[u"Nombre"] = doctors[i].name;
         rows[u"Especialidad"] = doctors[i].speciality;
         rows[u"TipoPermiso"] = u"T"_s;

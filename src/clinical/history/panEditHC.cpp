@@ -113,6 +113,8 @@ void panEditHC::cargar()
 void panEditHC::aplicarAspecto()
 {
     const QFont fuente = fuenteElegida();
+    if (Combo2.findText(fuente.family()) < 0)
+        Combo2.insertItem(0, fuente.family()); // chosen on another machine; the nearest font shows it
     Combo1.setValue(QString::number(fuente.pointSize()));
     Combo2.setValue(fuente.family());
     RT1.setFont(fuente);

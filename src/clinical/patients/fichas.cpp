@@ -225,22 +225,8 @@ void BuscaEnPacientes(dao::Recordset &pacientes)
     buscaPaciente dialogo;
     dialogo.showModal();
     QApplication::processEvents(); // the closing dialogue's place is painted before a long search
-    if (dialogo.tag() == u"PORHI") {
+    if (dialogo.tag() == u"PORHI")
         pacientes.findFirst(u"[Numero] = "_s + dialogo.texto());
-        return;
-    }
-    if (dialogo.tag() != u"PORAP")
-        return;
-    const QString criterio = u"[Apellido y Nombres] LIKE '%1'"_s.arg(dialogo.patron());
-    switch (dialogo.desde()) {
-    case 0:
-        pacientes.findFirst(criterio);
-        break;
-    case 1:
-        pacientes.findLast(criterio);
-        break;
-    default:
-        pacientes.findNext(criterio);
-        break;
-    }
+    else if (dialogo.tag() == u"PORAP")
+        dialogo.mover(pacientes, u"[Apellido y Nombres] LIKE '%1'"_s.arg(dialogo.patron()));
 }

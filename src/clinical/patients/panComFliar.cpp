@@ -51,6 +51,7 @@ panComFliar::panComFliar() : Form(u"panComFliar"_s)
                                 Row{Expanding(List1), Column{Command7, Command8, Stretch()}}),
                           Row{Stretch(), Command1, Command2},
                       });
+    setMinimumWidth(900);
     connect(&Command7, &QPushButton::clicked, this, &panComFliar::command7Click);
     connect(&Command8, &QPushButton::clicked, this, &panComFliar::command8Click);
     connect(&Command1, &QPushButton::clicked, this, [this] { answer(u"SI"_s); });

@@ -89,9 +89,8 @@ panSelPaciente::panSelPaciente() : Form(u"panSelPaciente"_s)
         if (!texto.isEmpty())
             buscar(u"[Apellido y Nombres] LIKE '*%1*'"_s.arg(texto));
     });
-    connect(&Data1, &Data::reposition, this, [this] {
-        numero_ = Data1.hasRow() ? Data1.recordset()[u"Numero"].text() : QString();
-    });
+    connect(&Data1, &Data::reposition, this,
+            [this] { numero_ = Data1.hasRow() ? Data1.recordset()[u"Numero"].text() : QString(); });
     connect(&DBGrid1, &DBGrid::accepted, this, &panSelPaciente::command2Click);
     connect(&Command1, &QPushButton::clicked, this, &panSelPaciente::command1Click);
     connect(&Command2, &QPushButton::clicked, this, &panSelPaciente::command2Click);

@@ -4,6 +4,7 @@
 #include "core/session/session.h"
 #include "platform/basic/environment.h"
 #include "platform/basic/errors.h"
+#include "platform/basic/runtime.h"
 #include "platform/forms/boxes.h"
 
 using namespace Qt::StringLiterals;
@@ -48,6 +49,36 @@ bool VerificaNivel(const QString &clave)
             u"El usuario actual no tiene definido el nivel de acceso o el nivel de acceso de este usuario no existe. Verifique Niveles de acceso y usuarios del menu Servicios"_s,
             u"NIVEL NO DEFINIDO PARA EL USUARIO"_s);
     return permitido;
+}
+
+QString entradaDeNivel(dao::Recordset &niveles)
+{
+    return basic::format(niveles[u"Nivel"], u"00") + u" - "_s + niveles[u"Descripcion"].text();
+}
+
+QStringList entradasDeNivel()
+{
+    QStringList entradas;
+    dao::Recordset niveles = BaseDatos.openRecordset(u"Niveles"_s);
+    niveles.setIndex(u"nivel");
+    for (; !niveles.eof(); niveles.moveNext())
+        entradas += entradaDeNivel(niveles);
+    return entradas;
+}
+
+int nivelDeEntrada(const QString &entrada)
+{
+    return static_cast<int>(basic::val(entrada.left(2)));
+}
+
+const QStringList tiposDeUsuario = {u"Médico"_s, u"Secretario/a"_s, u"Administrativo!"_s};
+
+QString tipoDeLetra(const QString &letra)
+{
+    for (const QString &tipo : tiposDeUsuario)
+        if (tipo.left(1) == letra)
+            return tipo;
+    return {};
 }
 
 } // namespace MODULE11

@@ -1,6 +1,7 @@
 #include "core/services/services.h"
 
 #include "core/services/buscaDato.h"
+#include "core/services/panListados.h"
 #include "core/services/selagenda.h"
 #include "core/session/session.h"
 #include "platform/basic/environment.h"
@@ -92,18 +93,13 @@ void BuscaEnLista(dao::Recordset &recordset, const QString &campo)
     if (dialogo.tag() != u"SI")
         return;
     QApplication::processEvents(); // the closing dialogue's place is painted before a long search
-    const QString criterio = u"[%1] LIKE '%2'"_s.arg(campo, dialogo.patron());
-    switch (dialogo.desde()) {
-    case buscaDato::Desde::Principio:
-        recordset.findFirst(criterio);
-        break;
-    case buscaDato::Desde::Final:
-        recordset.findLast(criterio);
-        break;
-    case buscaDato::Desde::Aqui:
-        recordset.findNext(criterio);
-        break;
-    }
+    dialogo.mover(recordset, u"[%1] LIKE '%2'"_s.arg(campo, dialogo.patron()));
+}
+
+void MuestraListado(const QString &sql, const QString &titulo)
+{
+    panListados listado(sql, titulo);
+    listado.showModal();
 }
 
 basic::Value ProximoCodigo(const QString & /*titulo*/, const QString &tabla, const QString &campo)

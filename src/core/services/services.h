@@ -28,6 +28,9 @@ void LlenaLista(QListWidget &lista, const QString &sql, QStringView campo);
 /// Asks for a text with `buscaDato` and moves the recordset to a row whose field begins with (or holds) it.
 void BuscaEnLista(dao::Recordset &recordset, const QString &campo);
 
+/// Shows the query as a list in `panListados`, modally.
+void MuestraListado(const QString &sql, const QString &titulo);
+
 /// The next key of a table without a counter. Empty when a code was asked for and none given.
 basic::Value ProximoCodigo(const QString &titulo, const QString &tabla, const QString &campo);
 

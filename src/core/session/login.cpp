@@ -1,5 +1,6 @@
 #include "core/session/login.h"
 
+#include "core/security/niveles.h"
 #include "core/session/panIngresoUsuario.h"
 #include "core/session/session.h"
 #include "platform/basic/errors.h"
@@ -16,7 +17,6 @@ namespace
 {
 
 constexpr int intentos = 3;
-constexpr int suspendido = 1000;
 
 void error(const QString &texto, const QString &titulo = u"Error"_s)
 {

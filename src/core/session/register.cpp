@@ -1,5 +1,8 @@
 #include "core/session/register.h"
 
+#include "core/security/panAdmAlarmas.h"
+#include "core/security/panNiveles.h"
+#include "core/security/panUsuarios.h"
 #include "core/session/acerca.h"
 #include "core/session/asistente.h"
 #include "core/session/panPersonaliza.h"
@@ -12,4 +15,7 @@ void core::registerScreens()
     screens::add<panPersonaliza>(u"panPersonaliza"_s);
     screens::add<asistente>(u"asistente"_s);
     screens::add<acerca>(u"acerca"_s);
+    screens::add<panUsuarios>(u"panUsuarios"_s);
+    screens::add<panNiveles>(u"panNiveles"_s);
+    screens::add<panAdmAlarmas>(u"panAdmAlarmas"_s);
 }

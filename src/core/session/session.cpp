@@ -1,9 +1,25 @@
 #include "core/session/session.h"
 
+#include "platform/basic/errors.h"
+
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace MODULE11
 {
+
+namespace
+{
+
+// The engine ends with the process before static objects do: the connection must be closed with the
+// application.
+[[maybe_unused]] const bool closesWithTheApplication = [] {
+    qAddPostRoutine([] { basic::ignoringErrors([] { BaseDatos.close(); }); });
+    return true;
+}();
+
+} // namespace
 
 dao::Database BaseDatos;
 QString DrActual;

@@ -37,8 +37,8 @@ struct Bound {
     std::vector<OutputColumn> columns;  ///< of a SELECT
     std::vector<const Source *> tables; ///< of a SELECT whose rows are rows of tables: these, the one whose
                                         ///< row a deletion removes first
-    bool rowwise = false;       ///< rows can be kept by their keys and written to
-    bool timeDependent = false; ///< holds today's date: means something else tomorrow
+    bool rowwise = false;               ///< rows can be kept by their keys and written to
+    bool timeDependent = false;         ///< holds today's date: means something else tomorrow
 
     const Select &select() const { return *std::get<SelectPtr>(statement); }
 };

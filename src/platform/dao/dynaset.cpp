@@ -12,7 +12,7 @@ namespace
 
 constexpr qint64 headRows = 64;
 constexpr qint64 firstWindow = 8;
-constexpr qint64 largestWindow = 512;
+constexpr qint64 largestWindow = 2048;
 constexpr qint64 largestJoinWindow = 64;
 
 } // namespace
@@ -27,6 +27,7 @@ void Dynaset::open()
 {
     const Bound &bound = *prepared_->bound;
     keys_ = Keyset(bound.tables.size());
+    naturalOrder_ = Emitter::naturalOrder(bound);
     std::vector<FieldDef> fields;
     std::vector<QString> qualifiers;
     for (const OutputColumn &column : bound.columns) {
@@ -35,8 +36,10 @@ void Dynaset::open()
     }
     setFields(std::move(fields), std::move(qualifiers));
     hot_.clear();
+    window_.reset({});
     slotOf_.assign(bound.columns.size(), -1);
-    fetchers_.clear();
+    rowOf_.clear();
+    release();
     added_.clear();
     stamp_ = -1;
     readHead();
@@ -52,6 +55,7 @@ void Dynaset::requery()
 void Dynaset::release()
 {
     fetchers_.clear();
+    readOn_.reset();
 }
 
 void Dynaset::readKeys(const Emitter::KeyQuery &query, Keyset &keys)
@@ -96,18 +100,54 @@ void Dynaset::readAll()
             if (known.find(all.at(i)) < 0)
                 keys_.append(all.at(i));
         }
-        for (const Recordset::Bookmark &key : added_)
-            keys_.append(key);
-        added_.clear();
     }
+    appendAdded();
+}
+
+void Dynaset::appendAdded()
+{
+    for (const Recordset::Bookmark &key : added_)
+        keys_.append(key);
+    added_.clear();
     complete_ = true;
+}
+
+void Dynaset::readOn()
+{
+    if (!readOn_) {
+        const EngineSql sql = Emitter::keys(*prepared_->bound, {.columns = hot_, .beyond = true});
+        readOn_ = StatementPtr(database().engine().prepare(sql.text));
+        for (size_t i = 0; i < sql.parameters.size(); ++i)
+            readOn_->bind(static_cast<int>(i), sql.parameters[i]);
+        readOnPlaces_ = static_cast<int>(sql.parameters.size());
+    }
+    const qint64 first = keys_.count();
+    windowSize_ = std::min(std::max(windowSize_ * 2, headRows), largestWindow);
+    startWindow(first, 0);
+    readOn_->bind(readOnPlaces_, first == 0 ? Keyset::none : keys_.at(first - 1)[0]);
+    readOn_->bind(readOnPlaces_ + 1, windowSize_);
+    const StatementRun run(*readOn_);
+    qint64 read = 0;
+    for (; readOn_->step(); ++read) {
+        const qint64 key = readOn_->integer(0);
+        if (!added_.empty() && std::ranges::find(added_, Recordset::Bookmark{key}) != added_.end())
+            continue;
+        keys_.append({&key, 1});
+        rowOf_.push_back(window_.count());
+        window_.append(*readOn_, 1);
+    }
+    if (read < windowSize_)
+        appendAdded();
 }
 
 bool Dynaset::reaches(qint64 position)
 {
     if (position < keys_.count())
         return true;
-    readAll();
+    if (!complete_ && naturalOrder_ && position == keys_.count())
+        readOn();
+    else
+        readAll();
     return position < keys_.count();
 }
 
@@ -168,6 +208,19 @@ basic::Value Dynaset::cell(qint64 position, int ordinal)
     return window_.value(row, slotOf_[static_cast<size_t>(ordinal)]);
 }
 
+basic::Value Dynaset::currentValue(int ordinal)
+{
+    // Most reads are of a row at hand.
+    const qint64 inside = position() - windowFirst_;
+    const int slot = slotOf_[static_cast<size_t>(ordinal)];
+    if (slot >= 0 && standsOnRow() && inside >= 0 && inside < static_cast<qint64>(rowOf_.size()) &&
+        stamp_ == database().changeStamp()) {
+        if (const qint64 row = rowOf_[static_cast<size_t>(inside)]; row >= 0)
+            return window_.value(row, slot);
+    }
+    return cell(current(), ordinal);
+}
+
 void Dynaset::requireRow(qint64 position)
 {
     if (rowOfWindow(position) < 0)
@@ -178,7 +231,7 @@ void Dynaset::makeHot(int ordinal)
 {
     slotOf_[static_cast<size_t>(ordinal)] = static_cast<int>(hot_.size());
     hot_.push_back(ordinal);
-    fetchers_.clear();
+    release();
     // The rows that were read have not got this column.
     windowSize_ = rowOf_.empty() ? 0 : std::min(windowSize_, firstWindow);
     rowOf_.clear();
@@ -204,13 +257,7 @@ void Dynaset::loadWindow(qint64 position)
     const qint64 first = backward ? std::max<qint64>(position - windowSize_ + 1, 0) : position;
     const qint64 last = std::min(first + windowSize_, keys_.count()) - 1;
 
-    stamp_ = database().changeStamp();
-    windowFirst_ = first;
-    rowOf_.assign(static_cast<size_t>(last - first + 1), -1);
-    std::vector<FieldType> types;
-    for (int column : hot_)
-        types.push_back(prepared_->bound->columns[static_cast<size_t>(column)].field.type);
-    window_.reset(std::move(types));
+    startWindow(first, last - first + 1);
     if (keys_.width() > 1) {
         loadTuples(first, last);
         return;
@@ -221,6 +268,21 @@ void Dynaset::loadWindow(qint64 position)
     for (qint64 i = first; dense && i < last; ++i)
         dense = keys_.at(i)[0] < keys_.at(i + 1)[0];
     dense ? loadRange(first, last) : loadList(first, last);
+}
+
+void Dynaset::startWindow(qint64 first, qint64 rows)
+{
+    stamp_ = database().changeStamp();
+    windowFirst_ = first;
+    rowOf_.assign(static_cast<size_t>(rows), -1);
+    if (window_.types().size() == hot_.size()) {
+        window_.clear();
+        return;
+    }
+    std::vector<FieldType> types;
+    for (int column : hot_)
+        types.push_back(prepared_->bound->columns[static_cast<size_t>(column)].field.type);
+    window_.reset(std::move(types));
 }
 
 EngineStatement &Dynaset::fetchStatement(Emitter::Fetch fetch, int keys)

@@ -26,6 +26,7 @@ protected:
     qint64 total() override;
     bool isComplete() const override { return complete_; }
     basic::Value cell(qint64 position, int ordinal) override;
+    basic::Value currentValue(int ordinal) override;
     void requireRow(qint64 position) override;
     qint64 firstMatch(const QString &criterion, bool backwards, qint64 after, qint64 before) override;
     Recordset::Bookmark insertRow(const RowChanges &changes) override;
@@ -38,11 +39,16 @@ private:
     void open();
     void readHead();
     void readAll();
+    /// The next keys of a query in natural order, with the values asked for so far: a walk reads the table
+    /// once.
+    void readOn();
+    void appendAdded();
     void readKeys(const Emitter::KeyQuery &query, Keyset &keys);
     qint64 positionOf(std::span<const qint64> key);
 
     qint64 rowOfWindow(qint64 position); ///< makes sure that it is loaded; -1 for a deleted row
     void loadWindow(qint64 position);
+    void startWindow(qint64 first, qint64 rows);
     void loadRange(qint64 first, qint64 last);
     void loadList(qint64 first, qint64 last);
     void loadTuples(qint64 first, qint64 last);
@@ -72,6 +78,9 @@ private:
         int places; ///< parameters before those of the keys
     };
     std::vector<Fetcher> fetchers_;
+    StatementPtr readOn_;
+    int readOnPlaces_ = 0;
+    bool naturalOrder_ = false;
     int firstPlace_ = 0;
 };
 

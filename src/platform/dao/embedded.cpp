@@ -4,6 +4,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRandomGenerator>
+#include <QThread>
 
 #include ENGINE_HEADER
 
@@ -13,7 +15,20 @@ namespace dao
 namespace
 {
 
-constexpr int busyTimeoutMs = 15000;
+constexpr int longestWaitMs = 60000;
+
+/// Another station holds the file. Stations that write without pause leave it free for moments only, so the
+/// file is asked for often, at irregular times: the engine's own ever longer naps would miss them all.
+int waitForTheFile(void *since, int attempts)
+{
+    auto &timer = *static_cast<QElapsedTimer *>(since);
+    if (attempts == 0)
+        timer.start();
+    if (timer.elapsed() > longestWaitMs)
+        return 0;
+    QThread::usleep(static_cast<unsigned long>(QRandomGenerator::global()->bounded(300, 3000)));
+    return 1;
+}
 
 class EmbeddedStatement final : public EngineStatement
 {
@@ -78,6 +93,29 @@ public:
         return {bytes, sqlite3_column_bytes(statement_, column)};
     }
 
+    Cell cell(int column) const override
+    {
+        sqlite3_value *value = sqlite3_column_value(statement_, column);
+        Cell cell;
+        switch (sqlite3_value_type(value)) {
+        case SQLITE_INTEGER:
+            cell.content = Cell::Integer;
+            cell.integer = sqlite3_value_int64(value);
+            break;
+        case SQLITE_FLOAT:
+            cell.content = Cell::Real;
+            cell.real = sqlite3_value_double(value);
+            break;
+        case SQLITE_NULL:
+            break;
+        default:
+            cell.content = Cell::Text;
+            cell.text = {reinterpret_cast<const char *>(sqlite3_value_text(value)),
+                         sqlite3_value_bytes(value)};
+        }
+        return cell;
+    }
+
     void *nativeHandle() const override { return statement_; }
 
 private:
@@ -116,6 +154,7 @@ Error engineError(sqlite3 *db, int code)
     case SQLITE_NOTADB:
         return {Error::NotADatabase, QStringLiteral("El archivo no tiene el formato de una base de datos.")};
     case SQLITE_CORRUPT:
+    case SQLITE_NOMEM: // what the cipher makes of a page that does not decipher
         return {Error::FileDamaged, QStringLiteral("El archivo de la base de datos está dañado.")};
     case SQLITE_CONSTRAINT:
         if (extended == SQLITE_CONSTRAINT_UNIQUE || extended == SQLITE_CONSTRAINT_PRIMARYKEY ||
@@ -151,13 +190,15 @@ EmbeddedEngine::EmbeddedEngine(const QString &path, const QByteArray &key, const
     const int flags = options.readOnly ? SQLITE_OPEN_READONLY
                                        : SQLITE_OPEN_READWRITE | (options.create ? SQLITE_OPEN_CREATE : 0);
     sqlite3 *db = nullptr;
-    const int code =
-        sqlite3_open_v2(QFile::encodeName(path).constData(), &db, flags | SQLITE_OPEN_EXRESCODE, nullptr);
+    const int code = sqlite3_open_v2(QFile::encodeName(path).constData(), &db,
+                                     flags | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX, nullptr);
     db_.reset(db);
     if (code != SQLITE_OK)
         throw Error(options.create ? Error::ReadOnly : Error::FileNotFound,
                     QStringLiteral("No se pudo abrir el archivo '%1'.").arg(QDir::toNativeSeparators(path)));
-    sqlite3_busy_timeout(db, busyTimeoutMs);
+    sqlite3_busy_handler(db, waitForTheFile, &waiting_);
+    // Else a statement is compiled anew whenever a parameter that its plan looked at is bound again.
+    sqlite3_db_config(db, SQLITE_DBCONFIG_ENABLE_QPSG, 1, nullptr);
     // A wrong password is told by the error alone; the cipher's own log would reach the person's terminal.
     run("PRAGMA cipher_log_level = NONE");
     if (enciphered_)

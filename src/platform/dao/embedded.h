@@ -1,7 +1,9 @@
 #pragma once
 
 #include "platform/dao/engine.h"
+
 #include "platform/dao/error.h"
+#include <QElapsedTimer>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -57,6 +59,7 @@ private:
     void rebuild(const Table &table, const std::vector<FieldDef> &columns);
     qint64 number(std::unique_ptr<EngineStatement> &statement, const char16_t *sql);
 
+    QElapsedTimer waiting_; ///< since another station was found to hold the file
     std::unique_ptr<sqlite3, Close> db_;
     std::unique_ptr<EngineStatement> schemaVersion_, dataVersion_;
     bool enciphered_ = false;

@@ -190,15 +190,34 @@ EngineSql Emitter::keys(const Bound &bound, const KeyQuery &query)
     const Select &select = bound.select();
     e.sql_ += u"SELECT ";
     e.separated(bound.tables, u", ", [&](const Source *source) { e.keyOf(*source); });
+    for (int column : query.columns) {
+        e.sql_ += u", ";
+        e.value(*bound.columns[static_cast<size_t>(column)].expr);
+    }
     e.from(select);
     if (query.criterion) {
         e.sql_ += select.where ? u" AND " : u" WHERE ";
         e.condition(*query.criterion);
     }
+    if (query.beyond) {
+        e.sql_ += select.where ? u" AND " : u" WHERE ";
+        e.keyOf(*bound.tables.front());
+        e.sql_ += u" > ";
+        e.place();
+    }
     e.keyOrder(select, query.reversed);
-    if (query.limit >= 0)
+    if (query.beyond) {
+        e.sql_ += u" LIMIT ";
+        e.place();
+    } else if (query.limit >= 0) {
         e.sql_ += u" LIMIT "_s + QString::number(query.limit);
+    }
     return {std::move(e.sql_), std::move(e.parameters_)};
+}
+
+bool Emitter::naturalOrder(const Bound &bound)
+{
+    return bound.tables.size() == 1 && bound.select().orderBy.empty();
 }
 
 EngineSql Emitter::rows(const Bound &bound, const std::vector<int> &columns, Fetch fetch, int keys)

@@ -27,8 +27,14 @@ public:
         const Expr *criterion = nullptr;
         bool reversed = false;
         qint64 limit = -1;
+        std::vector<int> columns = {}; ///< output columns wanted beside the keys
+        /// Only rows entered after the one whose key is given, in this order; a place for the key and one for
+        /// the limit. For a query in natural order.
+        bool beyond = false;
     };
     static EngineSql keys(const Bound &bound, const KeyQuery &query);
+    /// The rows of one table in the order in which they were entered.
+    static bool naturalOrder(const Bound &bound);
 
     /// Output columns of rows known by their keys: key first, then the columns. `Range` of one table takes
     /// places for the first and the last key; `List` takes `keys` places; `Tuple` one a table and gives the

@@ -142,6 +142,10 @@ void Emitter::collated(const Expr &expr)
 void Emitter::condition(const Expr &expr)
 {
     switch (expr.kind) {
+    case ExprKind::Boolean:
+        // The keyword, unlike the number, lets the engine drop a condition that a filter left open.
+        sql_ += expr.literal.truth() ? u"TRUE" : u"FALSE";
+        return;
     case ExprKind::Not:
         sql_ += u"(NOT ";
         condition(*expr.operands[0]);

@@ -19,6 +19,14 @@ namespace dao
 class EngineStatement
 {
 public:
+    /// A value of the current row in the form in which it is stored.
+    struct Cell {
+        enum Content { Null, Integer, Real, Text } content = Null;
+        qint64 integer = 0;
+        double real = 0;
+        QByteArrayView text; ///< until the next step
+    };
+
     virtual ~EngineStatement() = default;
     virtual void bind(int parameter, const basic::Value &value) = 0;
     virtual void bind(int parameter, qint64 key) = 0;
@@ -28,7 +36,8 @@ public:
     virtual qint64 integer(int column) const = 0;
     virtual double real(int column) const = 0;
     virtual QByteArrayView text(int column) const = 0; ///< UTF-8, until the next step
-    virtual void *nativeHandle() const = 0;            ///< for the engine's own parts
+    virtual Cell cell(int column) const = 0;
+    virtual void *nativeHandle() const = 0; ///< for the engine's own parts
 };
 
 /// Resets a statement on leaving the scope, so that none stays open between two calls.

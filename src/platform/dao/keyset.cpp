@@ -8,10 +8,14 @@ namespace dao
 
 void Keyset::append(std::span<const qint64> key)
 {
-    if (width_ != 1 || (!keys_.empty() && keys_.back() >= key[0]))
-        ascending_ = false;
-    keys_.insert(keys_.end(), key.begin(), key.end());
     lookup_.clear();
+    if (width_ == 1) {
+        ascending_ = ascending_ && (keys_.empty() || keys_.back() < key[0]);
+        keys_.push_back(key[0]);
+        return;
+    }
+    ascending_ = false;
+    keys_.insert(keys_.end(), key.begin(), key.end());
 }
 
 void Keyset::remove(qint64 position)

@@ -39,6 +39,8 @@ bool ListRecordset::bof()
 bool ListRecordset::eof()
 {
     database();
+    if (position_ >= 0 && position_ < visited_)
+        return false;
     return !removed_ && !reaches(std::max<qint64>(position_, 0));
 }
 
@@ -67,6 +69,12 @@ void ListRecordset::move(qint64 rows)
     database();
     if (rows == 0)
         return;
+    if (rows == 1 && !removed_ && position_ >= 0 && position_ < visited_) {
+        // The step that every walk over the rows takes.
+        if (reaches(++position_))
+            visited_ = std::max(visited_, position_ + 1);
+        return;
+    }
     // The row that has taken a removed one's place is already one step on.
     const qint64 target = position_ + rows - (removed_ && rows > 0 ? 1 : 0);
     if (rows > 0) {

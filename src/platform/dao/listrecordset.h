@@ -37,11 +37,16 @@ protected:
     void requireCurrent() override { requireRow(current()); }
     qint64 current(); ///< throws NoCurrentRecord
     qint64 position() const { return position_; }
+    bool standsOnRow() const { return !removed_; }
     /// Stands on the first row, or on none of an empty list.
     void restart();
     void goTo(qint64 position);
     /// The row at the position is gone from the list; the one after it has taken its place.
-    void currentRemoved() { removed_ = true; }
+    void currentRemoved()
+    {
+        removed_ = true;
+        --visited_;
+    }
 
 private:
     qint64 position_ = 0;

@@ -162,9 +162,9 @@ private:
     /// The key at which the reading failed, or nothing when it came through.
     std::optional<qint64> copyRun(qint64 first, qint64 last, bool backwards)
     {
-        qint64 reached = backwards ? last + 1 : first - 1;
-        if (!backwards && first == std::numeric_limits<qint64>::min())
-            reached = first;
+        using Limits = std::numeric_limits<qint64>;
+        qint64 reached = backwards ? (last == Limits::max() ? last : last + 1)
+                                   : (first == Limits::min() ? first : first - 1);
         try {
             const auto select = source_->prepare(backwards ? select_ + QStringLiteral(" DESC") : select_);
             const StatementRun run(*select);
@@ -225,6 +225,10 @@ void compactDatabase(const QString &source, const QString &destination, const QS
             QStringLiteral("ATTACH %1 AS destino KEY %2")
                 .arg(quoted(QFile::encodeName(fresh.path())),
                      key.isEmpty() ? QStringLiteral("''") : u'"' + QString::fromLatin1(key) + u'"');
+        // The connection may not make files, but fills an empty one.
+        if (QFile empty(fresh.path()); !empty.open(QIODevice::WriteOnly))
+            throw Error(Error::ReadOnly, QStringLiteral("No se pudo crear el archivo '%1'.")
+                                             .arg(QDir::toNativeSeparators(destination)));
         engine->run(attach.toUtf8());
         engine->run("BEGIN; SELECT sqlcipher_export('destino'); COMMIT; DETACH destino");
     }

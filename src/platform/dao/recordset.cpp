@@ -15,6 +15,13 @@ RecordsetPrivate &open(const std::unique_ptr<RecordsetPrivate> &d)
     return *d;
 }
 
+/// Moving gives a row up that is open for writing.
+void closeEdit(const std::unique_ptr<RecordsetPrivate> &d)
+{
+    if (open(d).editMode() != Recordset::EditMode::None)
+        d->cancelUpdate();
+}
+
 } // namespace
 
 basic::Value Field::value() const
@@ -104,13 +111,13 @@ qint64 Recordset::recordCount() const
 
 void Recordset::moveFirst()
 {
-    open(d_).cancelUpdate();
+    closeEdit(d_);
     d_->moveFirst();
 }
 
 void Recordset::moveLast()
 {
-    open(d_).cancelUpdate();
+    closeEdit(d_);
     d_->moveLast();
 }
 
@@ -126,7 +133,7 @@ void Recordset::movePrevious()
 
 void Recordset::move(qint64 rows)
 {
-    open(d_).cancelUpdate();
+    closeEdit(d_);
     d_->move(rows);
 }
 
@@ -137,7 +144,7 @@ qint64 Recordset::absolutePosition() const
 
 void Recordset::setAbsolutePosition(qint64 position)
 {
-    open(d_).cancelUpdate();
+    closeEdit(d_);
     d_->setAbsolutePosition(position);
 }
 
@@ -148,7 +155,7 @@ Recordset::Bookmark Recordset::bookmark() const
 
 void Recordset::setBookmark(const Bookmark &bookmark)
 {
-    open(d_).cancelUpdate();
+    closeEdit(d_);
     d_->setBookmark(bookmark);
 }
 
@@ -164,7 +171,7 @@ QString Recordset::index() const
 
 void Recordset::seek(QStringView comparison, const std::vector<basic::Value> &key)
 {
-    open(d_).cancelUpdate();
+    closeEdit(d_);
     d_->seek(comparison, key);
 }
 
@@ -175,25 +182,25 @@ bool Recordset::noMatch() const
 
 void Recordset::findFirst(const QString &criterion)
 {
-    open(d_).cancelUpdate();
+    closeEdit(d_);
     d_->noMatch = !d_->find(criterion, Direction::First);
 }
 
 void Recordset::findLast(const QString &criterion)
 {
-    open(d_).cancelUpdate();
+    closeEdit(d_);
     d_->noMatch = !d_->find(criterion, Direction::Last);
 }
 
 void Recordset::findNext(const QString &criterion)
 {
-    open(d_).cancelUpdate();
+    closeEdit(d_);
     d_->noMatch = !d_->find(criterion, Direction::Next);
 }
 
 void Recordset::findPrevious(const QString &criterion)
 {
-    open(d_).cancelUpdate();
+    closeEdit(d_);
     d_->noMatch = !d_->find(criterion, Direction::Previous);
 }
 
@@ -224,7 +231,7 @@ void Recordset::update()
 
 void Recordset::cancelUpdate()
 {
-    open(d_).cancelUpdate();
+    closeEdit(d_);
 }
 
 void Recordset::deleteRow()
@@ -239,7 +246,7 @@ Recordset::Bookmark Recordset::lastModified() const
 
 void Recordset::requery()
 {
-    open(d_).cancelUpdate();
+    closeEdit(d_);
     d_->requery();
 }
 

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstring>
 
 namespace dao
 {
@@ -47,13 +48,15 @@ void RecordsetPrivate::throwDeleted()
 
 quint32 RecordsetPrivate::nameHash(QStringView name)
 {
-    quint32 hash = static_cast<quint32>(name.size());
-    for (QChar c : name) {
-        // Letters beyond ASCII may differ by case in ways that the table leaves to the comparison.
-        const char16_t code = c.unicode();
-        hash = hash * 31 + (code < 0x80 ? code | 0x20 : 0);
-    }
-    return hash;
+    if (name.isEmpty())
+        return 0;
+    // Letters beyond ASCII may differ by case in ways that are left to the comparison.
+    const auto folded = [&](qsizetype i) -> quint32 {
+        const char16_t code = name[i].unicode();
+        return code < 0x80 ? code | 0x20u : 0u;
+    };
+    const qsizetype size = name.size();
+    return static_cast<quint32>(size) * 131 + folded(0) * 31 + folded(size / 2) * 7 + folded(size - 1);
 }
 
 void RecordsetPrivate::setFields(std::vector<FieldDef> fields, std::vector<QString> qualifiers)
@@ -63,6 +66,8 @@ void RecordsetPrivate::setFields(std::vector<FieldDef> fields, std::vector<QStri
     edits_.assign(fields_.size(), std::nullopt);
     buckets_.assign(std::bit_ceil(fields_.size() * 2 + 1), -1);
     chain_.assign(fields_.size(), -1);
+    following_.assign(fields_.size(), 0);
+    lastAsked_ = 0;
     for (size_t i = fields_.size(); i-- > 0;) {
         const size_t bucket = nameHash(fields_[i].name) & (buckets_.size() - 1);
         chain_[i] = buckets_[bucket];
@@ -72,8 +77,22 @@ void RecordsetPrivate::setFields(std::vector<FieldDef> fields, std::vector<QStri
 
 int RecordsetPrivate::ordinal(QStringView name) const
 {
-    if (buckets_.empty())
+    if (fields_.empty())
         return -1;
+    // A walk over the rows asks for the same fields in the same order in each of them.
+    int &guess = following_[static_cast<size_t>(lastAsked_)];
+    const QString &guessed = fields_[static_cast<size_t>(guess)].name;
+    if (guessed.size() == name.size() &&
+        std::memcmp(guessed.constData(), name.data(), static_cast<size_t>(name.size()) * sizeof(QChar)) == 0)
+        return lastAsked_ = guess;
+    const int found = lookUp(name);
+    if (found >= 0)
+        lastAsked_ = guess = found;
+    return found;
+}
+
+int RecordsetPrivate::lookUp(QStringView name) const
+{
     for (int i = buckets_[nameHash(name) & (buckets_.size() - 1)]; i >= 0;
          i = chain_[static_cast<size_t>(i)]) {
         if (sameName(fields_[static_cast<size_t>(i)].name, name))

@@ -83,6 +83,7 @@ protected:
 
 private:
     void requireUpdatable() const;
+    int lookUp(QStringView name) const;
     static quint32 nameHash(QStringView name);
 
     DatabasePrivate *database_;
@@ -91,6 +92,8 @@ private:
     std::vector<QString> qualifiers_;
     std::vector<int> buckets_; ///< first field of a hash, then by chain_
     std::vector<int> chain_;
+    mutable std::vector<int> following_; ///< the field that was asked for after each one
+    mutable int lastAsked_ = 0;
     Recordset::EditMode editMode_ = Recordset::EditMode::None;
     std::vector<std::optional<basic::Value>> edits_;
     Recordset::Bookmark lastModified_;

@@ -2,6 +2,8 @@
 
 #include "platform/dao/types.h"
 
+#include <cmath>
+
 namespace dao
 {
 
@@ -14,35 +16,38 @@ void Rows::reset(std::vector<FieldType> types)
 void Rows::clear()
 {
     cells_.clear();
-    texts_.resize(0); // keeps the room
+    texts_.clear();
     count_ = 0;
 }
 
 void Rows::append(const EngineStatement &row, int firstColumn)
 {
     for (FieldType type : types_) {
-        const int column = firstColumn++;
+        const EngineStatement::Cell given = row.cell(firstColumn++);
         Cell &cell = cells_.emplace_back();
-        if (row.isNull(column))
-            continue;
-        cell.content = Cell::Number;
-        switch (type) {
-        case FieldType::Text:
-        case FieldType::Memo: {
-            const QByteArrayView text = row.text(column);
+        const ExprType wanted = exprTypeOf(type);
+        switch (given.content) {
+        case EngineStatement::Cell::Null:
+            break;
+        case EngineStatement::Cell::Text:
+            if (wanted != ExprType::Text)
+                break;
             cell.content = Cell::Text;
-            cell.length = static_cast<quint32>(text.size());
-            cell.offset = texts_.size();
-            texts_.append(text);
+            cell.length = static_cast<quint32>(given.text.size());
+            cell.offset = static_cast<qint64>(texts_.size());
+            texts_.append(given.text.data(), static_cast<size_t>(given.text.size()));
+            break;
+        case EngineStatement::Cell::Integer:
+        case EngineStatement::Cell::Real: {
+            // What an expression computes may come in the other form of a number.
+            const bool isReal = given.content == EngineStatement::Cell::Real;
+            cell.content = Cell::Number;
+            if (wanted == ExprType::Double || wanted == ExprType::Date)
+                cell.real = isReal ? given.real : static_cast<double>(given.integer);
+            else
+                cell.integer = isReal ? static_cast<qint64>(std::nearbyint(given.real)) : given.integer;
             break;
         }
-        case FieldType::Double:
-        case FieldType::Date:
-        case FieldType::Time:
-            cell.real = row.real(column);
-            break;
-        default:
-            cell.integer = row.integer(column);
         }
     }
     ++count_;
@@ -57,7 +62,7 @@ basic::Value Rows::value(qint64 row, int column) const
     switch (types_[columnAt]) {
     case FieldType::Text:
     case FieldType::Memo:
-        return QString::fromUtf8(texts_.constData() + cell.offset, cell.length);
+        return QString::fromUtf8(texts_.data() + cell.offset, cell.length);
     case FieldType::Double:
         return cell.real;
     case FieldType::Date:

@@ -4,6 +4,7 @@
 #include "platform/dao/engine.h"
 #include "platform/dao/schema.h"
 
+#include <string>
 #include <vector>
 
 namespace dao
@@ -35,7 +36,7 @@ private:
 
     std::vector<FieldType> types_;
     std::vector<Cell> cells_;
-    QByteArray texts_;
+    std::string texts_;
     qint64 count_ = 0;
 };
 

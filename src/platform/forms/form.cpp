@@ -141,6 +141,7 @@ void Form::showChild(bool maximised)
     }
     prepare();
     Q_ASSERT(childArea());
+    const QSize own = testAttribute(Qt::WA_Resized) ? size() : sizeHint();
     QMdiSubWindow *sub = childArea()->addSubWindow(this);
     sub->setAttribute(Qt::WA_DeleteOnClose);
     sub->setWindowIcon(windowIcon());
@@ -148,7 +149,8 @@ void Form::showChild(bool maximised)
         sub->showMaximized();
     } else {
         sub->show();
-        sub->resize(sub->sizeHint().boundedTo(childArea()->viewport()->size()));
+        const QSize border = sub->sizeHint() - sizeHint();
+        sub->resize((own + border).boundedTo(childArea()->viewport()->size()));
     }
     show();
     childArea()->setActiveSubWindow(sub);

@@ -159,9 +159,12 @@ Fields::Fields(std::vector<FieldRow> rows)
 {
 }
 
-Item Grid(int columns, Items list)
+Item Grid(int columns, Items items)
 {
-    std::vector<Item> items(list);
+    return Grid(columns, std::vector<Item>(items));
+}
+Item Grid(int columns, std::vector<Item> items)
+{
     auto order = orderOf(items);
     auto add = [columns, items = std::move(items)](QBoxLayout *layout) {
         auto *grid = new QGridLayout;

@@ -68,6 +68,7 @@ struct Fields : Item {
 
 /// Equal columns side by side, items placed row by row.
 Item Grid(int columns, Items items);
+Item Grid(int columns, std::vector<Item> items);
 /// A titled box; with a Frame, that control is the box.
 Item Group(const QString &caption, Item content);
 Item Group(class Frame &frame, Item content);

@@ -18,6 +18,9 @@ enum PictureError { FileNotFound = 53, InvalidPicture = 481 };
 /// Strokes are as broad as a pen of two screen pixels, whatever they are drawn on.
 constexpr double strokeTwips = 2 * twipsPerPixel;
 
+/// Beyond so many strokes no single one is seen, and smooth edges would only cost time.
+constexpr std::size_t crowd = 5000;
+
 } // namespace
 
 PictureBox::PictureBox(const QString &name, QSizeF sizeTwips) : size_(sizeTwips)
@@ -101,9 +104,11 @@ void PictureBox::paintEvent(QPaintEvent *)
 
 void PictureBox::paintStrokes(QPainter &painter) const
 {
+    const bool crowded = strokes_.size() > crowd;
+    painter.setRenderHint(QPainter::Antialiasing, !crowded);
     painter.setBrush(Qt::NoBrush);
     for (const Stroke &stroke : strokes_) {
-        painter.setPen(QPen(stroke.colour, strokeTwips, Qt::SolidLine, Qt::RoundCap));
+        painter.setPen(QPen(stroke.colour, crowded ? 0 : strokeTwips, Qt::SolidLine, Qt::RoundCap));
         if (stroke.radius > 0)
             painter.drawEllipse(stroke.from, stroke.radius, stroke.radius);
         else

@@ -9,6 +9,7 @@
 #include "platform/forms/layout.h"
 
 #include <QCoreApplication>
+#include <QLayout>
 #include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
@@ -19,8 +20,6 @@ namespace
 
 constexpr int verde = 65280; // not chosen
 constexpr int rojo = 255;    // chosen
-constexpr int intervaloInicial = 30;
-constexpr int pasoDelIntervalo = 5;
 
 /// The days of the week as they stand on the screen, with their number.
 struct Dia {
@@ -41,7 +40,7 @@ void error(const QString &texto)
 
 } // namespace
 
-HerramientaHorarios::HerramientaHorarios()
+HerramientaHorarios::HerramientaHorarios(forms::TextBox &intervalo) : intervalo_(intervalo)
 {
     setObjectName(u"HerramientaHorarios"_s);
     ProgressBar1.setObjectName(u"ProgressBar1"_s);
@@ -53,21 +52,8 @@ HerramientaHorarios::HerramientaHorarios()
     }
     for (int i = 0; i < 4; ++i)
         tomarhora.add(i);
-    UpDown2.add(0, u"+"_s);
-    UpDown2.add(1, u"−"_s);
-    for (auto &[indice, boton] : UpDown2) {
-        boton->setFixedWidth(34);
-        boton->setFocusPolicy(Qt::NoFocus);
-    }
-    Text2.setFixedWidth(60);
-    Text2.setAlignment(Qt::AlignRight);
     diasEnVerde();
     disponer();
-    setProfesional(0, {});
-
-    connect(&UpDown2(0), &QPushButton::clicked, this, [this] { cambiarIntervalo(pasoDelIntervalo); });
-    connect(&UpDown2(1), &QPushButton::clicked, this, [this] { cambiarIntervalo(-pasoDelIntervalo); });
-    connect(&Text2, &QLineEdit::editingFinished, this, &HerramientaHorarios::guardarIntervalo);
     connect(&Command7, &QPushButton::clicked, this, &HerramientaHorarios::command7Click);
     connect(&Command8, &QPushButton::clicked, this, &HerramientaHorarios::command8Click);
 }
@@ -82,32 +68,22 @@ void HerramientaHorarios::disponer()
         semana.emplace_back(Command6(dia.numero));
     }
     semana.push_back(Stretch());
-    setContents(
-        this, Column{
-                  Fields{{u"&Desde :"_s, Row{dt1, new QLabel(u"hasta"_s), dt2, Stretch()}},
-                         {u"Días :"_s, Row(semana)},
-                         {u"&Mañana de :"_s, Row{tomarhora(0), new QLabel(u"a"_s), tomarhora(1), Stretch()}},
-                         {u"&Tarde de :"_s, Row{tomarhora(2), new QLabel(u"a"_s), tomarhora(3), Stretch()}},
-                         {u"Minutos &entre turnos :"_s, Row{Text2, UpDown2(0), UpDown2(1), Stretch()}}},
-                  Row{Command7, Command8, Stretch()},
-                  ProgressBar1,
-                  Stretch(),
-              });
+    setContents(this, Column{
+                          Fields{{u"Desde :"_s, Row{dt1, new QLabel(u"hasta :"_s), dt2, Stretch()}},
+                                 {u"Días :"_s, Row(semana)},
+                                 {u"Mañana de :"_s, Row{tomarhora(0), new QLabel(u"a"_s), tomarhora(1),
+                                                        Space(16), new QLabel(u"Tarde de :"_s), tomarhora(2),
+                                                        new QLabel(u"a"_s), tomarhora(3), Stretch()}}},
+                          Row{Command7, Command8, Stretch()},
+                          ProgressBar1,
+                      });
+    layout()->setContentsMargins(0, 0, 0, 0);
 }
 
 void HerramientaHorarios::setProfesional(qint64 idProfesional, const QString &nombre)
 {
     idProfesional_ = idProfesional;
     nombre_ = nombre;
-    int intervalo = 0;
-    if (hayProfesional())
-        intervalo =
-            static_cast<int>(MODULE11::BuscaCampo(u"Select * from profesionales where idProfesional = "_s +
-                                                      QString::number(idProfesional),
-                                                  u"interturnos")
-                                 .integer());
-    Text2.setText(QString::number(intervalo != 0 ? intervalo : intervaloInicial));
-    Text2.setModified(false);
 }
 
 bool HerramientaHorarios::hayProfesional() const
@@ -127,34 +103,6 @@ void HerramientaHorarios::diasEnVerde()
         setBackColor(*boton, fromColourValue(verde));
 }
 
-bool HerramientaHorarios::intervaloNumerico() const
-{
-    return basic::isNumeric(Text2.text());
-}
-
-void HerramientaHorarios::cambiarIntervalo(int minutos)
-{
-    if (intervaloNumerico())
-        Text2.setText(QString::number(qMax(pasoDelIntervalo, esquema().intervalo.value_or(0) + minutos)));
-    Text2.setModified(true);
-    guardarIntervalo();
-}
-
-/// The interval is the professional's own and is kept with the row; only what was changed is written.
-void HerramientaHorarios::guardarIntervalo()
-{
-    if (!intervaloNumerico()) {
-        Text2.setText(QString::number(intervaloInicial));
-        Text2.setModified(true);
-    }
-    if (!hayProfesional() || !Text2.isModified())
-        return;
-    Text2.setModified(false);
-    MODULE11::BaseDatos.execute(u"UPDATE Profesionales SET interturnos = %1 WHERE idProfesional = %2"_s
-                                    .arg(esquema().intervalo.value_or(intervaloInicial))
-                                    .arg(idProfesional_));
-}
-
 horarios::Esquema HerramientaHorarios::esquema() const
 {
     horarios::Esquema esquema;
@@ -166,7 +114,7 @@ horarios::Esquema HerramientaHorarios::esquema() const
         esquema.dias.set(static_cast<std::size_t>(dia.numero), elegido(Command6(dia.numero)));
     for (int i = 0; i < 4; ++i)
         esquema.horas[static_cast<std::size_t>(i)] = tomarhora(i).time();
-    if (const auto minutos = basic::toNumber(Text2.text()))
+    if (const auto minutos = basic::toNumber(intervalo_.text()))
         esquema.intervalo = static_cast<int>(*minutos);
     return esquema;
 }
@@ -203,7 +151,7 @@ void HerramientaHorarios::command7Click()
     const horarios::Esquema pedido = esquema();
     if (!horarios::intervaloValido(pedido.intervalo)) {
         error(u"Error, los minutos entre turnos deben ser más que cero."_s);
-        Text2.setFocus();
+        intervalo_.setFocus();
         return;
     }
     trabajar([&](const horarios::Avance &avance) { horarios::aplicar(pedido, *reemplazar, avance); });

@@ -13,7 +13,9 @@ class HerramientaHorarios : public QWidget
 {
     Q_OBJECT
 public:
-    HerramientaHorarios();
+    /// `intervalo` holds the minutes between places, as the host's field shows them; it must outlive the
+    /// tool.
+    explicit HerramientaHorarios(forms::TextBox &intervalo);
 
     /// Whose hours are written from here on; 0 for nobody.
     void setProfesional(qint64 idProfesional, const QString &nombre);
@@ -25,23 +27,19 @@ private:
     void disponer();
     void alternarDia(int dia);
     void diasEnVerde();
-    bool intervaloNumerico() const;
-    void cambiarIntervalo(int minutos);
-    void guardarIntervalo();
     horarios::Esquema esquema() const;
     bool hayProfesional() const;
     void trabajar(const std::function<void(const horarios::Avance &)> &trabajo);
     void command7Click();
     void command8Click();
 
+    forms::TextBox &intervalo_;
     qint64 idProfesional_ = 0;
     QString nombre_;
     forms::DTPicker dt1{QStringLiteral("dt1")};
     forms::DTPicker dt2{QStringLiteral("dt2")};
     forms::ControlArray<forms::CommandButton> Command6{QStringLiteral("Command6")}; // 1 is Sunday
     forms::ControlArray<forms::TimePicker> tomarhora{QStringLiteral("tomarhora")};
-    forms::TextBox Text2{QStringLiteral("Text2"), 5};
-    forms::ControlArray<forms::CommandButton> UpDown2{QStringLiteral("UpDown2")}; // 0 up, 1 down
     forms::CommandButton Command7{QStringLiteral("Command7"),
                                   QStringLiteral("&Aplica turnos para los dias especificados"),
                                   QStringLiteral("aceptar")};

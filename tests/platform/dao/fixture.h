@@ -2,6 +2,7 @@
 
 #include "platform/dao/database.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -14,7 +15,18 @@ class DaoTest : public testing::Test
 protected:
     static constexpr const char16_t *connect = u";PWD=clave0001";
 
-    void SetUp() override { db.create(path(), QString::fromUtf16(connect)); }
+    void SetUp() override
+    {
+        // Copies of one empty file share its salt, so that the key is derived once for all tests.
+        static const QTemporaryDir shared;
+        const QString empty = shared.filePath("vacia.MDB");
+        if (!QFile::exists(empty)) {
+            dao::Database fresh;
+            fresh.create(empty, QString::fromUtf16(connect));
+        }
+        ASSERT_TRUE(QFile::copy(empty, path()));
+        db.open(path(), false, false, QString::fromUtf16(connect));
+    }
 
     QString path(const QString &name = "BASE.MDB") const { return folder.filePath(name); }
     void openOther() { other.open(path(), false, false, QString::fromUtf16(connect)); }

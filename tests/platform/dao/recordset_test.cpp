@@ -4,7 +4,8 @@ using dao::Error;
 using dao::Recordset;
 using namespace Qt::StringLiterals;
 
-namespace {
+namespace
+{
 
 class RecordsetTest : public DaoTest
 {
@@ -43,8 +44,9 @@ protected:
         if (kind == "dynaset")
             return db.openRecordset("Select * from Pacientes order by Numero");
         if (kind == "join")
-            return db.openRecordset("Select Pacientes.*, Consulta.Motivo from Pacientes LEFT JOIN Consulta ON "
-                                    "Pacientes.Numero = Consulta.paciente order by Pacientes.Numero");
+            return db.openRecordset(
+                "Select Pacientes.*, Consulta.Motivo from Pacientes LEFT JOIN Consulta ON "
+                "Pacientes.Numero = Consulta.paciente order by Pacientes.Numero");
         if (kind == "snapshot")
             return db.openRecordset("Select * from Pacientes order by Numero", Recordset::Kind::Snapshot);
         return db.openRecordset("Select Numero, [Apellido y Nombres], count(*) from Pacientes "
@@ -102,7 +104,8 @@ TEST_P(EveryKind, movesOverAllRowsInBothDirections)
 TEST_P(EveryKind, staysOnItsFeetWhenAnotherStationAddsAndDeletes)
 {
     auto rs = openKind(GetParam());
-    const bool live = QString(GetParam()) == "tabla" || QString(GetParam()) == "dynaset" || QString(GetParam()) == "join";
+    const bool live =
+        QString(GetParam()) == "tabla" || QString(GetParam()) == "dynaset" || QString(GetParam()) == "join";
     EXPECT_EQ(rs[u"Numero"].integer(), 10);
     EXPECT_EQ(other.execute("Delete * from Pacientes where Numero = 10 or Numero = 30"), 2);
     other.execute("INSERT INTO Pacientes (Numero, [Apellido y Nombres]) VALUES (35, 'Intruso')");
@@ -118,7 +121,8 @@ TEST_P(EveryKind, staysOnItsFeetWhenAnotherStationAddsAndDeletes)
     if (QString(GetParam()) == "tabla")
         EXPECT_EQ(numbers(rs), "35 40 50") << "a table shows what there is";
     else if (live)
-        EXPECT_EQ(errorOf([&] { rs[u"Numero"].value(); }), Error::RecordDeleted) << "a dynaset keeps its rows";
+        EXPECT_EQ(errorOf([&] { rs[u"Numero"].value(); }), Error::RecordDeleted)
+            << "a dynaset keeps its rows";
     else
         EXPECT_EQ(numbers(rs), "30 40 50");
     rs.requery();
@@ -180,7 +184,8 @@ TEST_P(EveryKind, editsAndDeletesWhereItMay)
     EXPECT_EQ(rs.recordCount(), 6);
 }
 
-INSTANTIATE_TEST_SUITE_P(Recordset, EveryKind, testing::Values("tabla", "dynaset", "join", "snapshot", "agrupado"));
+INSTANTIATE_TEST_SUITE_P(Recordset, EveryKind,
+                         testing::Values("tabla", "dynaset", "join", "snapshot", "agrupado"));
 
 TEST_F(RecordsetTest, findMovesByCriteriaOfTheDialect)
 {
@@ -240,8 +245,9 @@ TEST_F(RecordsetTest, joinIsEditedByTableAndDeletedOnTheManySide)
     run({"INSERT INTO Consulta (paciente, Motivo) VALUES (10, 'Control')",
          "INSERT INTO Consulta (paciente, Motivo) VALUES (10, 'Fiebre')",
          "INSERT INTO Consulta (paciente, Motivo) VALUES (999, 'Sin ficha')"});
-    auto rs = db.openRecordset("SELECT Pacientes.Numero, Pacientes.Notas, Consulta.Motivo, Consulta.idConsulta "
-                               "FROM Pacientes RIGHT JOIN Consulta ON Pacientes.Numero = Consulta.paciente");
+    auto rs =
+        db.openRecordset("SELECT Pacientes.Numero, Pacientes.Notas, Consulta.Motivo, Consulta.idConsulta "
+                         "FROM Pacientes RIGHT JOIN Consulta ON Pacientes.Numero = Consulta.paciente");
     rs.moveLast();
     EXPECT_EQ(rs.recordCount(), 3);
     EXPECT_TRUE(rs[u"Numero"].isNull());

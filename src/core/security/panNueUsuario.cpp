@@ -1,0 +1,65 @@
+#include "core/security/panNueUsuario.h"
+
+#include "core/security/niveles.h"
+#include "platform/forms/boxes.h"
+#include "platform/forms/layout.h"
+
+using namespace Qt::StringLiterals;
+using namespace forms;
+
+panNueUsuario::panNueUsuario() : Form(u"panNueUsuario"_s)
+{
+    setWindowTitle(u"Nuevo Usuario del sistema"_s);
+    for (TextBox *clave : {&Text2, &Text3})
+        clave->setEchoMode(QLineEdit::Password);
+    Command1.setDefault(true);
+    setContents(this, Column{
+                          Fields{{u"&Nombre :"_s, Text1},
+                                 {u"Ni&vel de acceso :"_s, Combo1},
+                                 {u"&Tipo de usuario :"_s, Combo2},
+                                 {u"C&lave de acceso :"_s, Text2},
+                                 {u"&Repita la clave :"_s, Text3}},
+                          Stretch(),
+                          Row{Stretch(), Command1, Command2},
+                      });
+    setMinimumWidth(420);
+    connect(&Command1, &QPushButton::clicked, this, &panNueUsuario::command1Click);
+    connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
+}
+
+/// Both combos start on their first entry: an account without a level would pass every gate.
+void panNueUsuario::load()
+{
+    Combo1.addItems(MODULE11::entradasDeNivel());
+    Combo2.addItems(MODULE11::tiposDeUsuario);
+}
+
+void panNueUsuario::activate()
+{
+    Text1.setFocus();
+}
+
+int panNueUsuario::nivel() const
+{
+    return MODULE11::nivelDeEntrada(Combo1.value());
+}
+
+QString panNueUsuario::tipo() const
+{
+    return Combo2.value().left(1);
+}
+
+bool panNueUsuario::completo() const
+{
+    return !nombre().isEmpty() && !clave().isEmpty() && clave() == Text3.text();
+}
+
+void panNueUsuario::command1Click()
+{
+    if (completo())
+        answer(u"SI"_s);
+    else
+        msgBox(
+            u"Ingrese los datos correctamente, fíjese de colocar la clave de acceso correctamente en ambas casillas de texto"_s,
+            Icon::Critical, u"Error"_s);
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/dao/recordset.h"
+#include "platform/forms/controlarray.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
+
+/// What the search dialogues share: a text, whether it may stand anywhere, and where the search starts.
+class DialogoBuscar : public forms::Form
+{
+    Q_OBJECT
+public:
+    QString texto() const { return Text1.text(); }
+    /// The trimmed text as a LIKE pattern; anything may follow it, and precede it on request.
+    QString patron() const;
+    /// Moves to the first row that meets the criterion, to the last one, or to the next one, as was chosen.
+    void mover(dao::Recordset &recordset, const QString &criterio) const;
+
+protected:
+    struct Textos {
+        QString texto, enCualquierParte, principio, final, aqui, aceptar, segundo;
+    };
+    /// `casilla` is the check box's name; Command1 is the default button.
+    DialogoBuscar(const QString &name, const QString &titulo, const QString &casilla, const Textos &textos);
+    void activate() override;
+
+    forms::CommandButton Command1;
+    forms::CommandButton Command2;
+
+private:
+    forms::TextBox Text1{QStringLiteral("Text1")};
+    forms::CheckBox check3d1;
+    forms::ControlArray<forms::OptionButton> option3d1{QStringLiteral("option3d1")};
+};

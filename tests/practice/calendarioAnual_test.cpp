@@ -1,0 +1,97 @@
+#include "core/session/session.h"
+#include "platform/basic/environment.h"
+#include "practice/professionals/calendarioAnual.h"
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+class CalendarioTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        MODULE11::BaseDatos.create(carpeta.filePath(u"BASE.MDB"_s), u";PWD=prueba"_s);
+        MODULE11::BaseDatos.execute(
+            u"CREATE TABLE DisTurnos (idProfesional LONG, Fecha DATE, desde1 TEXT(5), hasta1 TEXT(5),"
+            " desde2 TEXT(5), hasta2 TEXT(5))"_s);
+        basic::setClock(QDateTime(QDate(2024, 3, 15), QTime(10, 30)));
+    }
+    void TearDown() override
+    {
+        basic::setClock({});
+        MODULE11::BaseDatos.close();
+    }
+
+    void atiende(qint64 profesional, QDate dia, const char16_t *desde = u"08:00")
+    {
+        dao::Recordset filas = MODULE11::BaseDatos.openRecordset(u"DisTurnos"_s);
+        filas.addNew();
+        filas[u"idProfesional"] = profesional;
+        filas[u"Fecha"] = dia;
+        filas[u"desde1"] = desde;
+        filas.update();
+    }
+
+    QTemporaryDir carpeta;
+};
+
+QStringList negritas(const practice::CalendarioAnual &calendario)
+{
+    QStringList dias;
+    for (const auto *mes : calendario.findChildren<forms::MonthView *>())
+        for (QDate dia = mes->minimumDate(); dia <= mes->maximumDate(); dia = dia.addDays(1))
+            if (mes->dateTextFormat(dia).fontWeight() == QFont::Bold)
+                dias += dia.toString(Qt::ISODate);
+    dias.sort();
+    return dias;
+}
+
+TEST_F(CalendarioTest, WorkingDaysOfTheYearInViewAreBold)
+{
+    for (const QDate dia :
+         {QDate(2024, 1, 1), QDate(2024, 2, 29), QDate(2024, 12, 31), QDate(2023, 12, 31), QDate(2025, 1, 1)})
+        atiende(1, dia);
+    atiende(2, QDate(2024, 5, 5));
+    atiende(1, QDate(2024, 2, 29), u"15:00"); // of two rows of a day the first holds
+    EXPECT_EQ(practice::diasDeTrabajo(1, 2024).at(QDate(2024, 2, 29)).desde1, u"08:00"_s);
+
+    practice::CalendarioAnual calendario;
+    calendario.setProfesional(1);
+    EXPECT_EQ(negritas(calendario), (QStringList{u"2024-01-01"_s, u"2024-02-29"_s, u"2024-12-31"_s}));
+    auto *ano = calendario.findChild<forms::TextBox *>(u"txtAno"_s);
+    ano->setText(u"2025"_s);
+    EXPECT_EQ(negritas(calendario), QStringList{u"2025-01-01"_s});
+    ano->setText(u"20"_s); // half typed: the year in view stays
+    EXPECT_EQ(negritas(calendario), QStringList{u"2025-01-01"_s});
+    calendario.setProfesional(2);
+    ano->setText(u"2024"_s);
+    EXPECT_EQ(negritas(calendario), QStringList{u"2024-05-05"_s});
+}
+
+TEST_F(CalendarioTest, AFullYearIsDrawnAtOnce)
+{
+    MODULE11::BaseDatos.beginTrans();
+    for (int i = 0; i < 250; ++i)
+        atiende(1, QDate(2024, 1, 1).addDays(i));
+    MODULE11::BaseDatos.commitTrans();
+    practice::CalendarioAnual calendario;
+    calendario.resize(860, 300);
+    calendario.setProfesional(2);
+    calendario.grab();
+    QElapsedTimer reloj;
+    reloj.start();
+    calendario.setProfesional(1);
+    calendario.grab();
+    EXPECT_LT(reloj.elapsed(), 100);
+    RecordProperty("milliseconds", std::to_string(reloj.elapsed()));
+    EXPECT_EQ(negritas(calendario).size(), 250);
+}
+
+} // namespace
