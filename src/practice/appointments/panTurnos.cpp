@@ -38,7 +38,7 @@ QString conMiles(qint64 cantidad)
     return basic::format(cantidad, u"##,##0");
 }
 
-/// All rows of the query, as its last row's position tells.
+/// How many rows the query has.
 qint64 cuenta(const QString &sql)
 {
     dao::Recordset filas = MODULE11::BaseDatos.openRecordset(sql);
@@ -64,13 +64,13 @@ panTurnos::panTurnos() : Form(u"panTurnos"_s)
     }
     Data1.setDatabase(&MODULE11::BaseDatos);
     DBGrid2.setSource(Data1, {{u"Hora"_s, u"Hora"_s, {}, 56},
-                              {u"Dr."_s, u"Dr"_s, {}, 130},
-                              {u"Paciente"_s, u"Paciente"_s, {}, 185},
-                              {u"Motivo"_s, u"Motivo"_s, {}, 100},
-                              {u"Telefono"_s, u"Telefono"_s, {}, 100},
-                              {u"Mutual"_s, u"Mutual"_s, {}, 115},
-                              {u"Estado"_s, u"Estado"_s, {}, 80},
-                              {u"Coseguro"_s, u"Coseguro"_s, {}, 75}});
+                              {u"Dr."_s, u"Dr"_s, {}, 115},
+                              {u"Paciente"_s, u"Paciente"_s, {}, 170},
+                              {u"Motivo"_s, u"Motivo"_s, {}, 95},
+                              {u"Telefono"_s, u"Telefono"_s, {}, 95},
+                              {u"Mutual"_s, u"Mutual"_s, {}, 105},
+                              {u"Estado"_s, u"Estado"_s, {}, 75},
+                              {u"Coseguro"_s, u"Coseguro"_s, {}, 70}});
     DBGrid2.setRowLook(u"Paciente"_s, turnos::aspecto);
     disponer();
     resize(1160, 620);
@@ -85,7 +85,7 @@ void panTurnos::disponer()
     calendar1.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     const Item filtros =
         Group(u"Ver"_s,
-              Fields{{u"P&rofesional :"_s, Combo2}, {u"Obra &social :"_s, Combo1}, {u"Es&tado :"_s, Combo3}});
+              Fields{{u"Pro&fesional :"_s, Combo2}, {u"Obra socia&l :"_s, Combo1}, {u"Es&tado :"_s, Combo3}});
     const Item atencion = Group(u"Horarios :"_s, Row{Label3(0), new QLabel(u"a"_s), Label3(1), Stretch(),
                                                      Label3(2), new QLabel(u"a"_s), Label3(3)});
     auto *lado = new QWidget;

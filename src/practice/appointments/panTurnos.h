@@ -8,7 +8,8 @@
 
 class panNueTurno;
 
-/// "Pantalla de Turnos o Citas": the places of a day, free and taken, to give, change and free them.
+/// "Pantalla de Turnos o Citas": the places of a day, free and taken, to give, change and free them. Rows are
+/// read as they come into sight, so what other stations give shows without being asked for.
 class panTurnos : public forms::Form
 {
     Q_OBJECT
@@ -51,9 +52,9 @@ private:
                                   QStringLiteral("borrar")};
     forms::CommandButton Command6{QStringLiteral("Command6"), QStringLiteral("Cambiar &estado..."),
                                   QStringLiteral("editar")};
-    forms::CommandButton Command5{QStringLiteral("Command5"), QStringLiteral("I&mprimir"),
+    forms::CommandButton Command5{QStringLiteral("Command5"), QStringLiteral("Imprimi&r"),
                                   QStringLiteral("imprimir")};
-    forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("In&forme..."),
+    forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("I&nforme..."),
                                   QStringLiteral("informes")};
     forms::CommandButton Command4{QStringLiteral("Command4"), QStringLiteral("&Cerrar"),
                                   QStringLiteral("cerrar")};
