@@ -1,5 +1,6 @@
 // How long the program's heavy moments take on a practice's folder, as a person would wait for them:
 //   bench_program FOLDER
+#include "appointments.h"
 #include "subsystems.h"
 
 #include "clinical/patients/panSelPaciente.h"
@@ -77,6 +78,7 @@ int measure()
     panPercentil chart(*charts::classicalChart(u"panPercenPeso"));
     chart.setTag(u"<TODOS>"_s);
     report("all patients' measures on a chart", untilPainted(chart), 2000);
+    bench::appointments(report);
     std::cout << "resident memory: " << resident() << " MB (under 200)\n";
     window.hide();
     return 0;
@@ -91,7 +93,7 @@ int main(int argc, char **argv)
         return 2;
     }
     qputenv("SANIRELL_CARPETA", argv[1]);
-    qputenv("SANIRELL_AJUSTES", "/tmp");
+    qputenv("SANIRELL_AJUSTES", argv[1]); // settings of another folder name tables of another base
     forms::Application application(argc, argv);
     forms::Application::dress();
     app::prepare();

@@ -14,4 +14,6 @@ void clinical::registerScreens()
     screens::addOperation(u"NuevaFicha"_s, NuevaFicha);
     screens::addOperation(u"AbreFicha"_s, AbreFicha);
     screens::addOperation(u"BorraFicha"_s, BorraFicha);
+    screens::addQuery(u"EligePaciente"_s, EligePaciente);
+    screens::addQuery(u"PideNombreDePaciente"_s, PideNombreDePaciente);
 }

@@ -1,4 +1,4 @@
-// practica FILE [--pacientes N] [--consultas N] [--medidas N] [--semilla N]
+// practica FILE [--pacientes N] [--consultas N] [--medidas N] [--turnos] [--semilla N]
 #include "practice.h"
 
 #include "core/database/actualiza.h"
@@ -28,6 +28,7 @@ int main(int argc, char **argv)
     number(u"consultas"_s, u"0"_s);
     number(u"medidas"_s, u"0"_s);
     number(u"semilla"_s, u"1"_s);
+    line.addOption({u"turnos"_s, u"a year of appointments"_s});
     line.process(application);
     if (line.positionalArguments().size() != 1)
         line.showHelp(2);
@@ -37,8 +38,8 @@ int main(int argc, char **argv)
                                  MODULE11::conexionDeLaBase());
         MODULE11::ActualizaBase();
         practica::fill({line.value(u"pacientes"_s).toInt(), line.value(u"consultas"_s).toInt(),
-                        line.value(u"medidas"_s).toInt(), line.value(u"semilla"_s).toUInt(),
-                        QDate::currentDate()});
+                        line.value(u"medidas"_s).toInt(), line.isSet(u"turnos"_s),
+                        line.value(u"semilla"_s).toUInt(), QDate::currentDate()});
         MODULE11::BaseDatos.close();
         return 0;
     } catch (const std::exception &error) {

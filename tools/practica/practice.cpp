@@ -1,5 +1,6 @@
 #include "practice.h"
 
+#include "appointments.h"
 #include "growth.h"
 #include "names.h"
 
@@ -24,6 +25,14 @@ struct Doctor {
 constexpr std::array<Doctor, 3> doctors = {{{"Dra. Marina Ibarra", "Pediatría"},
                                             {"Dr. Hernán Castillo", "Pediatría"},
                                             {"Dra. Lucía Ferrari", "Neonatología"}}};
+
+QStringList doctorNames()
+{
+    QStringList names;
+    for (const Doctor &doctor : doctors)
+        names += QString::fromUtf8(doctor.name);
+    return names;
+}
 
 /// The names of a catalogue.
 QStringList catalogue(const QString &table)
@@ -200,34 +209,6 @@ int share(int total, int shares, int i)
                             static_cast<qint64>(total) * i / shares);
 }
 
-void addAppointments(const Size &size, const std::vector<Patient> &patients, Dice &dice)
-{
-    dao::Recordset rows = BaseDatos.openRecordset(u"Turnos"_s);
-    for (int day = 0; day < 10; ++day) {
-        const QDate date = size.today.addDays(day);
-        if (date.dayOfWeek() > 5)
-            continue;
-        for (std::size_t doctor = 0; doctor < doctors.size(); ++doctor) {
-            for (int quarter = 0; quarter < 16; ++quarter) {
-                const bool taken = chance(dice, day == 0 ? 0.7 : 0.4);
-                const Patient &patient = patients[static_cast<std::size_t>(
-                    between(dice, 0, static_cast<int>(patients.size()) - 1))];
-                rows.addNew();
-                rows[u"Fecha"] = date;
-                rows[u"Hora"] = QTime(14, 0).addSecs(quarter * 900).toString(u"HH:mm");
-                rows[u"Dr"] = doctors[doctor].name;
-                rows[u"idProfesional"] = static_cast<int>(doctor) + 1;
-                rows[u"Paciente"] = taken ? patient.person.full().left(50) : u"<Sin Asignar>"_s;
-                rows[u"idPaciente"] = taken ? patient.number : 0;
-                rows[u"Estado"] = taken ? u"En curso"_s : QString();
-                rows[u"Mutual"] = taken ? patient.coverage : QString();
-                rows[u"idMutual"] = 0;
-                rows.update();
-            }
-        }
-    }
-}
-
 } // namespace
 
 void fill(const Size &size)
@@ -257,7 +238,11 @@ void fill(const Size &size)
             }
         }
     }
-    addAppointments(size, patients, dice);
+    std::vector<Client> clients;
+    for (const Patient &patient : patients)
+        clients.push_back({patient.number, patient.person.full(), patient.birth, patient.coverage});
+    addAppointments(size.yearOfAppointments ? aYearOfAppointments(size.today) : tenAfternoons(size.today),
+                    doctorNames(), clients, dice);
     BaseDatos.commitTrans();
 }
 

@@ -2,6 +2,7 @@
 
 #include "clinical/patients/buscaPaciente.h"
 #include "clinical/patients/panNuePaciente.h"
+#include "clinical/patients/panSeekPaciente.h"
 #include "clinical/patients/panSelPaciente.h"
 #include "core/security/eventos.h"
 #include "core/services/services.h"
@@ -210,6 +211,13 @@ QString EligePaciente()
     panSelPaciente seleccion;
     seleccion.showModal();
     return seleccion.tag();
+}
+
+QString PideNombreDePaciente()
+{
+    panSeekPaciente dialogo;
+    dialogo.showModal();
+    return dialogo.tag() == u"SI" ? dialogo.texto() : QString();
 }
 
 void BuscaEnPacientes(dao::Recordset &pacientes)

@@ -15,5 +15,7 @@ void BorraFicha();
 
 /// Asks for a patient; its number as text, or empty.
 QString EligePaciente();
+/// Asks for a surname and names to look for; empty when cancelled.
+QString PideNombreDePaciente();
 /// Asks for the start of a name or a number and moves the recordset of patients to it.
 void BuscaEnPacientes(dao::Recordset &pacientes);

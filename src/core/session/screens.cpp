@@ -20,6 +20,12 @@ std::map<QString, Operation> &operations()
     return all;
 }
 
+std::map<QString, Query> &queries()
+{
+    static std::map<QString, Query> all;
+    return all;
+}
+
 } // namespace
 
 void add(const QString &window, Factory factory)
@@ -78,6 +84,17 @@ void run(const QString &name)
 {
     if (const auto found = operations().find(name); found != operations().end())
         found->second();
+}
+
+void addQuery(const QString &name, Query query)
+{
+    queries()[name] = std::move(query);
+}
+
+QString ask(const QString &name)
+{
+    const auto found = queries().find(name);
+    return found == queries().end() ? QString() : found->second();
 }
 
 } // namespace screens

@@ -15,6 +15,7 @@ namespace screens
 
 using Factory = std::function<std::unique_ptr<forms::Form>()>;
 using Operation = std::function<void()>;
+using Query = std::function<QString()>;
 
 void add(const QString &window, Factory factory);
 template <class Screen>
@@ -41,5 +42,9 @@ void showChild(const QString &window, const QString &tag = {}, const QString &ca
 void addOperation(const QString &name, Operation operation);
 bool hasOperation(const QString &name);
 void run(const QString &name);
+
+/// Dialogues that answer a text, such as "EligePaciente". Nothing chosen, or not registered: an empty text.
+void addQuery(const QString &name, Query query);
+QString ask(const QString &name);
 
 } // namespace screens

@@ -99,6 +99,23 @@ bool askBox(const QString &text, const QString &title, Icon icon)
     return box.clickedButton() == yes;
 }
 
+std::optional<bool> askOrCancelBox(const QString &text, const QString &title, Icon icon)
+{
+    QMessageBox box(owner());
+    dressMessage(box, text, icon, title);
+    QPushButton *yes = box.addButton(QStringLiteral("&Sí"), QMessageBox::YesRole);
+    QPushButton *no = box.addButton(QStringLiteral("&No"), QMessageBox::NoRole);
+    QPushButton *cancel = box.addButton(QStringLiteral("&Cancelar"), QMessageBox::RejectRole);
+    box.setDefaultButton(cancel);
+    box.setEscapeButton(cancel);
+    box.exec();
+    if (box.clickedButton() == yes)
+        return true;
+    if (box.clickedButton() == no)
+        return false;
+    return {};
+}
+
 std::optional<QString> inputBox(const QString &prompt, const QString &title, const QString &initial)
 {
     QDialog box(owner());

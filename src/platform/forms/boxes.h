@@ -18,6 +18,8 @@ void msgBox(const QString &text, Icon icon, const QString &title);
 bool askBox(const QString &text, const QString &title,
             Icon icon = Icon::Question); ///< "Sí" and "No"; true on "Sí"
 
+/// "Sí", "No" and "Cancelar"; empty when cancelled.
+std::optional<bool> askOrCancelBox(const QString &text, const QString &title, Icon icon = Icon::Exclamation);
 /// A prompt for one text with "Aceptar" and "Cancelar"; empty when cancelled.
 std::optional<QString> inputBox(const QString &prompt, const QString &title, const QString &initial = {});
 

@@ -163,6 +163,13 @@ void DTPicker::setValue(basic::Date value)
     setDate(value.date());
 }
 
+TimePicker::TimePicker(const QString &name) : QTimeEdit(QTime(0, 0))
+{
+    setObjectName(name);
+    setDisplayFormat(QStringLiteral("HH:mm"));
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
 MonthView::MonthView(const QString &name)
 {
     setObjectName(name);

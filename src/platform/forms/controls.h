@@ -116,6 +116,14 @@ public:
     void setValue(basic::Date date);
 };
 
+/// A time field "hh:mm"; starts at midnight.
+class TimePicker : public QTimeEdit
+{
+    Q_OBJECT
+public:
+    explicit TimePicker(const QString &name);
+};
+
 class MonthView : public QCalendarWidget
 {
     Q_OBJECT

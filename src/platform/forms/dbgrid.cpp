@@ -36,7 +36,15 @@ public:
         ordinals_.clear();
         for (const GridColumn &column : columns_)
             ordinals_.push_back(data_.hasRecordset() ? data_.recordset().ordinal(column.field) : -1);
+        lookOrdinal_ = data_.hasRecordset() ? data_.recordset().ordinal(lookField_) : -1;
         endResetModel();
+    }
+
+    void setRowLook(const QString &field, std::function<RowLook(const basic::Value &)> look)
+    {
+        lookField_ = field;
+        look_ = std::move(look);
+        reload();
     }
 
     /// Takes in rows that were added or went away.
@@ -66,6 +74,8 @@ public:
         const auto column = static_cast<std::size_t>(index.column());
         if (role == Qt::TextAlignmentRole)
             return static_cast<int>(alignment(column) | Qt::AlignVCenter);
+        if (role == Qt::ForegroundRole || role == Qt::FontRole)
+            return look(index, role);
         if ((role != Qt::DisplayRole && role != Qt::EditRole) || ordinals_[column] < 0)
             return {};
         try {
@@ -111,6 +121,23 @@ public:
     }
 
 private:
+    QVariant look(const QModelIndex &index, int role) const
+    {
+        if (!look_ || lookOrdinal_ < 0)
+            return {};
+        RowLook look;
+        if (!basic::ignoringErrors( // a row that cannot be read shows so in its cells
+                [&] { look = look_(data_.recordset().valueAt(index.row(), lookOrdinal_)); }))
+            return {};
+        if (role == Qt::ForegroundRole)
+            return look.ink.isValid() ? QVariant(look.ink) : QVariant();
+        if (!look.strong || ordinals_[static_cast<std::size_t>(index.column())] != lookOrdinal_)
+            return {};
+        QFont font;
+        font.setBold(true);
+        return font;
+    }
+
     int countRows() const
     {
         return data_.hasRecordset() ? static_cast<int>(data_.recordset().rowCount()) : 0;
@@ -138,6 +165,9 @@ private:
     std::vector<int> ordinals_;
     int rows_ = 0;
     bool editable_ = false;
+    QString lookField_;
+    std::function<RowLook(const basic::Value &)> look_;
+    int lookOrdinal_ = -1;
 };
 
 DBGrid::DBGrid(const QString &name)
@@ -259,6 +289,12 @@ void DBGrid::setEditable(bool editable)
     setSelectionBehavior(editable ? QAbstractItemView::SelectItems : QAbstractItemView::SelectRows);
     if (model_)
         model_->setEditable(editable);
+}
+
+void DBGrid::setRowLook(const QString &field, std::function<RowLook(const basic::Value &)> look)
+{
+    if (model_)
+        model_->setRowLook(field, std::move(look));
 }
 
 int DBGrid::currentRow() const

@@ -2,7 +2,10 @@
 
 #include "platform/forms/data.h"
 
+#include <QColor>
 #include <QTableView>
+
+#include <functional>
 
 namespace forms
 {
@@ -16,6 +19,12 @@ struct GridColumn {
     int width = 0;
 };
 
+/// How a row stands out from the others by one of its values.
+struct RowLook {
+    QColor ink;          ///< of the whole row; invalid: the grid's own
+    bool strong = false; ///< the value itself is in bold
+};
+
 /// The rows of a Data, of which only those in sight are read. The grid's current row is the Data's; a
 /// read-only grid (the default) selects whole rows.
 class DBGrid : public QTableView
@@ -27,6 +36,8 @@ public:
 
     void setSource(Data &data, std::vector<GridColumn> columns);
     void setEditable(bool editable);
+    /// Gives each row the look that goes with its value of `field`; after setSource().
+    void setRowLook(const QString &field, std::function<RowLook(const basic::Value &)> look);
     int currentRow() const;
     void setCurrentRow(int row);
 

@@ -76,6 +76,7 @@ Item panProfesionales::fichaHorarios()
 {
     return Column{
         Fields{{u"&Minutos entre turnos :"_s, Row{Text2, UpDown2, Stretch(), Label9}}},
+        herramienta,
         calendario,
         Stretch(),
     };
@@ -92,6 +93,7 @@ void panProfesionales::conectar()
     connect(&Option2, &QAbstractButton::clicked, this, [this] { escribir(u"TipoPermiso"_s, u"L"_s); });
     connect(&Option3, &QAbstractButton::clicked, this, [this] { escribir(u"TipoPermiso"_s, u"T"_s); });
     connect(&UpDown2, &UpDown::stepped, this, &panProfesionales::pasoDeInterturnos);
+    connect(&herramienta, &HerramientaHorarios::cambiado, this, [this] { calendario.redibujar(); });
     connect(&Command1, &QPushButton::clicked, this, &panProfesionales::nuevoClick);
     connect(&Command2, &QPushButton::clicked, this, &panProfesionales::eliminarClick);
     connect(&Command3, &QPushButton::clicked, this, [this] { Data1.updateRecord(); });
@@ -131,6 +133,8 @@ void panProfesionales::mostrarFila()
         const QSignalBlocker sinEditar(Text2); // shown, not stored
         Text2.setText(interturnosHabitual);
     }
+    herramienta.setProfesional(hay ? fila[u"idProfesional"].integer() : 0,
+                               hay ? fila[u"Nombre"].text() : QString());
     calendario.setProfesional(hay ? fila[u"idProfesional"].integer() : 0);
 }
 

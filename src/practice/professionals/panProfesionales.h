@@ -8,6 +8,7 @@
 #include "platform/forms/form.h"
 #include "platform/forms/layout.h"
 #include "platform/forms/updown.h"
+#include "practice/appointments/herramientaHorarios.h"
 #include "practice/professionals/calendarioAnual.h"
 
 /// "Tabla de Profesionales / Usuarios": the professionals of the practice, the account each one works under,
@@ -60,6 +61,7 @@ private:
     forms::UpDown UpDown2{QStringLiteral("UpDown2")};
     forms::Label Label9{QStringLiteral("Label9"),
                         QStringLiteral("Utilize el formato HH:mm:ss en su configuracion de Windows")};
+    HerramientaHorarios herramienta{Text2};
     practice::CalendarioAnual calendario;
 
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Nuevo..."),

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "platform/basic/value.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/data.h"
+#include "platform/forms/dbgrid.h"
+#include "platform/forms/form.h"
+#include "practice/appointments/turnos.h"
+
+/// "Nuevo Turno a un paciente": chooses the patient of a place and what is noted with it. Answers "SI" or
+/// "NO"; the caller writes the booking.
+class panNueTurno : public forms::Form
+{
+    Q_OBJECT
+public:
+    panNueTurno();
+
+    /// The coverage and the professional to start with; a text that is in no list selects nothing.
+    void proponer(const QString &cobertura, const QString &profesional);
+    void setFecha(basic::Date fecha) { mFecha.setValue(fecha); }
+    /// The place is settled: the hour is shown but cannot be typed.
+    void fijarHora(const QString &hora);
+    /// Edits the place with this key: a taken one keeps its patient and professional.
+    void setTurno(qint64 idTurno) { idTurno_ = idTurno; }
+
+    turnos::Reserva reserva();
+
+protected:
+    void load() override;
+    void activate() override;
+    bool eventFilter(QObject *receptor, QEvent *evento) override;
+
+private:
+    void disponer();
+    bool leerPermiso();
+    void armarLista();
+    void mostrarPaciente();
+    void mostrarEdad(const basic::Value &nacimiento);
+    void mostrarTurno();
+    void mostrarTurnoDado(dao::Recordset &turno);
+    void elegirCobertura(const QString &cobertura);
+    void buscar(const QString &texto);
+    void marcarBusqueda(bool hallado);
+    void paso(int filas);
+    std::optional<qint64> profesionalElegido();
+    bool atiendeEseDia(qint64 idProfesional);
+    void command1Click();
+    void command3Click();
+    void command4Click();
+
+    forms::Label Label1{
+        QStringLiteral("Label1"),
+        QStringLiteral("Pantalla de carga de turno a un paciente, complete la información solicitada:")};
+    forms::TextBox txtBusca{QStringLiteral("txtBusca")};
+    forms::CommandButton Command4{QStringLiteral("Command4"), QStringLiteral("&Buscar..."),
+                                  QStringLiteral("buscar")};
+    forms::Data Data1{QStringLiteral("Data1")};
+    forms::DBGrid DBGrid1{QStringLiteral("DBGrid1")};
+    forms::CheckBox checkBajas{QStringLiteral("checkBajas"),
+                               QStringLiteral("&Ocultar pacientes con fecha de baja")};
+
+    forms::ComboBox Combo2{QStringLiteral("Combo2")};
+    forms::DTPicker mFecha{QStringLiteral("mFecha")};
+    forms::TextBox mHora{QStringLiteral("mHora"), 5};
+    forms::CommandButton Command3{QStringLiteral("Command3"), QStringLiteral("&Ver el día..."),
+                                  QStringLiteral("calendario")};
+    forms::TextBox Text1{QStringLiteral("Text1")};
+    forms::Label Label7{QStringLiteral("Label7"), QStringLiteral("Edad :")};
+    forms::Label lblAnios{QStringLiteral("lblAnios")};
+    forms::Label lblMeses{QStringLiteral("lblMeses")};
+    forms::Label lblDias{QStringLiteral("lblDias")};
+    forms::ComboBox Combo1{QStringLiteral("Combo1")};
+    forms::TextBox Text2{QStringLiteral("Text2")}; // member number
+    forms::TextBox Text3{QStringLiteral("Text3")}; // telephone
+    forms::TextBox Text4{QStringLiteral("Text4")}; // e-mail
+    forms::CheckBox Check1{QStringLiteral("Check1"), QStringLiteral("Contro&l sano")};
+    forms::TextBox mMotivo{QStringLiteral("mMotivo"), 60};
+    forms::TextBox mCoseguro{QStringLiteral("mCoseguro"), 60};
+    forms::MemoBox mObservaciones{QStringLiteral("mObservaciones")};
+
+    forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Aceptar"),
+                                  QStringLiteral("aceptar")};
+    forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("&Cancelar"),
+                                  QStringLiteral("cancelar")};
+
+    std::optional<qint64> idTurno_;
+    qint64 idPaciente_ = 0; ///< of the patients' current row, or of the taken place
+    turnos::Edad edad_;
+    QString permiso_ = QStringLiteral(" true ");
+    bool sinCoincidencia_ = false; ///< the quick search has met nobody
+};

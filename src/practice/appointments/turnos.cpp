@@ -1,0 +1,138 @@
+#include "practice/appointments/turnos.h"
+
+#include "core/services/services.h"
+#include "core/session/session.h"
+#include "platform/basic/errors.h"
+#include "platform/basic/runtime.h"
+#include "platform/forms/controls.h"
+
+using namespace Qt::StringLiterals;
+using MODULE11::BaseDatos;
+
+namespace turnos
+{
+
+namespace
+{
+
+constexpr int largoPaciente = 50;
+constexpr int largoContacto = 30;
+constexpr int largoEstado = 20;
+constexpr int largoEdad = 15;
+const QString enCurso = u"En curso"_s;
+
+/// One Edit and Update pair: either the whole row is written or nothing of it.
+template <class Escritura>
+void editar(dao::Recordset &fila, const Escritura &escritura)
+{
+    fila.edit();
+    try {
+        escritura();
+        fila.update();
+    } catch (const basic::Error &) {
+        fila.cancelUpdate();
+        throw;
+    }
+}
+
+QString oPunto(const QString &texto)
+{
+    return texto.isEmpty() ? u"."_s : texto;
+}
+
+} // namespace
+
+QString cdate(basic::Date fecha)
+{
+    return u"cdate('%1')"_s.arg(basic::dateText(fecha));
+}
+
+Edad edad(QDate nacimiento, QDate hoy)
+{
+    if (!nacimiento.isValid() || nacimiento > hoy)
+        return {};
+    int meses = (hoy.year() - nacimiento.year()) * 12 + hoy.month() - nacimiento.month();
+    if (nacimiento.addMonths(meses) > hoy)
+        --meses;
+    return {meses / 12, meses % 12, static_cast<int>(nacimiento.addMonths(meses).daysTo(hoy))};
+}
+
+QString textoDeEdad(const Edad &edad)
+{
+    return u"%1 A %2 M %3 D "_s.arg(basic::format(edad.anios, u"00"), basic::format(edad.meses, u"00"),
+                                    basic::format(edad.dias, u"00"));
+}
+
+bool libre(dao::Recordset &lugar)
+{
+    return lugar[u"Paciente"].text() == sinAsignar;
+}
+
+void ocupar(dao::Recordset &lugar, const Reserva &reserva)
+{
+    editar(lugar, [&] {
+        lugar[u"Paciente"] = reserva.paciente.left(largoPaciente);
+        lugar[u"Telefono"] = reserva.telefono.left(largoContacto);
+        lugar[u"email"] = reserva.email.left(largoContacto);
+        lugar[u"nroafiliado"] = reserva.nroAfiliado.left(largoContacto);
+        lugar[u"Mutual"] = reserva.mutual;
+        lugar[u"Dr"] = reserva.dr;
+        lugar[u"Estado"] = enCurso;
+        lugar[u"idPaciente"] = reserva.idPaciente;
+        lugar[u"idProfesional"] = reserva.idProfesional;
+        lugar[u"idMutual"] = reserva.idMutual;
+        lugar[u"Edad"] = reserva.edad.left(largoEdad);
+        lugar[u"Motivo"] = oPunto(reserva.motivo);
+        lugar[u"CoSeguro"] = oPunto(reserva.coseguro);
+        lugar[u"Observaciones"] = reserva.observaciones + u'.';
+    });
+}
+
+void liberar(dao::Recordset &lugar)
+{
+    editar(lugar, [&] {
+        lugar[u"idPaciente"] = 0;
+        lugar[u"Paciente"] = sinAsignar;
+        lugar[u"idMutual"] = 0;
+        for (const QStringView campo : {u"Mutual", u"email", u"telefono", u"nroAfiliado", u"Estado",
+                                        u"Coseguro", u"Motivo", u"Observaciones", u"Edad"})
+            lugar[campo] = QString();
+    });
+}
+
+void cambiarEstado(dao::Recordset &lugar, const QString &estado)
+{
+    editar(lugar, [&] { lugar[u"Estado"] = estado.left(largoEstado); });
+}
+
+std::optional<qint64> idProfesional(const QString &nombre)
+{
+    const basic::Value id = MODULE11::BuscaCampo(
+        u"Select * from profesionales where Nombre = '%1'"_s.arg(nombre), u"idProfesional");
+    return id.isNull() ? std::nullopt : std::optional(id.integer());
+}
+
+bool atiende(qint64 idProfesional, basic::Date fecha)
+{
+    return !BaseDatos
+                .openRecordset(u"Select * from disTurnos where fecha = %1 and idProfesional = %2"_s.arg(
+                    cdate(fecha), QString::number(idProfesional)))
+                .eof();
+}
+
+void llenar(forms::ComboBox &combo, const QString &sql, QStringView campo, QStringView clave)
+{
+    dao::Recordset filas = BaseDatos.openRecordset(sql);
+    for (; !filas.eof(); filas.moveNext())
+        if (const basic::Value texto = filas[campo]; !texto.isNull())
+            combo.addItem(texto.text(), filas[clave].integer());
+}
+
+forms::RowLook aspecto(const basic::Value &paciente)
+{
+    if (paciente.text() == sinAsignar)
+        return {QColor(0x80, 0x8a, 0x93), false};
+    return {QColor(), true};
+}
+
+} // namespace turnos
