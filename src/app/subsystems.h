@@ -1,6 +1,7 @@
 #pragma once
 
-namespace app {
+namespace app
+{
 
 /// Makes the windows and operations of every subsystem known, and the help behind F1.
 void prepare();

@@ -1,5 +1,5 @@
-// Any text either parses or throws a dao::Error; what parses, written back, parses to the same tree, and over a
-// small practice it is either run or refused.
+// Any text either parses or throws a dao::Error; what parses, written back, parses to the same tree, and over
+// a small practice it is either run or refused.
 #include "platform/dao/ast.h"
 #include "platform/dao/database.h"
 #include "platform/dao/parser.h"
@@ -9,7 +9,8 @@
 #include <cstdint>
 #include <cstdlib>
 
-namespace {
+namespace
+{
 
 /// Opened once: what is fuzzed must not change it for good, so only queries run.
 dao::Database &practice()
@@ -18,9 +19,11 @@ dao::Database &practice()
     static dao::Database db;
     if (!db.isOpen()) {
         db.create(folder.filePath("BASE.MDB"), {});
-        db.execute("CREATE TABLE Pacientes (Numero LONG, [Apellido y Nombres] TEXT(50), FechaBaja DATE, Saldo CURRENCY, "
-                   "Activo BIT)");
-        db.execute("CREATE TABLE Turnos (idTurno COUNTER, Fecha DATE, Hora DATE, idPaciente LONG, Dr TEXT(50))");
+        db.execute(
+            "CREATE TABLE Pacientes (Numero LONG, [Apellido y Nombres] TEXT(50), FechaBaja DATE, Saldo CURRENCY, "
+            "Activo BIT)");
+        db.execute(
+            "CREATE TABLE Turnos (idTurno COUNTER, Fecha DATE, Hora DATE, idPaciente LONG, Dr TEXT(50))");
         db.execute("INSERT INTO Pacientes VALUES (1, 'Nuñez, Ana', NULL, 1.5, TRUE)");
         db.createQuery("Consulta1", "Select Numero from Pacientes");
     }
@@ -31,7 +34,8 @@ dao::Database &practice()
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const QString text =
+        QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     try {
         const dao::Statement tree = dao::parseStatement(text);
         if (!dao::sameStatement(tree, dao::parseStatement(dao::toText(tree))))

@@ -19,7 +19,8 @@ struct Client {
     QString coverage;
 };
 
-/// The working days of a span of dates, each with places of a quarter of an hour in some stretches of the day.
+/// The working days of a span of dates, each with places of a quarter of an hour in some stretches of the
+/// day.
 struct Book {
     struct Stretch {
         QTime from;

@@ -14,7 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
+namespace
+{
 
 class Sanirell : public guion::Program
 {
