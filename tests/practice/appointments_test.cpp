@@ -23,6 +23,9 @@
 
 #include <memory>
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 using MODULE11::BaseDatos;
 
@@ -39,6 +42,26 @@ turnos::Reserva booking(const QString &patient, qint64 number)
     booking.dr = u"Dra. Uno"_s;
     booking.idProfesional = 1;
     return booking;
+}
+
+/// Another workstation: a process of its own gives the day's first free place to a patient.
+bool bookFromAnotherStation(const QString &path, const QString &patient, qint64 number)
+{
+    const pid_t station = fork();
+    if (station == 0) {
+        const bool booked = basic::ignoringErrors([&] {
+            dao::Database own;
+            own.open(path, false, false, MODULE11::conexionDeLaBase());
+            dao::Recordset place =
+                own.openRecordset(u"Select * from Turnos where Paciente = '<Sin Asignar>' order by Hora"_s);
+            turnos::ocupar(place, booking(patient, number));
+            own.close();
+        });
+        _exit(booked ? 0 : 1);
+    }
+    int status = 1;
+    waitpid(station, &status, 0);
+    return status == 0;
 }
 
 /// A delivered and upgraded file, opened as the session's.
@@ -308,6 +331,28 @@ TEST_F(AppointmentBook, aYearOfPlacesIsMadeInSeconds)
     RecordProperty("milliseconds", static_cast<int>(timer.elapsed()));
     EXPECT_EQ(one(u"Select count(*) from Turnos"_s), QString::number(262 * 40));
     EXPECT_LT(timer.elapsed(), 5000);
+}
+
+TEST_F(AppointmentBook, twoStationsSeeEachOthersBookingsAndAStaleOneOverwrites)
+{
+    const QString place = u"INSERT INTO Turnos (Fecha, Hora, Paciente, Dr, idProfesional, idPaciente) VALUES "
+                          "(cdate('18/03/2024'), '%1', '<Sin Asignar>', 'Dra. Uno', 1, 0)"_s;
+    BaseDatos.execute(place.arg(u"09:00"));
+    BaseDatos.execute(place.arg(u"09:30"));
+    dao::Recordset day = BaseDatos.openRecordset(u"Select * from Turnos order by Hora"_s);
+    ASSERT_TRUE(turnos::libre(day));
+
+    ASSERT_TRUE(bookFromAnotherStation(BaseDatos.path(), u"Vera Luz"_s, 5));
+    day.requery();
+    EXPECT_FALSE(turnos::libre(day));
+    day.moveNext();
+    EXPECT_TRUE(turnos::libre(day));
+
+    // Found free, taken by the other station while the dialogue is open, and written all the same.
+    ASSERT_TRUE(bookFromAnotherStation(BaseDatos.path(), u"Soria Ian"_s, 6));
+    turnos::ocupar(day, booking(u"Paz Ana"_s, 7));
+    EXPECT_EQ(one(u"Select Paciente from Turnos where Hora = '09:00'"_s), u"Vera Luz"_s);
+    EXPECT_EQ(one(u"Select Paciente from Turnos where Hora = '09:30'"_s), u"Paz Ana"_s);
 }
 
 TEST_F(AppointmentBook, mainWindowListsTodaysPatientsOfItsDoctor)
