@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+/// What a record takes over from a catalogue: the name, which is stored as it reads today, and the
+/// catalogue's key. A blank name is a line without an entry; its key is then 0.
+struct Renglon {
+    QString nombre;
+    qint64 id = 0;
+
+    bool operator==(const Renglon &) const = default;
+};
+
+/// The catalogues as choosers. Each opens its window modally, with the refusals and messages of its own, and
+/// answers what was chosen.
+namespace catalogos
+{
+
+/// Any number of symptoms; none when cancelled.
+std::vector<Renglon> eligeSintomas();
+
+/// One treatment, with the dose for the patient of this number in sight. The window has no cancel: closed
+/// without accepting, it answers a blank line.
+Renglon eligeTratamiento(const QString &paciente);
+
+/// One diagnosis from the classifier of the setting "Clasificador patologico". Nothing when it was cancelled,
+/// the classification is not allowed to the user, or what was chosen there is no disease.
+std::optional<Renglon> eligeDiagnostico();
+
+} // namespace catalogos
