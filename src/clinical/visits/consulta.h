@@ -40,8 +40,8 @@ struct Visita {
     bool consultorio = true;
     bool primera = true;
     QString motivo, peso, talla, estadoGeneral, alimentacion, pulso, temperatura, respiracion, especialidad;
-    Renglones renglones;
-    std::vector<Hallazgo> examen;
+    Renglones renglones = {};
+    std::vector<Hallazgo> examen = {};
 };
 
 /// What a visit copies from elsewhere, so that a later change there does not touch it.

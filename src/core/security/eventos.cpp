@@ -10,6 +10,13 @@ using namespace Qt::StringLiterals;
 namespace MODULE11
 {
 
+namespace
+{
+
+constexpr int largoDeSuceso = 255; // the names of diseases are long; an event is noted in any case
+
+} // namespace
+
 void RegistraEvento(const QString &proceso, const QString &usuario, basic::Date fecha, basic::Date hora,
                     const QString &suceso)
 {
@@ -20,7 +27,7 @@ void RegistraEvento(const QString &proceso, const QString &usuario, basic::Date 
         eventos[u"Usuario"] = usuario;
         eventos[u"Fecha"] = fecha;
         eventos[u"Hora"] = basic::format(hora, u"HH:MM");
-        eventos[u"Suceso"] = suceso;
+        eventos[u"Suceso"] = suceso.left(largoDeSuceso);
         eventos.update();
     });
 }

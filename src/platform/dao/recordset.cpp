@@ -224,6 +224,18 @@ void Recordset::edit()
     open(d_).edit();
 }
 
+void Recordset::edit(const std::function<void()> &changes)
+{
+    edit();
+    try {
+        changes();
+        update();
+    } catch (...) {
+        cancelUpdate();
+        throw;
+    }
+}
+
 void Recordset::update()
 {
     open(d_).update();

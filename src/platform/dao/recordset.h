@@ -6,6 +6,7 @@
 
 #include <QStringView>
 
+#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <vector>
@@ -105,6 +106,8 @@ public:
     EditMode editMode() const;
     void addNew();
     void edit();
+    /// One edit and update: either all that `changes` sets is written or, when it throws, nothing of it.
+    void edit(const std::function<void()> &changes);
     /// Writes the open row; it is on the disk when this returns. After addNew the current record stays where
     /// it was and lastModified() leads to the new row, which a dynaset holds at its end.
     void update();

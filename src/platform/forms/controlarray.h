@@ -33,6 +33,8 @@ public:
     int size() const { return static_cast<int>(controls_.size()); }
     auto begin() { return controls_.begin(); } ///< pairs of index and pointer, in index order
     auto end() { return controls_.end(); }
+    auto begin() const { return controls_.begin(); }
+    auto end() const { return controls_.end(); }
 
 private:
     QString name_;

@@ -114,10 +114,10 @@ void Data::refresh()
     emit reposition();
 }
 
-void Data::bind(QWidget &control, const QString &field)
+void Data::bind(QWidget &control, const QString &field, const QString &pattern)
 {
     const std::size_t index = bindings_.size();
-    bindings_.push_back({&control, field, false});
+    bindings_.push_back({&control, field, pattern, false});
     watch(control, this, [this, index] {
         if (showing_)
             return;
@@ -190,24 +190,18 @@ void Data::writeCell(qint64 row, int ordinal, const QString &text)
         if (rows.absolutePosition() != row)
             rows.setAbsolutePosition(row);
         const FieldType type = rows.fields().at(static_cast<std::size_t>(ordinal)).type;
-        rows.edit();
-        try {
-            rows.setValue(ordinal, typedValue(text, type));
-            rows.update();
-        } catch (const dao::Error &) {
-            rows.cancelUpdate();
-            throw;
-        }
+        rows.edit([&] { rows.setValue(ordinal, typedValue(text, type)); });
     });
 }
 
-basic::Value Data::valueToShow(const QString &field) const
+basic::Value Data::valueToShow(const Binding &binding) const
 {
-    const int ordinal = hasRow() ? recordset_.ordinal(field) : -1;
+    const int ordinal = hasRow() ? recordset_.ordinal(binding.field) : -1;
     if (ordinal < 0)
         return {};
     try {
-        return recordset_.value(ordinal);
+        const basic::Value value = recordset_.value(ordinal);
+        return binding.pattern.isEmpty() ? value : basic::Value(basic::format(value, binding.pattern));
     } catch (const dao::Error &error) {
         if (error.number() != dao::Error::RecordDeleted && error.number() != dao::Error::NoCurrentRecord)
             throw;
@@ -220,7 +214,7 @@ void Data::updateControls()
     showing_ = true;
     try {
         for (const Binding &binding : bindings_)
-            showValue(*binding.control, valueToShow(binding.field));
+            showValue(*binding.control, valueToShow(binding));
     } catch (...) {
         showing_ = false;
         throw;

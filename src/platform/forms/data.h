@@ -31,7 +31,8 @@ public:
     dao::Recordset &recordset() { return recordset_; }
 
     /// Binds a control of controls.h to a column by name: text, memo, check box (BIT), combo, date or label.
-    void bind(QWidget &control, const QString &field);
+    /// A text shows the value by the pattern (basic::format) if there is one.
+    void bind(QWidget &control, const QString &field, const QString &pattern = {});
     bool dirty() const { return dirty_; } ///< a bound control was changed and not written yet
     bool hasRow() const;                  ///< there is a current row, or one being added
     /// Writes the changed controls into the row, and a row being added to the table. Throws dao::Error; the
@@ -53,13 +54,13 @@ signals:
 private:
     struct Binding {
         QWidget *control;
-        QString field;
+        QString field, pattern;
         bool changed = false;
     };
     void leaveRow();
     void forgetChanges();
     void writeRow();
-    basic::Value valueToShow(const QString &field) const;
+    basic::Value valueToShow(const Binding &binding) const;
 
     dao::Database *database_ = nullptr;
     QString source_;

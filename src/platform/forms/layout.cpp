@@ -159,6 +159,19 @@ Fields::Fields(std::vector<FieldRow> rows)
 {
 }
 
+Item Above(const QString &label, Item field)
+{
+    auto order = field.order();
+    auto add = [label, field = std::move(field)](QBoxLayout *layout) {
+        auto *column = new QVBoxLayout;
+        column->setSpacing(spacing / 4);
+        layout->addLayout(column);
+        column->addWidget(labelOf({label, field}));
+        field.addTo(column);
+    };
+    return Item(std::move(add), std::move(order));
+}
+
 Item Grid(int columns, Items items)
 {
     return Grid(columns, std::vector<Item>(items));

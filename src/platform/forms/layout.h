@@ -66,6 +66,9 @@ struct Fields : Item {
     explicit Fields(std::vector<FieldRow> rows);
 };
 
+/// A field under its label, for short fields side by side.
+Item Above(const QString &label, Item field);
+
 /// Equal columns side by side, items placed row by row.
 Item Grid(int columns, Items items);
 Item Grid(int columns, std::vector<Item> items);

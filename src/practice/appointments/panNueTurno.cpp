@@ -122,6 +122,7 @@ void panNueTurno::activate()
         return;
     }
     armarLista();
+    irAlPaciente();
     if (idTurno_)
         mostrarTurno();
     if (txtBusca.isEnabled()) {
@@ -157,6 +158,18 @@ void panNueTurno::armarLista()
     Data1.setRecordSource(
         u"Select * from pacientes where %1 AND %2 order by [apellido y nombres]"_s.arg(permiso_, bajas));
     Data1.refresh();
+}
+
+/// A patient whom the professional may not see is not in the list.
+void panNueTurno::irAlPaciente()
+{
+    if (numero_.isEmpty())
+        return;
+    Data1.change([&](dao::Recordset &pacientes) {
+        pacientes.findFirst(u"Numero = "_s + basic::format(numero_, u"##########0"));
+    });
+    if (Data1.recordset().noMatch())
+        error(u"No encontrado!!"_s);
 }
 
 void panNueTurno::mostrarPaciente()

@@ -17,12 +17,16 @@ public:
 
     /// The coverage and the professional to start with; a text that is in no list selects nothing.
     void proponer(const QString &cobertura, const QString &profesional);
+    /// The patient to start with, by number; empty for the first of the list.
+    void setPaciente(const QString &numero) { numero_ = numero; }
     void setFecha(basic::Date fecha) { mFecha.setValue(fecha); }
     /// The place is settled: the hour is shown but cannot be typed.
     void fijarHora(const QString &hora);
     /// Edits the place with this key: a taken one keeps its patient and professional.
     void setTurno(qint64 idTurno) { idTurno_ = idTurno; }
 
+    basic::Date fecha() const { return mFecha.value(); }
+    QString hora() const { return mHora.text(); }
     turnos::Reserva reserva();
 
 protected:
@@ -34,6 +38,7 @@ private:
     void disponer();
     bool leerPermiso();
     void armarLista();
+    void irAlPaciente();
     void mostrarPaciente();
     void mostrarEdad(const basic::Value &nacimiento);
     void mostrarTurno();
@@ -83,6 +88,7 @@ private:
     forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("&Cancelar"),
                                   QStringLiteral("cancelar")};
 
+    QString numero_; ///< of the patient to start with
     std::optional<qint64> idTurno_;
     qint64 idPaciente_ = 0; ///< of the patients' current row, or of the taken place
     turnos::Edad edad_;

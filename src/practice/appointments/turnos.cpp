@@ -21,20 +21,6 @@ constexpr int largoEstado = 20;
 constexpr int largoEdad = 15;
 const QString enCurso = u"En curso"_s;
 
-/// One Edit and Update pair: either the whole row is written or nothing of it.
-template <class Escritura>
-void editar(dao::Recordset &fila, const Escritura &escritura)
-{
-    fila.edit();
-    try {
-        escritura();
-        fila.update();
-    } catch (const basic::Error &) {
-        fila.cancelUpdate();
-        throw;
-    }
-}
-
 QString oPunto(const QString &texto)
 {
     return texto.isEmpty() ? u"."_s : texto;
@@ -70,7 +56,7 @@ bool libre(dao::Recordset &lugar)
 
 void ocupar(dao::Recordset &lugar, const Reserva &reserva)
 {
-    editar(lugar, [&] {
+    lugar.edit([&] {
         lugar[u"Paciente"] = reserva.paciente.left(largoPaciente);
         lugar[u"Telefono"] = reserva.telefono.left(largoContacto);
         lugar[u"email"] = reserva.email.left(largoContacto);
@@ -90,7 +76,7 @@ void ocupar(dao::Recordset &lugar, const Reserva &reserva)
 
 void liberar(dao::Recordset &lugar)
 {
-    editar(lugar, [&] {
+    lugar.edit([&] {
         lugar[u"idPaciente"] = 0;
         lugar[u"Paciente"] = sinAsignar;
         lugar[u"idMutual"] = 0;
@@ -102,7 +88,7 @@ void liberar(dao::Recordset &lugar)
 
 void cambiarEstado(dao::Recordset &lugar, const QString &estado)
 {
-    editar(lugar, [&] { lugar[u"Estado"] = estado.left(largoEstado); });
+    lugar.edit([&] { lugar[u"Estado"] = estado.left(largoEstado); });
 }
 
 std::optional<qint64> idProfesional(const QString &nombre)

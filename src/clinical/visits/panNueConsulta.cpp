@@ -1,0 +1,221 @@
+#include "clinical/visits/panNueConsulta.h"
+
+#include "core/services/services.h"
+#include "core/session/session.h"
+#include "platform/basic/environment.h"
+#include "platform/basic/errors.h"
+#include "platform/basic/runtime.h"
+#include "platform/forms/boxes.h"
+#include "platform/forms/colour.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+using namespace Qt::StringLiterals;
+using namespace consultas;
+using namespace forms;
+
+namespace
+{
+
+constexpr int cHora = 2;
+
+enum Signo { Pulso, Temperatura, Respiracion, Talla, Peso, signos_ };
+struct Campo {
+    const char *etiqueta;
+    int largo; ///< 0 for numbers
+};
+constexpr Campo signosDelForm[] = {{"&Pulso :", 20},
+                                   {"T&emperatura :", 20},
+                                   {"Respirac&ión :", 20},
+                                   {"Ta&lla (Cm) :", 0},
+                                   {"Pes&o (Gr) :", 0}};
+
+constexpr int largoDeHallazgo = 100;
+constexpr std::size_t renglonesPorColumna = 5;
+const QStringList especialidades = {u"Alergia"_s,     u"Pediatría"_s,   u"Neonatología"_s, u"Ginecología"_s,
+                                    u"Obstetricia"_s, u"Cardiología"_s, u"Oftalmología"_s, u"Odontología"_s};
+constexpr const char *fichas[] = {"&1ro", "&2do", "&3ro"};
+
+} // namespace
+
+panNueConsulta::panNueConsulta()
+    : Form(u"panNueConsulta"_s), comboEspecialidad(u"comboEspecialidad"_s, especialidades)
+{
+    setWindowTitle(u"Nueva visita o consulta"_s);
+    mDato.add(cHora, 10);
+    for (int signo = 0; signo < signos_; ++signo)
+        Text3.add(signo, signosDelForm[signo].largo);
+    for (const examen::Item &item : examen::items()) {
+        TextBox &campo = Text3.add(item.indice, largoDeHallazgo);
+        forms::setTag(&campo, QString::fromUtf8(item.titulo));
+        campos_[static_cast<std::size_t>(item.marco) / examen::marcosPorFicha].push_back(&campo);
+    }
+    comboEspecialidad.setValue(MODULE11::EspecialidadDr);
+    disponer();
+    connect(&Command7, &QPushButton::clicked, this, &panNueConsulta::command7Click);
+    connect(&Command8, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
+}
+
+void panNueConsulta::disponer()
+{
+    QFont destacada = lblPaciente.font();
+    destacada.setBold(true);
+    lblPaciente.setFont(destacada);
+    auto *ayuda = new Label(
+        u"ayuda"_s,
+        u"Entrar: campo siguiente    F2: anota «Normal»    F3: agrega a la lista    Ctrl+Entrar: Aceptar"_s);
+    setForeColor(*ayuda, palette().color(QPalette::PlaceholderText));
+    setContents(this,
+                Column{
+                    lblPaciente,
+                    Expanding(Row{
+                        Expanding(Column{datosDeLaVisita(), signos(), Expanding(listas.disposicion(ListasDeConsulta::Botones::AlLado))}),
+                        Expanding(Tabs(SStab1, {ficha(0), ficha(1), ficha(2)})),
+                    }),
+                    Row{ayuda, Stretch(), Command7, Command8},
+                });
+    resize(1180, 640);
+}
+
+Item panNueConsulta::datosDeLaVisita()
+{
+    mDato(cHora).setMaximumWidth(70);
+    text9.setFixedHeight(text9.fontMetrics().lineSpacing() * 2 + 12);
+    return Group(
+        u"Consulta Resumida"_s,
+        Fields{{u"&Fecha :"_s,
+                Row{mFecha, Fields{{u"&Hora :"_s, mDato(cHora)}}, opciones.option3d1(0), opciones.option3d1(1), Stretch()}},
+               {u"Espec&ialidad :"_s, Row{comboEspecialidad, opciones.option3d2(0), opciones.option3d2(1), Stretch()}},
+               {u"&Motivo de la consulta :"_s, text9}});
+}
+
+Item panNueConsulta::signos()
+{
+    std::vector<Item> campos;
+    for (int signo = 0; signo < signos_; ++signo)
+        campos.push_back(Above(QString::fromUtf8(signosDelForm[signo].etiqueta), Text3(signo)));
+    return Column{
+        Row(std::move(campos)),
+        Fields{{u"Estado &General :"_s, Text1}, {u"Estado &Nutricional :"_s, Text2}},
+    };
+}
+
+Page panNueConsulta::ficha(int numero)
+{
+    std::vector<Item> marcos;
+    for (int i = 0; i < examen::marcosPorFicha; ++i)
+        marcos.push_back(marco(static_cast<examen::Marco>(numero * examen::marcosPorFicha + i)));
+    marcos.push_back(Stretch());
+    return {QString::fromUtf8(fichas[numero]), Column(std::move(marcos))};
+}
+
+Item panNueConsulta::marco(examen::Marco marco)
+{
+    std::vector<FieldRow> renglones;
+    for (const examen::Item &item : examen::items())
+        if (item.marco == marco)
+            renglones.emplace_back(QString::fromUtf8(item.etiqueta), Text3(item.indice));
+    const QString titulo = QString::fromUtf8(examen::titulo(marco));
+    if (renglones.size() <= renglonesPorColumna)
+        return Group(titulo, Fields(std::move(renglones)));
+    const auto mitad = renglones.begin() + static_cast<std::ptrdiff_t>((renglones.size() + 1) / 2);
+    return Group(titulo, Row{Expanding(Fields(std::vector(renglones.begin(), mitad))),
+                             Expanding(Fields(std::vector(mitad, renglones.end())))});
+}
+
+void panNueConsulta::load()
+{
+    mDato(cHora).setText(basic::format(basic::time(), u"HH:MM"));
+    listas.setPaciente(tag());
+    basic::ignoringErrors([&] { lblPaciente.setCaption(nombreDelPaciente()); });
+    text9.setFocus();
+}
+
+QString panNueConsulta::nombreDelPaciente() const
+{
+    return MODULE11::BuscaCampo(u"Select * from Pacientes where numero = "_s + tag(), u"Apellido y Nombres")
+        .text();
+}
+
+bool panNueConsulta::queryUnload()
+{
+    setTag(u"NO"_s);
+    return true;
+}
+
+/// The pages of the examination follow one another as if they were one.
+bool panNueConsulta::focusNextPrevChild(bool next)
+{
+    const int ficha = SStab1.currentIndex();
+    const auto &campos = campos_[static_cast<std::size_t>(ficha)];
+    const int otra = next ? ficha + 1 : ficha - 1;
+    if (focusWidget() != (next ? campos.back() : campos.front()) || otra < 0 || otra >= SStab1.count())
+        return Form::focusNextPrevChild(next);
+    SStab1.setCurrentIndex(otra);
+    const auto &destino = campos_[static_cast<std::size_t>(otra)];
+    (next ? destino.front() : destino.back())->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
+
+void panNueConsulta::keyPressEvent(QKeyEvent *evento)
+{
+    const bool entrar = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
+    if (entrar && evento->modifiers().testFlag(Qt::ControlModifier))
+        command7Click();
+    else if (entrar)
+        focusNextPrevChild(true);
+    else if (evento->key() == Qt::Key_F2)
+        anotarNormal();
+    else if (evento->key() == Qt::Key_F3)
+        listas.agregar(listas.conFoco());
+    else
+        Form::keyPressEvent(evento);
+}
+
+/// Most of what is examined is normal: one key notes it and goes on.
+void panNueConsulta::anotarNormal()
+{
+    auto *campo = qobject_cast<TextBox *>(focusWidget());
+    if (!campo || forms::tag(campo).isEmpty())
+        return;
+    campo->setText(u"Normal"_s);
+    focusNextPrevChild(true);
+}
+
+/// The signs must be numbers, so the person is led through each one left blank; it then stands at 0.
+void panNueConsulta::command7Click()
+{
+    for (int signo = 0; signo < signos_; ++signo) {
+        if (basic::isNumeric(Text3(signo).text()))
+            continue;
+        msgBox(u"Dato mal ingresado !!"_s, Icon::Critical, u"Error"_s);
+        Text3(signo).setText(u"0"_s);
+        Text3(signo).setFocus(Qt::TabFocusReason);
+        return;
+    }
+    answer(u"SI"_s);
+}
+
+Visita panNueConsulta::visita() const
+{
+    Visita visita{.fecha = mFecha.value(),
+                  .hora = mDato(cHora).text(),
+                  .consultorio = opciones.consultorio(),
+                  .primera = opciones.primera(),
+                  .motivo = text9.toPlainText(),
+                  .peso = Text3(Peso).text(),
+                  .talla = Text3(Talla).text(),
+                  .estadoGeneral = Text1.text(),
+                  .alimentacion = Text2.text(),
+                  .pulso = Text3(Pulso).text(),
+                  .temperatura = Text3(Temperatura).text(),
+                  .respiracion = Text3(Respiracion).text(),
+                  .especialidad = comboEspecialidad.value()};
+    for (const Grupo grupo : grupos)
+        visita.renglones[grupo] = listas.renglones(grupo);
+    for (const auto &[indice, campo] : Text3)
+        if (const QString titulo = forms::tag(campo.get()); !titulo.isEmpty())
+            visita.examen.push_back({titulo, campo->text()});
+    return visita;
+}

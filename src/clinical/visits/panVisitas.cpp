@@ -1,0 +1,362 @@
+#include "clinical/visits/panVisitas.h"
+
+#include "clinical/visits/panNueConsulta.h"
+#include "core/security/eventos.h"
+#include "core/security/niveles.h"
+#include "core/services/services.h"
+#include "core/session/screens.h"
+#include "core/session/session.h"
+#include "platform/basic/environment.h"
+#include "platform/basic/errors.h"
+#include "platform/basic/runtime.h"
+#include "platform/settings/settings.h"
+
+#include <QScopedValueRollback>
+
+using namespace Qt::StringLiterals;
+using namespace consultas;
+using namespace forms;
+using basic::ignoringErrors;
+
+namespace
+{
+
+enum { cMotivo = 1, cHora, cPulso, cTemperatura, cRespiracion }; // mDato
+enum { cTalla = 3, cPeso };                                      // Text3
+enum { cEstadoGeneral = 3, cEstadoNutricional };                 // Text1
+
+const QString edicion = u"EDICION DE CONSULTA "_s;
+
+/// How the audit tells a change in a list; the words of the two kinds of change differ from one to the other.
+struct Suceso {
+    const char *agregado, *borrado, *nombre;
+};
+constexpr Suceso sucesos[] = {
+    {"AGREGADO DE SINTOMA HC. Nº", "BORRADO DE SINTOMA HC. Nº", " Sint:"},
+    {"AGREGADO DE TRATAMIENTO HC. Nº", "BORRADO DE TRATAM. HC. Nº", " Trat:"},
+    {"AGREGADO DE DIAGNOSTICO HC. Nº", "BORRADO DE DIAGNOSTICO / HC. Nº", " Diag:"},
+};
+
+/// The names of a group in the slots of the row being edited; a slot without one is emptied.
+void ponerNombres(dao::Recordset &consulta, Grupo grupo, const std::vector<Renglon> &renglones)
+{
+    for (int ranura = 1; ranura <= ranuras; ++ranura) {
+        const auto i = static_cast<std::size_t>(ranura - 1);
+        consulta[columna(grupo, ranura)] = i < renglones.size() ? renglones[i].nombre : QString();
+    }
+}
+
+void abrirConPermiso(const QString &clave, const QString &ventana, const QString &numero)
+{
+    if (MODULE11::VerificaNivel(clave))
+        screens::showChild(ventana, numero);
+}
+
+} // namespace
+
+panVisitas::panVisitas() : Form(u"panVisitas"_s)
+{
+    setWindowTitle(u"Pantalla de Visitas y Examenes clínicos"_s);
+    for (Data *datos : {&Data1, &Data2, &Data3})
+        datos->setDatabase(&MODULE11::BaseDatos);
+    DBGrid1.setSource(Data2, {{u"Fecha"_s, u"Fecha"_s, u"dd/mm/yyyy"_s, 84},
+                              {u"Hora"_s, u"Hora"_s, u"HH:MM"_s, 50},
+                              {u"Motivo"_s, u"Motivo"_s, {}, 110},
+                              {u"Dr."_s, u"Dr"_s, {}, 100}});
+    DBGrid2.setSource(Data3,
+                      {{u"Examen"_s, u"Titulo"_s, {}, 235}, {u"Resultado"_s, u"Valor"_s, {}, 170}});
+    agregarControles();
+    disponer();
+    conectar();
+}
+
+void panVisitas::agregarControles()
+{
+    Data2.bind(mFecha, u"Fecha"_s);
+    Data2.bind(mDato1, u"Motivo"_s);
+    Data2.bind(mDato.add(cHora, 10), u"Hora"_s, u"HH:MM"_s);
+    Data2.bind(mDato.add(cPulso, 20), u"Pulso"_s);
+    Data2.bind(mDato.add(cTemperatura, 20), u"temperatura"_s);
+    Data2.bind(mDato.add(cRespiracion, 20), u"Respiracion"_s);
+    Data2.bind(Text3.add(cTalla), u"Talla"_s);
+    Data2.bind(Text3.add(cPeso), u"Peso"_s);
+    Data2.bind(Text1.add(cEstadoGeneral, 255), u"Estado General"_s);
+    Data2.bind(Text1.add(cEstadoNutricional, 255), u"Alimentacion"_s);
+}
+
+void panVisitas::disponer()
+{
+    DBGrid1.setMinimumWidth(360);
+    DBGrid2.setMinimumHeight(110);
+    setContents(this, Column{
+                          Expanding(Row{
+                              Expanding(Column{barra, Expanding(DBGrid1)}, 3),
+                              Expanding(Column{visita(), Expanding(DBGrid2)}, 4),
+                              Expanding(listas.disposicion(ListasDeConsulta::Botones::Debajo), 3),
+                          }),
+                          Row{Command3, Command4, Command5, Command6, Stretch(), Command9, Command7},
+                          Row{Command14, Command11, Command12, Stretch(), Command10},
+                      });
+    resize(1150, 590);
+}
+
+Item panVisitas::visita()
+{
+    mDato(cHora).setMaximumWidth(70);
+    mDato1.setFixedHeight(mDato1.fontMetrics().height() * 3);
+    return Column{
+        Row{Fields{{u"&Fecha :"_s, mFecha}}, Fields{{u"&Hora :"_s, mDato(cHora)}}, opciones.option3d2(0),
+            opciones.option3d2(1), Stretch()},
+        Fields{{u"&Motivo :"_s, mDato1}, {u"Lugar :"_s, Row{opciones.option3d1(0), opciones.option3d1(1), Stretch()}}},
+        Row{Above(u"&Pulso :"_s, mDato(cPulso)), Above(u"&Temperatura :"_s, mDato(cTemperatura)),
+            Above(u"&Respiración :"_s, mDato(cRespiracion)), Above(u"Ta&lla (Cm) :"_s, Text3(cTalla)),
+            Above(u"P&eso (Gr) :"_s, Text3(cPeso))},
+        Fields{{u"Estado General :"_s, Text1(cEstadoGeneral)},
+               {u"Estado N&utricional :"_s, Text1(cEstadoNutricional)}},
+    };
+}
+
+void panVisitas::conectar()
+{
+    connect(&Data1, &Data::reposition, this, &panVisitas::armarConsultas);
+    connect(&Data2, &Data::reposition, this, &panVisitas::mostrarVisita);
+    connect(&opciones, &OpcionesDeConsulta::elegida, this, &panVisitas::guardar);
+    connect(&listas, &ListasDeConsulta::agregados, this,
+            [this](int grupo, const QStringList &nombres) { agregados(static_cast<Grupo>(grupo), nombres); });
+    connect(&listas, &ListasDeConsulta::quitado, this,
+            [this](int grupo, const QString &nombre) { quitado(static_cast<Grupo>(grupo), nombre); });
+    connect(&Command3, &QPushButton::clicked, this, &panVisitas::nueva);
+    connect(&Command4, &QPushButton::clicked, this, &panVisitas::quitar);
+    connect(&Command5, &QPushButton::clicked, this, [this] {
+        guardar();
+        MODULE11::RegistraEvento(edicion, u"TOMA DE CAMBIOS A LA BASE // HC. Nº%1 / Fecha cons.:%2"_s.arg(tag(), textoDeFecha()));
+    });
+    connect(&Command6, &QPushButton::clicked, this, [] { screens::run(u"OtorgaTurno"_s); });
+    connect(&Command9, &QPushButton::clicked, this,
+            [] { abrirConPermiso(u"IngresarAConsultas"_s, u"panDiario"_s, {}); });
+    connect(&Command10, &QPushButton::clicked, this, &panVisitas::unload);
+    connect(&Command11, &QPushButton::clicked, this,
+            [this] { abrirConPermiso(u"IngresarAEstudios"_s, u"panEstudios"_s, tag()); });
+    connect(&Command12, &QPushButton::clicked, this,
+            [this] { abrirConPermiso(u"IngresarALaboratorio"_s, u"panAnalisis"_s, tag()); });
+    connect(&Command14, &QPushButton::clicked, this, &panVisitas::abrirHistoria);
+    Command6.setEnabled(screens::hasOperation(u"OtorgaTurno"_s));
+    Command7.setEnabled(false); // the listings do not exist yet
+    Command9.setEnabled(screens::has(u"panDiario"_s));
+    Command11.setEnabled(screens::has(u"panEstudios"_s));
+    Command12.setEnabled(screens::has(u"panAnalisis"_s));
+}
+
+/// Back from a dialogue of its own, the window stays on the visit that it showed.
+void panVisitas::activate()
+{
+    if (!Data1.hasRecordset())
+        buscarPaciente();
+    if (forms::tag(&Command3) != u"Activar")
+        return;
+    forms::setTag(&Command3, {});
+    nueva();
+}
+
+void panVisitas::buscarPaciente()
+{
+    listas.setPaciente(tag());
+    Data1.setRecordSource(u"Select * from Pacientes where Numero = "_s + tag());
+    Data1.refresh();
+    if (Data1.hasRow())
+        setWindowTitle(u"Exámenes clínicos efectuados a "_s +
+                       Data1.recordset()[u"Apellido y Nombres"].text());
+    if (Data2.hasRow())
+        Data2.change([](dao::Recordset &visitas) { visitas.moveLast(); });
+    DBGrid1.setFocus();
+}
+
+void panVisitas::armarConsultas()
+{
+    Data2.setRecordSource(u"Select * from Consulta where Paciente = %1 order by fecha, Hora "_s.arg(tag()));
+    Data2.refresh();
+}
+
+void panVisitas::mostrarVisita()
+{
+    const bool hay = Data2.hasRow();
+    const qint64 lugar = hay ? Data2.recordset().absolutePosition() + 1 : 0;
+    const qint64 total = hay ? Data2.recordset().rowCount() : 0;
+    barra.setCaption(u"Recorrer consultas efectuadas al paciente (%1 de %2)"_s.arg(
+        basic::format(lugar, u"##,###"), basic::format(total, u"##,###")));
+    if (escribiendo_)
+        return;
+    habilitar(hay);
+    listas.vaciar();
+    if (!hay) {
+        mostrarEnBlanco();
+        return;
+    }
+    leerExamen();
+    opciones.setLugar(Data2.recordset()[u"Lugar de Consulta"].text());
+    opciones.setTipo(Data2.recordset()[u"Tipo"].text());
+    mostrarListas();
+}
+
+void panVisitas::habilitar(bool hay)
+{
+    for (CommandButton *boton : {&Command4, &Command5, &Command14})
+        boton->setEnabled(hay);
+    mFecha.setEnabled(hay);
+    mDato1.setEnabled(hay);
+    for (ControlArray<TextBox> *textos : {&mDato, &Text1, &Text3})
+        for (auto &[indice, texto] : *textos)
+            texto->setEnabled(hay);
+    opciones.setEnabled(hay);
+    listas.setEnabled(hay);
+}
+
+void panVisitas::mostrarEnBlanco()
+{
+    mFecha.setValue(basic::today());
+    mDato1.setPlainText(u"-"_s);
+    mDato(cHora).setText(basic::format(basic::time(), u"HH:MM"));
+    opciones.setLugar(lugar(true));
+    opciones.setTipo(tipo(true));
+    Data3.setRecordSource(u"Select * from ExFisico where False"_s);
+    Data3.refresh();
+}
+
+/// The names of the slots. Those that an edit left empty behind the last name are no lines, else a visit once
+/// edited would count as full.
+void panVisitas::mostrarListas()
+{
+    dao::Recordset &consulta = Data2.recordset();
+    for (const Grupo grupo : grupos) {
+        std::vector<Renglon> renglones;
+        std::size_t conNombre = 0;
+        for (int ranura = 1; ranura <= ranuras; ++ranura) {
+            const basic::Value nombre = consulta[columna(grupo, ranura)];
+            if (nombre.isNull())
+                continue;
+            renglones.push_back({nombre.text()});
+            if (!nombre.isBlank())
+                conNombre = renglones.size();
+        }
+        for (std::size_t i = 0; i < conNombre; ++i)
+            listas.agregarRenglon(grupo, renglones[i]);
+    }
+}
+
+/// A professional sees the own findings only, and two visits of one day show each other's. A name with an
+/// apostrophe finds none.
+void panVisitas::leerExamen()
+{
+    Data3.setRecordSource(
+        u"Select * from ExFisico where Dr = '%1' and idPaciente = %2 and Fecha = cdate('%3')"_s.arg(
+            MODULE11::DrActual, tag(), textoDeFecha()));
+    ignoringErrors([&] { Data3.refresh(); });
+}
+
+QString panVisitas::textoDeFecha()
+{
+    return basic::dateText(Data2.recordset()[u"Fecha"].date());
+}
+
+/// Writes the options and the names of the lists, and with them what was typed. The ids and doses keep what
+/// they were when the visit was recorded.
+void panVisitas::guardar()
+{
+    if (!Data2.hasRow())
+        return;
+    const QScopedValueRollback escribiendo(escribiendo_, true);
+    Data2.change([this](dao::Recordset &consulta) {
+        consulta.edit([&] {
+            consulta[u"Lugar de Consulta"] = lugar(opciones.consultorio());
+            consulta[u"Tipo"] = tipo(opciones.primera());
+            for (const Grupo grupo : grupos)
+                ponerNombres(consulta, grupo, listas.renglones(grupo));
+        });
+    });
+}
+
+void panVisitas::agregados(Grupo grupo, const QStringList &nombres)
+{
+    guardar();
+    for (const QString &nombre : nombres)
+        registrarCambio(QString::fromUtf8(sucesos[grupo].agregado), grupo, nombre);
+}
+
+void panVisitas::quitado(Grupo grupo, const QString &nombre)
+{
+    guardar();
+    registrarCambio(QString::fromUtf8(sucesos[grupo].borrado), grupo, nombre);
+}
+
+void panVisitas::registrarCambio(const QString &cambio, Grupo grupo, const QString &nombre)
+{
+    MODULE11::RegistraEvento(edicion, cambio + tag() + u" / Fecha:"_s + textoDeFecha() +
+                                          QString::fromUtf8(sucesos[grupo].nombre) + nombre);
+}
+
+void panVisitas::nueva()
+{
+    if (!MODULE11::VerificaNivel(u"AgregarConsultas"_s))
+        return;
+    panNueConsulta captura;
+    captura.setTag(tag());
+    captura.showModal();
+    if (captura.tag() != u"SI")
+        return;
+    const Visita visita = captura.visita();
+    registrarConsulta(tag(), visita);
+    Data2.refresh();
+    pararEn(visita.fecha, visita.hora);
+}
+
+/// The latest visit when there is none of that moment: an hour that is none was not stored.
+void panVisitas::pararEn(basic::Date fecha, const QString &hora)
+{
+    Data2.change([&](dao::Recordset &visitas) {
+        bool hallada = false;
+        ignoringErrors([&] {
+            visitas.findFirst(
+                u"[Fecha] = #%1# and [hora] = cdate('%2')"_s.arg(basic::sqlDate(fecha), hora));
+            hallada = !visitas.noMatch();
+        });
+        if (!hallada && !visitas.eof())
+            visitas.moveLast();
+    });
+}
+
+void panVisitas::quitar()
+{
+    if (!MODULE11::VerificaNivel(u"BorrarConsultas"_s) || !MODULE11::Pregunta(u"Borra esta consulta"_s))
+        return;
+    Data2.updateControls(); // what was typed goes with the row
+    dao::Recordset &consulta = Data2.recordset();
+    const qint64 lugar = consulta.absolutePosition();
+    MODULE11::RegistraEvento(u"BORRADO DE CONSULTA "_s, u"HC. Nº%1 / Fecha:%2"_s.arg(tag(), textoDeFecha()));
+    MODULE11::BaseDatos.execute(u"Delete * from ExFisico where idConsulta = "_s + consulta[u"idConsulta"].text());
+    consulta.deleteRow();
+    Data2.refresh();
+    if (Data2.hasRow())
+        Data2.change([lugar](dao::Recordset &visitas) {
+            visitas.setAbsolutePosition(qMin(lugar, visitas.rowCount() - 1)); // beside the one that went
+        });
+}
+
+/// The form of the history that the practice chose; none chosen is the plain text.
+void panVisitas::abrirHistoria()
+{
+    const QString clave = u"HC por Defecto"_s;
+    const QString forma = settings::getSetting(u"Configuracion"_s, clave);
+    MODULE11::RegistraEvento(u"EDICION DE HC.TEXTUAL"_s, u"PACIENTE : "_s + tag());
+    if (!forma.isEmpty() && forma != u"STANDARD") {
+        screens::showChild(screens::oneOf(u"panEHC"_s, u"panEditHC"_s), tag());
+        return;
+    }
+    settings::saveSetting(u"Configuracion"_s, clave, u"STANDARD"_s);
+    screens::showChild(u"panEditHC"_s, tag());
+}
+
+bool panVisitas::queryUnload()
+{
+    Data2.updateRecord();
+    return true;
+}

@@ -1,0 +1,54 @@
+#include "practice/appointments/otorgaTurno.h"
+
+#include "core/security/niveles.h"
+#include "core/services/services.h"
+#include "core/session/despacho.h"
+#include "core/session/session.h"
+#include "platform/basic/environment.h"
+#include "platform/basic/runtime.h"
+#include "platform/forms/boxes.h"
+#include "practice/appointments/panNueTurno.h"
+#include "practice/appointments/turnos.h"
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// The day with an hour that can be read, or with none.
+bool hayMomento(basic::Date fecha, const QString &hora)
+{
+    return basic::isDate((basic::dateText(fecha) + u' ' + hora).trimmed());
+}
+
+dao::Recordset lugarLibre(basic::Date fecha, const QString &hora)
+{
+    return MODULE11::BaseDatos.openRecordset(
+        u"Select * from Turnos WHERE Paciente = '%1' AND Fecha = %2 AND Hora = '%3'"_s.arg(
+            turnos::sinAsignar, turnos::cdate(fecha), hora));
+}
+
+} // namespace
+
+void OtorgaTurno()
+{
+    if (!MODULE11::VerificaNivel(u"AgregarTurnos"_s))
+        return;
+    panNueTurno dialogo;
+    dialogo.setPaciente(menu::activePatient());
+    dialogo.setFecha(basic::today());
+    dialogo.proponer({}, MODULE11::DrActual);
+    dialogo.showModal();
+    if (dialogo.tag() != u"SI")
+        return;
+    if (!hayMomento(dialogo.fecha(), dialogo.hora())) {
+        MODULE11::MuestraError(u"Datos mal ingresados"_s);
+        return;
+    }
+    dao::Recordset lugar = lugarLibre(dialogo.fecha(), dialogo.hora());
+    if (lugar.eof()) {
+        forms::msgBox(u"Error, el turno no está disponible."_s, forms::Icon::Critical, u"Error"_s);
+        return;
+    }
+    turnos::ocupar(lugar, dialogo.reserva());
+}
