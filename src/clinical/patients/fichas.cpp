@@ -48,13 +48,13 @@ const Ventana &ventanaParaNuevo()
     return ventana.nombre == QByteArrayView("panEHC") ? fichaGlobal : ventana;
 }
 
-/// Until a window exists the textual history stands in for it, under its own caption.
+/// Until a window exists the patient's visits stand in for it, under their own caption.
 void abrir(const Ventana &ventana, const QString &numero, const QString &nombre)
 {
     const QString pedida = QString::fromUtf8(ventana.nombre);
     const QString caption = QString::fromUtf8(ventana.caption);
     if (!screens::has(pedida))
-        screens::showChild(u"panEditHC"_s, numero);
+        screens::showChild(u"panVisitas"_s, numero);
     else
         screens::showChild(pedida, numero, caption.isEmpty() ? QString() : caption + nombre);
 }

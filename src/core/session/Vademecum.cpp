@@ -230,7 +230,7 @@ void Vademecum::actualizarPacientesDeHoy()
             }
         });
         connect(&nombre, &forms::Label::clicked, this, [&nombre] {
-            screens::showChild(screens::oneOf(u"panEstadPaciente"_s, u"panEditHC"_s), forms::tag(&nombre));
+            screens::showChild(screens::oneOf(u"panEstadPaciente"_s, u"panVisitas"_s), forms::tag(&nombre));
         });
         nombre.show();
     }

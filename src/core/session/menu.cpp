@@ -26,7 +26,7 @@ constexpr Entry entries[] = {
     {1, "Gestion contable personal", "menuCaja", Modal, "panCaja"},
     {1, "Tablas varias", "", Folder},
     {2, "Sintomas del paciente", "menuSintomas", Modal, "panSintomas"},
-    {2, "Patologías y Diagnosticos", "menuDiagnostico", Modal, "panDiagnosticos"},
+    {2, "Patologías y Diagnosticos", "menuDiagnostico", Operation, "TablaDiagnosticos"},
     {2, "Tratamientos", "MenuTratamientos", Modal, "panTratamientos"},
     {2, "Tabla de Profesionales", "menuTablaProf", Modal, "panProfesionales", "IngresarAProfesionales"},
     {2, "Empresas de Cobertura Médica", "menuObras", Modal, "panObras"},

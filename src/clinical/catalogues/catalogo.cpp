@@ -1,0 +1,201 @@
+#include "clinical/catalogues/catalogo.h"
+
+#include "core/services/services.h"
+#include "core/session/session.h"
+
+#include <QKeyEvent>
+#include <QSignalBlocker>
+
+using namespace Qt::StringLiterals;
+using namespace forms;
+
+namespace
+{
+
+const QString vacio = u"-"_s;
+
+QString oVacio(const QString &texto)
+{
+    return texto.isEmpty() ? vacio : texto;
+}
+
+} // namespace
+
+Catalogo::Catalogo(const QString &ventana, Tabla tabla) : Form(ventana), tabla_(std::move(tabla))
+{
+    int indice = 0;
+    for (const Campo &campo : tabla_.campos)
+        mDato.add(indice++, campo.largo);
+    List1.setMinimumSize(300, 260);
+    connect(&List1, &QListWidget::currentItemChanged, this, &Catalogo::elegir);
+    connect(&List1, &QListWidget::itemSelectionChanged, this, &Catalogo::elegir);
+    connect(&List1, &QListWidget::itemClicked, this, &Catalogo::elegir);
+    connect(&List1, &QListWidget::itemDoubleClicked, this, &Catalogo::aceptar);
+    connect(&Command1, &QPushButton::clicked, this, &Catalogo::aceptar);
+    connect(&Command3, &QPushButton::clicked, this, &Catalogo::nuevo);
+    connect(&Command4, &QPushButton::clicked, this, &Catalogo::quitar);
+    connect(&Command6, &QPushButton::clicked, this, &Catalogo::guardar);
+}
+
+Item Catalogo::botones(Item otros)
+{
+    return Row{Command3, Command4, Command6, Stretch(), std::move(otros)};
+}
+
+void Catalogo::activate()
+{
+    if (cargado_)
+        return;
+    cargado_ = true;
+    preparar();
+    llenar();
+    List1.setFocus();
+}
+
+/// Enter takes what is chosen in the list; in a field, where a row is being written, it does nothing.
+void Catalogo::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && List1.hasFocus())
+        aceptar();
+    else
+        Form::keyPressEvent(event);
+}
+
+bool Catalogo::queryUnload()
+{
+    setTag(respuestaAlCerrar());
+    return true;
+}
+
+std::vector<Renglon> Catalogo::elegidos() const
+{
+    std::vector<Renglon> renglones;
+    for (int fila = 0; fila < List1.count(); ++fila)
+        if (const QListWidgetItem *renglon = List1.item(fila); renglon->isSelected())
+            renglones.push_back({renglon->text(), renglon->data(Qt::UserRole).toLongLong()});
+    return renglones;
+}
+
+dao::Recordset Catalogo::abrir() const
+{
+    dao::Recordset filas = MODULE11::BaseDatos.openRecordset(tabla_.nombre, dao::Recordset::Kind::Table);
+    filas.setIndex(u"Descripcion");
+    return filas;
+}
+
+void Catalogo::agregarALaLista(dao::Recordset &fila)
+{
+    const basic::Value nombre = fila[tabla_.campos.front().columna];
+    auto *renglon = new QListWidgetItem(nombre.isNull() ? vacio : nombre.text(), &List1);
+    renglon->setData(Qt::UserRole, fila[tabla_.id].integer());
+}
+
+int Catalogo::filaDe(qint64 id) const
+{
+    for (int fila = 0; fila < List1.count(); ++fila)
+        if (List1.item(fila)->data(Qt::UserRole).toLongLong() == id)
+            return fila;
+    return -1;
+}
+
+void Catalogo::llenar(qint64 idActual)
+{
+    const std::vector<Renglon> antes = elegidos();
+    const bool varios = List1.selectionMode() == QAbstractItemView::ExtendedSelection;
+    {
+        const QSignalBlocker silencio(List1);
+        List1.clear();
+        dao::Recordset filas = abrir();
+        listar(filas);
+        for (const Renglon &renglon : antes)
+            if (const int fila = filaDe(renglon.id); varios && fila >= 0)
+                List1.item(fila)->setSelected(true);
+    }
+    const int fila = filaDe(idActual);
+    if (fila < 0)
+        mostrar(nullptr);
+    else
+        List1.setCurrentRow(fila, varios ? QItemSelectionModel::Select : QItemSelectionModel::ClearAndSelect);
+}
+
+/// A row that the focus alone has made the current one is not chosen.
+void Catalogo::elegir()
+{
+    const QListWidgetItem *renglon = List1.currentItem();
+    if (!renglon || !renglon->isSelected())
+        return;
+    dao::Recordset filas = abrir();
+    filas.seek(u"=", renglon->text());
+    mostrar(filas.noMatch() ? nullptr : &filas);
+    if (filas.noMatch()) // deleted meanwhile, or without a name
+        mDato(0).setText(renglon->text());
+}
+
+void Catalogo::mostrar(dao::Recordset *fila)
+{
+    int indice = 0;
+    for (const Campo &campo : tabla_.campos) {
+        const basic::Value valor = fila ? (*fila)[campo.columna].value() : basic::Value();
+        mDato(indice++).setText(valor.isNull() ? vacio : valor.text());
+    }
+}
+
+void Catalogo::aceptar()
+{
+    answer(mDato(0).text());
+}
+
+void Catalogo::escribir(dao::Recordset &fila)
+{
+    int indice = 0;
+    for (const Campo &campo : tabla_.campos)
+        fila[campo.columna] = oVacio(mDato(indice++).text().trimmed());
+}
+
+bool Catalogo::hayNombre(const QString &pedido)
+{
+    if (!nombre().isEmpty())
+        return true;
+    MODULE11::MuestraError(pedido);
+    mDato(0).setFocus();
+    return false;
+}
+
+void Catalogo::guardar()
+{
+    if (!hayNombre(u"Ingrese el nombre que quiere guardar."_s))
+        return;
+    dao::Recordset filas = abrir();
+    filas.seek(u"=", nombre());
+    const bool nueva = filas.noMatch();
+    nueva ? filas.addNew() : filas.edit();
+    escribir(filas);
+    filas.update();
+    if (nueva)
+        filas.setBookmark(filas.lastModified());
+    const qint64 id = filas[tabla_.id].integer();
+    // The row that the fields came from gives its place in the choice to the one they were saved in.
+    if (QListWidgetItem *origen = List1.currentItem(); origen && filaDe(id) != List1.row(origen)) {
+        const QSignalBlocker silencio(List1);
+        origen->setSelected(false);
+    }
+    llenar(id);
+}
+
+void Catalogo::quitar()
+{
+    if (!hayNombre(u"Elija en la lista lo que quiere quitar."_s) ||
+        !MODULE11::Pregunta(tabla_.preguntaDeBaja))
+        return;
+    dao::Recordset filas = abrir();
+    filas.seek(u"=", nombre());
+    if (!filas.noMatch())
+        filas.deleteRow();
+    trasBorrar();
+}
+
+void Catalogo::trasBorrar()
+{
+    llenar();
+}

@@ -1,0 +1,46 @@
+#include "clinical/catalogues/dosis.h"
+
+#include "core/session/session.h"
+#include "platform/basic/errors.h"
+#include "platform/basic/runtime.h"
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// In grams, 0 where it was not taken; nothing for a patient who was never measured.
+std::optional<double> ultimoPeso(const QString &paciente)
+{
+    dao::Recordset medidas =
+        MODULE11::BaseDatos.openRecordset(u"select * from medidas where paciente = %1 order by fecha"_s.arg(
+            basic::format(*basic::toNumber(paciente), u"############")));
+    if (medidas.eof())
+        return {};
+    medidas.moveLast();
+    return medidas[u"Peso"].number();
+}
+
+} // namespace
+
+QString catalogos::dosisParaElPaciente(const QString &paciente, const basic::Value &dosis,
+                                       const basic::Value &intervalo)
+{
+    QString texto = u"Sin datos de la dosis para el paciente"_s;
+    if (!basic::isNumeric(paciente) || !dosis.isNumeric())
+        return texto;
+    const std::optional<double> divisor = intervalo.isNull() ? 1.0 : basic::toNumber(intervalo.text());
+    if (!divisor || *divisor == 0.0)
+        return texto;
+    basic::ignoringErrors([&] {
+        const std::optional<double> peso = ultimoPeso(paciente);
+        if (!peso)
+            return;
+        const double valor = *basic::toNumber(dosis.text()) * *peso / 1000.0 / *divisor;
+        texto = u"Dosis para %1 gramos : %2 x dosis."_s.arg(basic::format(*peso, u"###,##0"),
+                                                            basic::format(valor, u"###,##0.00"));
+    });
+    return texto;
+}
