@@ -1,6 +1,7 @@
 #include "clinical/patients/panSelPaciente.h"
 
 #include "clinical/patients/fichas.h"
+#include "core/security/permisos.h"
 #include "core/services/services.h"
 #include "core/session/session.h"
 #include "platform/basic/errors.h"
@@ -110,33 +111,14 @@ void panSelPaciente::activate()
 {
     if (Data1.hasRecordset())
         return; // back from the search dialogue, which has moved the row
-    if (!leerPermiso()) {
+    const auto filtro = MODULE11::FiltroDePacientes();
+    if (!filtro) {
         unload();
         return;
     }
+    filtro_ = *filtro;
     armarLista();
     Text2.setFocus();
-}
-
-/// Which patients the professional who works here may see; false when that is not settled.
-bool panSelPaciente::leerPermiso()
-{
-    const basic::Value id = MODULE11::BuscaCampo(
-        u"Select * from profesionales where nombre = '%1'"_s.arg(MODULE11::DrActual), u"idProfesional");
-    filtro_ = u" true "_s;
-    if (!id.isNumeric())
-        return true;
-    const basic::Value permiso = MODULE11::BuscaCampo(
-        u"Select * from profesionales where idProfesional = "_s + id.text(), u"TipoPermiso");
-    if (permiso.isNull()) {
-        msgBox(
-            u"Error en la configuración de derechos de uso de pacientes del sistema, debe definirse correctamente en la pestaña 'Permisos de usuario' en la pantalla de profesionales ( Archivos/Tablas Varias/Tabla de profesionales )"_s,
-            Icon::Critical, u"Error"_s);
-        return false;
-    }
-    if (permiso.text() == u"U")
-        filtro_ = u" idProfesional = %1 "_s.arg(id.text());
-    return true;
 }
 
 /// A discharge may lie in the future: the patient stays listed until that day.

@@ -20,7 +20,6 @@ protected:
     bool eventFilter(QObject *receptor, QEvent *evento) override;
 
 private:
-    bool leerPermiso();
     void armarLista();
     void irALetra();
     void buscar(const QString &criterio);

@@ -1,5 +1,6 @@
 #include "practice/appointments/panNueTurno.h"
 
+#include "core/security/permisos.h"
 #include "core/services/services.h"
 #include "core/session/screens.h"
 #include "core/session/session.h"
@@ -117,10 +118,12 @@ void panNueTurno::activate()
 {
     if (Data1.hasRecordset())
         return; // back from a dialogue of its own
-    if (!leerPermiso()) {
+    const auto filtro = MODULE11::FiltroDePacientes();
+    if (!filtro) {
         answer(u"NO"_s);
         return;
     }
+    permiso_ = *filtro;
     armarLista();
     irAlPaciente();
     if (idTurno_)
@@ -131,24 +134,6 @@ void panNueTurno::activate()
     } else {
         mMotivo.setFocus();
     }
-}
-
-/// Which patients the professional who works here may see; false when that is not settled.
-bool panNueTurno::leerPermiso()
-{
-    const auto id = turnos::idProfesional(MODULE11::DrActual);
-    if (!id)
-        return true;
-    const basic::Value permiso = MODULE11::BuscaCampo(
-        u"Select * from profesionales where idProfesional = "_s + QString::number(*id), u"TipoPermiso");
-    if (permiso.isNull()) {
-        error(
-            u"Error en la configuración de derechos de uso de pacientes del sistema, debe definirse correctamente en la pestaña 'Permisos de usuario' en la pantalla de profesionales ( Archivos/Tablas Varias/Tabla de profesionales )"_s);
-        return false;
-    }
-    if (permiso.text() == u"U")
-        permiso_ = u" idProfesional = %1 "_s.arg(*id);
-    return true;
 }
 
 void panNueTurno::armarLista()

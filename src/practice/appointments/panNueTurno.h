@@ -36,7 +36,6 @@ protected:
 
 private:
     void disponer();
-    bool leerPermiso();
     void armarLista();
     void irAlPaciente();
     void mostrarPaciente();

@@ -93,8 +93,11 @@ void cambiarEstado(dao::Recordset &lugar, const QString &estado)
 
 std::optional<qint64> idProfesional(const QString &nombre)
 {
-    const basic::Value id = MODULE11::BuscaCampo(
-        u"Select * from profesionales where Nombre = '%1'"_s.arg(nombre), u"idProfesional");
+    basic::Value id = basic::Null{};
+    basic::ignoringErrors([&] { // an apostrophe in the name
+        id = MODULE11::BuscaCampo(u"Select * from profesionales where Nombre = '%1'"_s.arg(nombre),
+                                  u"idProfesional");
+    });
     return id.isNull() ? std::nullopt : std::optional(id.integer());
 }
 
