@@ -62,7 +62,7 @@ protected:
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Aceptar"),
                                   QStringLiteral("aceptar")};
     forms::CommandButton Command3{QStringLiteral("Command3"), QStringLiteral("&Nuevo..."),
-                                  QStringLiteral("nuevo")};
+                                  QStringLiteral("agregar")};
     forms::CommandButton Command4{QStringLiteral("Command4"), QStringLiteral("&Quitar"),
                                   QStringLiteral("quitar")};
     forms::CommandButton Command6{QStringLiteral("Command6"), QStringLiteral("&Guardar"),

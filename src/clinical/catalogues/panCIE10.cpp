@@ -79,9 +79,14 @@ bool panCIE10::queryUnload()
     return true;
 }
 
-/// Enter in the tree takes a disease; elsewhere it belongs to the field or button that has the focus.
+/// From the search the down key leads to what was found. Enter in the tree takes a disease; elsewhere it
+/// belongs to the field or button that has the focus.
 void panCIE10::keyPressEvent(QKeyEvent *event)
 {
+    if (event->key() == Qt::Key_Down && Text2.hasFocus()) {
+        TreeView1.setFocus();
+        return;
+    }
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!enter || !TreeView1.hasFocus())
         Form::keyPressEvent(event);

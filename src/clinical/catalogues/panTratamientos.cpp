@@ -91,7 +91,6 @@ void panTratamientos::activate()
 /// As a person would: the list goes to the first name that begins so.
 void panTratamientos::teclear(const QString &nombre)
 {
-    List1.keyboardSearch({}); // begins a new word
     for (const QChar letra : nombre) {
         QKeyEvent tecla(QEvent::KeyPress, letra == u' ' ? Qt::Key_Space : Qt::Key_unknown, Qt::NoModifier,
                         letra);
