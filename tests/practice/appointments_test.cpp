@@ -1,4 +1,5 @@
-#include "core/database/actualiza.h"
+#include "delivered.h"
+
 #include "core/session/Vademecum.h"
 #include "core/session/panInicial.h"
 #include "core/session/session.h"
@@ -17,11 +18,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTimer>
-
-#include <memory>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -64,65 +61,22 @@ bool bookFromAnotherStation(const QString &path, const QString &patient, qint64 
     return status == 0;
 }
 
-/// A delivered and upgraded file, opened as the session's.
-class AppointmentBook : public testing::Test
+class AppointmentBook : public DeliveredBase
 {
 protected:
-    static void SetUpTestSuite()
-    {
-        upgraded_ = std::make_unique<QTemporaryDir>();
-        copyBase(QStringLiteral(DELIVERED_BASE), upgradedBase());
-        MODULE11::valoresIniciales();
-        BaseDatos.open(upgradedBase(), false, false, MODULE11::conexionDeLaBase());
-        MODULE11::ActualizaBase();
-        BaseDatos.close();
-    }
-    static void TearDownTestSuite() { upgraded_.reset(); }
-
     void SetUp() override
     {
-        const QString path = folder.filePath(u"BASE.MDB"_s);
-        copyBase(upgradedBase(), path);
-        MODULE11::valoresIniciales();
-        BaseDatos.open(path, false, false, MODULE11::conexionDeLaBase());
-        BaseDatos.execute(u"INSERT INTO Profesionales (idProfesional, Nombre) VALUES (1, 'Dra. Uno')"_s);
-        BaseDatos.execute(u"INSERT INTO Profesionales (idProfesional, Nombre) VALUES (2, 'Dr. Dos')"_s);
-    }
-    void TearDown() override
-    {
-        basic::setClock({});
-        BaseDatos.close();
+        DeliveredBase::SetUp();
+        run({"INSERT INTO Profesionales (idProfesional, Nombre) VALUES (1, 'Dra. Uno')",
+             "INSERT INTO Profesionales (idProfesional, Nombre) VALUES (2, 'Dr. Dos')"});
     }
 
-    static QString one(const QString &sql)
-    {
-        dao::Recordset rows = BaseDatos.openRecordset(sql);
-        return rows.eof() ? u"<nada>"_s : rows[0].isNull() ? u"<Null>"_s : rows[0].text();
-    }
-    static QStringList column(const QString &sql)
-    {
-        QStringList values;
-        for (dao::Recordset rows = BaseDatos.openRecordset(sql); !rows.eof(); rows.moveNext())
-            values += rows[0].text();
-        return values;
-    }
     static horarios::Esquema mornings(QDate from, QDate to, int interval)
     {
         horarios::Esquema scheme{1, u"Dra. Uno"_s, from, to, {}, {QTime(9, 0), QTime(10, 0)}, interval};
         scheme.dias.set(2); // Mondays
         return scheme;
     }
-
-    QTemporaryDir folder;
-
-private:
-    static QString upgradedBase() { return upgraded_->filePath(u"BASE.MDB"_s); }
-    static void copyBase(const QString &from, const QString &to)
-    {
-        ASSERT_TRUE(QFile::copy(from, to));
-        QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner);
-    }
-    static inline std::unique_ptr<QTemporaryDir> upgraded_;
 };
 
 } // namespace

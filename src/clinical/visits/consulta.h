@@ -39,7 +39,8 @@ struct Visita {
     QString hora;
     bool consultorio = true;
     bool primera = true;
-    QString motivo, peso, talla, estadoGeneral, alimentacion, pulso, temperatura, respiracion, especialidad;
+    QString motivo = {}, peso = {}, talla = {}, estadoGeneral = {}, alimentacion = {};
+    QString pulso = {}, temperatura = {}, respiracion = {}, especialidad = {};
     Renglones renglones = {};
     std::vector<Hallazgo> examen = {};
 };

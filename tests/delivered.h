@@ -1,0 +1,78 @@
+#pragma once
+
+#include "core/database/actualiza.h"
+#include "core/session/session.h"
+#include "core/session/startup.h"
+#include "platform/basic/environment.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <initializer_list>
+#include <memory>
+
+/// A delivered and upgraded file for each test, opened as the session's, with settings of its own.
+class DeliveredBase : public testing::Test
+{
+protected:
+    static void SetUpTestSuite()
+    {
+        upgraded_ = std::make_unique<QTemporaryDir>();
+        copyBase(QStringLiteral(DELIVERED_BASE), upgradedBase());
+        MODULE11::valoresIniciales();
+        MODULE11::BaseDatos.open(upgradedBase(), false, false, MODULE11::conexionDeLaBase());
+        MODULE11::ActualizaBase();
+        MODULE11::BaseDatos.close();
+    }
+    static void TearDownTestSuite() { upgraded_.reset(); }
+
+    void SetUp() override
+    {
+        const QString path = folder.filePath(QStringLiteral("BASE.MDB"));
+        copyBase(upgradedBase(), path);
+        qputenv("SANIRELL_AJUSTES", folder.path().toUtf8());
+        MODULE11::valoresIniciales();
+        MODULE11::BaseDatos.open(path, false, false, MODULE11::conexionDeLaBase());
+    }
+    void TearDown() override
+    {
+        basic::setClock({});
+        MODULE11::BaseDatos.close();
+        qunsetenv("SANIRELL_AJUSTES");
+    }
+
+    static void run(std::initializer_list<const char *> statements)
+    {
+        for (const char *sql : statements)
+            MODULE11::BaseDatos.execute(QString::fromUtf8(sql));
+    }
+    /// The first column of the first row.
+    static QString one(const QString &sql)
+    {
+        dao::Recordset rows = MODULE11::BaseDatos.openRecordset(sql);
+        return rows.eof()         ? QStringLiteral("<nada>")
+               : rows[0].isNull() ? QStringLiteral("<Null>")
+                                  : rows[0].text();
+    }
+    /// The first column of all rows.
+    static QStringList column(const QString &sql)
+    {
+        QStringList values;
+        for (dao::Recordset rows = MODULE11::BaseDatos.openRecordset(sql); !rows.eof(); rows.moveNext())
+            values += rows[0].text();
+        return values;
+    }
+
+    QTemporaryDir folder;
+
+private:
+    static QString upgradedBase() { return upgraded_->filePath(QStringLiteral("BASE.MDB")); }
+    static void copyBase(const QString &from, const QString &to)
+    {
+        ASSERT_TRUE(QFile::copy(from, to));
+        ASSERT_TRUE(QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner));
+    }
+    static inline std::unique_ptr<QTemporaryDir> upgraded_;
+};
