@@ -9,8 +9,6 @@
 #include "practice/appointments/panTurnos.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
-#include <QTimer>
 
 #include <algorithm>
 #include <iostream>
@@ -24,31 +22,6 @@ namespace
 {
 
 constexpr double patience = 100; // milliseconds
-
-template <class Work>
-double elapsed(Work &&work)
-{
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
-}
-
-template <class Control>
-Control &in(QWidget &window, const char *name)
-{
-    return *window.findChild<Control *>(QString::fromLatin1(name));
-}
-
-/// Runs `inside` in the window that `open` shows modally.
-void modally(const std::function<void()> &open, const std::function<void(forms::Form &)> &inside)
-{
-    QTimer::singleShot(0, [&] {
-        if (forms::Form *window = forms::topModal())
-            inside(*window);
-    });
-    open();
-}
 
 /// Today, or Monday on a Sunday.
 QDate workingDay()
@@ -100,7 +73,7 @@ void booking(panTurnos &book, const Report &report)
     modally([&] { in<QPushButton>(book, "Command2").click(); },
             [&](forms::Form &dialogue) {
                 dialogue.grab();
-                opened = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+                opened = milliseconds(timer);
                 auto &search = in<forms::TextBox>(dialogue, "txtBusca");
                 found = elapsed([&] {
                     search.setText(u"Suárez"_s);
@@ -115,8 +88,7 @@ void booking(panTurnos &book, const Report &report)
     book.grab();
     report("booking: open to first paint", opened, patience);
     report("booking: a name typed", found, patience);
-    report("booking: accept to the day painted again", static_cast<double>(timer.nsecsElapsed()) / 1e6,
-           patience);
+    report("booking: accept to the day painted again", milliseconds(timer), patience);
 }
 
 void stateAndFreeing(panTurnos &book, const Report &report)
@@ -129,8 +101,7 @@ void stateAndFreeing(panTurnos &book, const Report &report)
                 in<QPushButton>(dialogue, "Command1").click();
             });
     book.grab();
-    report("state: accept to the day painted again", static_cast<double>(timer.nsecsElapsed()) / 1e6,
-           patience);
+    report("state: accept to the day painted again", milliseconds(timer), patience);
     QTimer::singleShot(0, [&] {
         for (auto *button : QApplication::activeModalWidget()->findChildren<QPushButton *>())
             if (button->text() == u"&Sí") {
@@ -140,8 +111,7 @@ void stateAndFreeing(panTurnos &book, const Report &report)
     });
     in<QPushButton>(book, "Command3").click();
     book.grab();
-    report("freeing: yes to the day painted again", static_cast<double>(timer.nsecsElapsed()) / 1e6,
-           patience);
+    report("freeing: yes to the day painted again", milliseconds(timer), patience);
 }
 
 void aYear(const Report &report)

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <functional>
+#include "measure.h"
 
 namespace bench
 {
-
-using Report = std::function<void(const char *work, double milliseconds, double limit)>;
 
 /// The commands of the appointment book on the open practice, each until its picture is painted. Places are
 /// given and freed again; a year of one professional's is made for a new one and removed.

@@ -2,6 +2,7 @@
 //   bench_program FOLDER
 #include "appointments.h"
 #include "subsystems.h"
+#include "visits.h"
 
 #include "clinical/patients/panSelPaciente.h"
 #include "core/database/actualiza.h"
@@ -14,7 +15,6 @@
 
 #include <QElapsedTimer>
 #include <QFile>
-#include <QTimer>
 
 #include <functional>
 #include <iostream>
@@ -35,14 +35,14 @@ double untilPainted(forms::Form &form)
 {
     QElapsedTimer timer;
     timer.start();
-    double elapsed = 0;
-    QTimer::singleShot(0, [&] {
-        form.grab();
-        elapsed = static_cast<double>(timer.nsecsElapsed()) / 1e6;
-        form.unload();
-    });
-    form.showModal();
-    return elapsed;
+    double painted = 0;
+    bench::modally([&] { form.showModal(); },
+                   [&](forms::Form &) {
+                       form.grab();
+                       painted = bench::milliseconds(timer);
+                       form.unload();
+                   });
+    return painted;
 }
 
 double resident()
@@ -67,8 +67,7 @@ int measure()
     Vademecum window;
     window.show();
     window.grab();
-    report("start-up to the main window, upgrade list included",
-           static_cast<double>(timer.nsecsElapsed()) / 1e6, 1500);
+    report("start-up to the main window, upgrade list included", bench::milliseconds(timer), 1500);
 
     for (const char *which : {"first", "again"}) {
         panSelPaciente register_;
@@ -82,6 +81,7 @@ int measure()
     // Only a practice made with a year of places can be booked without a box in the way.
     if (!MODULE11::BaseDatos.openRecordset(u"DisTurnos"_s).eof())
         bench::appointments(report);
+    bench::visits(report);
     window.hide();
     return 0;
 }
@@ -101,7 +101,7 @@ int main(int argc, char **argv)
     app::prepare();
     try {
         return measure();
-    } catch (const basic::Error &error) {
+    } catch (const std::exception &error) {
         std::cerr << error.what() << '\n';
         return 1;
     }

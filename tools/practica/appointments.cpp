@@ -101,7 +101,7 @@ void addAppointments(const Book &book, const QStringList &doctors, const std::ve
             addHours(hours, book, date, doctor);
             for (const Book::Stretch &stretch : book.stretches)
                 for (int i = 0; i < stretch.places; ++i) {
-                    const bool taken = chance(dice, shareTaken(book, date));
+                    const bool taken = !clients.empty() && chance(dice, shareTaken(book, date));
                     const Client *client = taken ? &clients[static_cast<std::size_t>(between(
                                                        dice, 0, static_cast<int>(clients.size()) - 1))]
                                                  : nullptr;

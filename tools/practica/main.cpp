@@ -1,4 +1,5 @@
-// practica FILE [--pacientes N] [--consultas N] [--medidas N] [--turnos] [--semilla N]
+// practica FILE [--pacientes N] [--consultas N] [--medidas N] [--examenes N] [--cronico N] [--turnos]
+// [--semilla N]
 #include "practice.h"
 
 #include "core/database/actualiza.h"
@@ -27,19 +28,28 @@ int main(int argc, char **argv)
     number(u"pacientes"_s, u"200"_s);
     number(u"consultas"_s, u"0"_s);
     number(u"medidas"_s, u"0"_s);
+    number(u"examenes"_s, u"-1"_s);
+    number(u"cronico"_s, u"0"_s);
     number(u"semilla"_s, u"1"_s);
     line.addOption({u"turnos"_s, u"a year of appointments"_s});
     line.process(application);
-    if (line.positionalArguments().size() != 1)
+    if (line.positionalArguments().size() != 1 || line.value(u"pacientes"_s).toInt() < 1)
         line.showHelp(2);
     try {
         MODULE11::valoresIniciales();
         MODULE11::BaseDatos.open(line.positionalArguments().first(), false, false,
                                  MODULE11::conexionDeLaBase());
         MODULE11::ActualizaBase();
-        practica::fill({line.value(u"pacientes"_s).toInt(), line.value(u"consultas"_s).toInt(),
-                        line.value(u"medidas"_s).toInt(), line.isSet(u"turnos"_s),
-                        line.value(u"semilla"_s).toUInt(), QDate::currentDate()});
+        practica::Size size;
+        size.patients = line.value(u"pacientes"_s).toInt();
+        size.visits = line.value(u"consultas"_s).toInt();
+        size.measures = line.value(u"medidas"_s).toInt();
+        size.yearOfAppointments = line.isSet(u"turnos"_s);
+        size.examinations = line.value(u"examenes"_s).toInt();
+        size.chronic = line.value(u"cronico"_s).toInt();
+        size.seed = line.value(u"semilla"_s).toUInt();
+        size.today = QDate::currentDate();
+        practica::fill(size);
         MODULE11::BaseDatos.close();
         return 0;
     } catch (const std::exception &error) {

@@ -145,6 +145,14 @@ constexpr const char *trasLosTamanos[] = {
     "CREATE UNIQUE INDEX idUnidadMedida ON UnidadMedidas (idUnidadMedida)",
 };
 
+// No rule asks for these; speed does. A visit on the screen asks for its examination by patient and day, a
+// visit deleted takes its rows by number, and a practice of years has a million of them: an index over the
+// patient alone leaves all rows of a child of many visits to be read, one over the day those of all children.
+constexpr const char *indicesDeVelocidad[] = {
+    "CREATE INDEX PacFecha ON ExFisico (idPaciente, Fecha)",
+    "CREATE INDEX idConsulta ON ExFisico (idConsulta)",
+};
+
 void ejecuta(const QString &sentencia)
 {
     basic::ignoringErrors([&] { BaseDatos.execute(sentencia); });
@@ -196,6 +204,7 @@ void ActualizaBase()
     alargaCampoDeTurnos(u"Coseguro"_s, 20);
     alargaCampoDeTurnos(u"Motivo"_s, 50);
     ejecuta(trasLosTamanos);
+    ejecuta(indicesDeVelocidad);
     reparaTipoDeUsuarios();
 }
 

@@ -1,0 +1,232 @@
+#include "practice.h"
+
+#include "clinical/visits/examen.h"
+#include "core/database/actualiza.h"
+#include "core/session/session.h"
+#include "core/session/startup.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <set>
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+using MODULE11::BaseDatos;
+
+namespace
+{
+
+const QDate today(2026, 3, 4);
+constexpr int patients = 60, visits = 600, examinations = 200, chronic = 80;
+
+/// A small practice, filled once.
+class SyntheticPractice : public testing::Test
+{
+protected:
+    static void SetUpTestSuite()
+    {
+        folder_ = std::make_unique<QTemporaryDir>();
+        const QString path = folder_->filePath(u"BASE.MDB"_s);
+        ASSERT_TRUE(QFile::copy(QStringLiteral(DELIVERED_BASE), path));
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+        MODULE11::valoresIniciales();
+        BaseDatos.open(path, false, false, MODULE11::conexionDeLaBase());
+        MODULE11::ActualizaBase();
+        practica::Size size;
+        size.patients = patients;
+        size.visits = visits;
+        size.examinations = examinations;
+        size.chronic = chronic;
+        size.today = today;
+        practica::fill(size);
+    }
+    static void TearDownTestSuite()
+    {
+        BaseDatos.close();
+        folder_.reset();
+    }
+
+    static dao::Recordset query(const QString &sql) { return BaseDatos.openRecordset(sql); }
+    static qint64 count(const QString &fromAndWhere)
+    {
+        return query(u"Select count(*) from "_s + fromAndWhere)[0].integer();
+    }
+
+    /// Name and doses by key.
+    struct Entry {
+        QString name;
+        std::array<QString, 3> doses;
+    };
+    static std::map<qint64, Entry> catalogue(const QString &table, const QString &key, bool doses)
+    {
+        std::map<qint64, Entry> entries;
+        for (dao::Recordset rows = query(u"Select * from "_s + table); !rows.eof(); rows.moveNext()) {
+            Entry &entry = entries[rows[key].integer()];
+            entry.name = rows[u"Descripcion"].text();
+            if (doses)
+                entry.doses = {rows[u"Dosis"].text(), rows[u"Intervalo"].text(), rows[u"Lapso"].text()};
+        }
+        return entries;
+    }
+
+private:
+    static inline std::unique_ptr<QTemporaryDir> folder_;
+};
+
+TEST_F(SyntheticPractice, HasTheVisitsAndExaminationsAskedFor)
+{
+    EXPECT_EQ(count(u"Consulta"_s), visits + chronic);
+    EXPECT_EQ(count(u"Consulta where paciente = 1"_s), chronic);
+
+    std::map<qint64, QStringList> titles;
+    for (dao::Recordset rows = query(u"Select * from ExFisico order by idExFisico"_s); !rows.eof();
+         rows.moveNext())
+        titles[rows[u"idConsulta"].integer()] += rows[u"Titulo"].text();
+    EXPECT_EQ(titles.size(), std::size_t{examinations + chronic});
+    std::map<int, QString> fields;
+    for (const examen::Item &item : examen::items())
+        fields[item.indice] = QString::fromUtf8(item.titulo);
+    QStringList inOrderOfTheFields;
+    for (const auto &[index, title] : fields)
+        inOrderOfTheFields += title;
+
+    QDate earliestExamined = today, latestOther;
+    for (dao::Recordset rows = query(u"Select * from Consulta"_s); !rows.eof(); rows.moveNext()) {
+        const auto examined = titles.find(rows[u"idConsulta"].integer());
+        if (examined != titles.end()) {
+            EXPECT_EQ(examined->second, inOrderOfTheFields);
+        }
+        if (rows[u"paciente"].integer() == 1) {
+            EXPECT_NE(examined, titles.end());
+        } else if (examined != titles.end())
+            earliestExamined = std::min(earliestExamined, rows[u"Fecha"].date().date());
+        else
+            latestOther = std::max(latestOther, rows[u"Fecha"].date().date());
+    }
+    EXPECT_GE(earliestExamined, latestOther);
+    EXPECT_EQ(count(u"ExFisico e inner join Consulta c on e.idConsulta = c.idConsulta "
+                    "where e.Fecha <> c.Fecha or e.Dr <> c.Dr or e.idPaciente <> c.paciente"_s),
+              0);
+}
+
+TEST_F(SyntheticPractice, SlotsResolveInTheCataloguesAndCopyTheirDoses)
+{
+    const struct {
+        QString name, id;
+        std::map<qint64, Entry> entries;
+    } groups[] = {
+        {u"Sintoma "_s, u"idSintoma"_s, catalogue(u"Sintomas"_s, u"idSintoma"_s, false)},
+        {u"Diagnostico "_s, u"idDiagnostico"_s, catalogue(u"DIAGPERSONALES"_s, u"idDiagPersonales"_s, false)},
+        {u"Tratamiento "_s, u"idTratamiento"_s, catalogue(u"Tratamientos"_s, u"idTratamiento"_s, true)},
+    };
+    int treated = 0, dosed = 0;
+    for (dao::Recordset rows = query(u"Select * from Consulta"_s); !rows.eof(); rows.moveNext())
+        for (const auto &group : groups)
+            for (int slot = 1; slot <= 5; ++slot) {
+                const QString digit = QString::number(slot);
+                const QString name = rows[group.name + digit].text();
+                ASSERT_EQ(rows[group.id + digit].isNull(), name.isEmpty());
+                if (name.isEmpty())
+                    continue;
+                const Entry &entry = group.entries.at(rows[group.id + digit].integer());
+                EXPECT_EQ(entry.name, name);
+                if (group.id != u"idTratamiento")
+                    continue;
+                ++treated;
+                dosed += entry.doses[0].isEmpty() ? 0 : 1;
+                const std::array copied = {rows[u"Dosis"_s + digit].text(),
+                                           rows[u"Intervalo"_s + digit].text(),
+                                           rows[u"Lapso"_s + digit].text()};
+                EXPECT_EQ(copied, entry.doses);
+                EXPECT_FALSE(copied[2].isEmpty()) << name.toStdString();
+            }
+    EXPECT_GT(treated, visits / 3);
+    EXPECT_GT(dosed, visits / 10);
+}
+
+TEST_F(SyntheticPractice, VisitsLieInTheirPatientsLives)
+{
+    std::map<QString, QString> prices;
+    for (dao::Recordset rows = query(u"Select * from [Obra Social]"_s); !rows.eof(); rows.moveNext())
+        prices[rows[u"Descripcion"].text()] = rows[u"Precio Consulta"].text();
+    int discharged = 0;
+    for (dao::Recordset patient = query(u"Select * from Pacientes"_s); !patient.eof(); patient.moveNext()) {
+        const QDate birth = patient[u"Fecha de Nacimiento"].date().date();
+        const bool left = !patient[u"FechaBaja"].isNull();
+        const QDate end = left ? std::min(today, patient[u"FechaBaja"].date().date()) : today;
+        discharged += left ? 1 : 0;
+        std::set<QDate> days;
+        dao::Recordset rows = query(
+            u"Select * from Consulta where paciente = %1 order by Fecha"_s.arg(patient[u"Numero"].text()));
+        for (; !rows.eof(); rows.moveNext()) {
+            const QDate day = rows[u"Fecha"].date().date();
+            EXPECT_GT(day, birth);
+            EXPECT_LE(day, end);
+            EXPECT_EQ(rows[u"Edad"].integer(), birth.daysTo(day));
+            EXPECT_EQ(rows[u"Tipo"].text(), days.empty() ? u"1ra."_s : u"Ulterior"_s);
+            EXPECT_TRUE(days.insert(day).second) << "two visits of a day show each other's findings";
+            EXPECT_EQ(rows[u"Monto"].text(), prices[patient[u"Obra Social"].text()]);
+            EXPECT_GT(rows[u"Peso"].number(), 1500);
+            EXPECT_GT(rows[u"Talla"].number(), 40);
+        }
+        const basic::Value last = patient[u"Ultima fecha visita"];
+        ASSERT_EQ(last.isNull(), days.empty());
+        if (!days.empty()) {
+            EXPECT_EQ(last.date().date(), *days.rbegin());
+        }
+    }
+    EXPECT_GT(discharged, 0) << "the practice is too small to show what follows a discharge";
+}
+
+TEST_F(SyntheticPractice, IsWhatAPaediatricianWouldWrite)
+{
+    std::set<qint64> antibiotics;
+    for (dao::Recordset rows =
+             query(u"Select idTratamiento from Tratamientos where Clasificacion = 'Antibióticos'"_s);
+         !rows.eof(); rows.moveNext())
+        antibiotics.insert(rows[0].integer());
+    int febrile = 0, onAntibiotics = 0;
+    for (dao::Recordset rows = query(u"Select * from Consulta"_s); !rows.eof(); rows.moveNext()) {
+        bool fever = false, antibiotic = false;
+        for (int slot = 1; slot <= 5; ++slot) {
+            const QString digit = QString::number(slot);
+            fever = fever || rows[u"Sintoma "_s + digit].text() == u"Fiebre";
+            antibiotic = antibiotic || antibiotics.contains(rows[u"idTratamiento"_s + digit].integer());
+            if (rows[u"Tratamiento "_s + digit].text() == u"Ibuprofeno") {
+                EXPECT_GE(rows[u"Edad"].integer(), 182);
+            }
+        }
+        const double temperature = basic::Value(rows[u"Temperatura"]).number();
+        EXPECT_EQ(temperature >= 38, fever);
+        EXPECT_TRUE(temperature >= 36 && temperature < 40);
+        febrile += fever ? 1 : 0;
+        onAntibiotics += antibiotic ? 1 : 0;
+        if (rows[u"Diagnostico 1"].text() == u"Niño sano") {
+            EXPECT_FALSE(antibiotic || fever);
+        }
+    }
+    EXPECT_GT(febrile, 0);
+    EXPECT_GT(onAntibiotics, 0);
+    const QString pressure = u"ExFisico e inner join Consulta c on e.idConsulta = c.idConsulta "
+                             "where e.Titulo LIKE '*TA*1' and e.Valor <> '' and c.Edad "_s;
+    EXPECT_EQ(count(pressure + u"< 1095"_s), 0);
+    EXPECT_GT(count(pressure + u">= 1095"_s), 0);
+}
+
+TEST_F(SyntheticPractice, RefusesMoreVisitsThanAChildhoodHasDays)
+{
+    practica::Size size;
+    size.patients = 1;
+    size.chronic = 9000;
+    size.today = today;
+    EXPECT_THROW(practica::fill(size), std::runtime_error);
+    EXPECT_EQ(count(u"Pacientes"_s), patients) << "refused before anything was written";
+}
+
+} // namespace
