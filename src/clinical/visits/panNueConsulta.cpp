@@ -37,6 +37,21 @@ const QStringList especialidades = {u"Alergia"_s,     u"Pediatría"_s,   u"Neona
                                     u"Obstetricia"_s, u"Cardiología"_s, u"Oftalmología"_s, u"Odontología"_s};
 constexpr const char *fichas[] = {"&1ro", "&2do", "&3ro"};
 
+/// The one that the workstation's doctor wrote down if it is one of the list, else that of the table of
+/// professionals.
+QString especialidadHabitual()
+{
+    QString especialidad = MODULE11::EspecialidadDr;
+    if (!especialidades.contains(especialidad))
+        basic::ignoringErrors([&] {
+            especialidad = MODULE11::BuscaCampo(
+                               u"Select * from profesionales where Nombre = '%1'"_s.arg(MODULE11::DrActual),
+                               u"Especialidad")
+                               .text();
+        });
+    return especialidad;
+}
+
 } // namespace
 
 panNueConsulta::panNueConsulta()
@@ -51,7 +66,7 @@ panNueConsulta::panNueConsulta()
         forms::setTag(&campo, QString::fromUtf8(item.titulo));
         campos_[static_cast<std::size_t>(item.marco) / examen::marcosPorFicha].push_back(&campo);
     }
-    comboEspecialidad.setValue(MODULE11::EspecialidadDr);
+    comboEspecialidad.setValue(especialidadHabitual());
     disponer();
     connect(&Command7, &QPushButton::clicked, this, &panNueConsulta::command7Click);
     connect(&Command8, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
@@ -70,7 +85,8 @@ void panNueConsulta::disponer()
                 Column{
                     lblPaciente,
                     Expanding(Row{
-                        Expanding(Column{datosDeLaVisita(), signos(), Expanding(listas.disposicion(ListasDeConsulta::Botones::AlLado))}),
+                        Expanding(Column{datosDeLaVisita(), signos(),
+                                         Expanding(listas.disposicion(ListasDeConsulta::Botones::AlLado))}),
                         Expanding(Tabs(SStab1, {ficha(0), ficha(1), ficha(2)})),
                     }),
                     Row{ayuda, Stretch(), Command7, Command8},
@@ -82,12 +98,12 @@ Item panNueConsulta::datosDeLaVisita()
 {
     mDato(cHora).setMaximumWidth(70);
     text9.setFixedHeight(text9.fontMetrics().lineSpacing() * 2 + 12);
-    return Group(
-        u"Consulta Resumida"_s,
-        Fields{{u"&Fecha :"_s,
-                Row{mFecha, Fields{{u"&Hora :"_s, mDato(cHora)}}, opciones.option3d1(0), opciones.option3d1(1), Stretch()}},
-               {u"Espec&ialidad :"_s, Row{comboEspecialidad, opciones.option3d2(0), opciones.option3d2(1), Stretch()}},
-               {u"&Motivo de la consulta :"_s, text9}});
+    return Group(u"Consulta Resumida"_s,
+                 Fields{{u"&Fecha :"_s, Row{mFecha, Fields{{u"&Hora :"_s, mDato(cHora)}},
+                                            opciones.option3d1(0), opciones.option3d1(1), Stretch()}},
+                        {u"Espec&ialidad :"_s,
+                         Row{comboEspecialidad, opciones.option3d2(0), opciones.option3d2(1), Stretch()}},
+                        {u"&Motivo de la consulta :"_s, text9}});
 }
 
 Item panNueConsulta::signos()

@@ -218,6 +218,7 @@ void Vademecum::actualizarPacientesDeHoy()
             lista->addWidget(&lblPac.add(i));
         forms::Label &nombre = lblPac(i);
         nombre.setCaption(turnos[u"Paciente"].text());
+        nombre.setWordWrap(true);
         nombre.setToolTip(nombre.caption());
         nombre.setCursor(Qt::PointingHandCursor);
         forms::setTag(&nombre, turnos[u"idPaciente"].text());

@@ -102,6 +102,8 @@ void Form::showModal()
     standInFrontOf(this, owner);
     if (!testAttribute(Qt::WA_Resized))
         adjustSize();
+    else
+        resize(size().expandedTo(minimumSizeHint())); // what showing it would come to, before it is centred
     if (!testAttribute(Qt::WA_Moved))
         centreOnScreen(this);
     state().modals.append(this);

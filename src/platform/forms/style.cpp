@@ -1,6 +1,9 @@
 #include "platform/forms/style.h"
 
+#include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
+#include <QEvent>
+#include <QPainter>
 #include <QStyleFactory>
 
 namespace forms
@@ -16,6 +19,29 @@ void Style::polish(QWidget *widget)
     QProxyStyle::polish(widget);
     if (auto *field = qobject_cast<QAbstractSpinBox *>(widget))
         field->setMinimumHeight(field->fontMetrics().height() + 11);
+    if (qobject_cast<QAbstractScrollArea *>(widget))
+        widget->installEventFilter(this);
+}
+
+/// A list or memo in use has the frame of a field in use: with the keyboard alone it must be seen where one
+/// is.
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                          const QWidget *widget) const
+{
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element != PE_Frame || !option->state.testFlag(State_HasFocus) ||
+        !qobject_cast<const QAbstractScrollArea *>(widget))
+        return;
+    painter->setPen(option->palette.color(QPalette::Highlight));
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+}
+
+/// The frame is painted anew with the focus, which the toolkit does for the contents only.
+bool Style::eventFilter(QObject *receiver, QEvent *event)
+{
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        static_cast<QWidget *>(receiver)->update();
+    return QProxyStyle::eventFilter(receiver, event);
 }
 
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
