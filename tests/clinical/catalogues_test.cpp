@@ -36,7 +36,6 @@ protected:
     {
         upgraded_ = std::make_unique<QTemporaryDir>();
         copyBase(QStringLiteral(DELIVERED_BASE), upgradedBase());
-        MODULE11::valoresIniciales();
         BaseDatos.open(upgradedBase(), false, false, MODULE11::conexionDeLaBase());
         MODULE11::ActualizaBase();
         BaseDatos.execute(u"Delete * from Usuarios"_s);
@@ -48,11 +47,13 @@ protected:
     {
         const QString path = folder_.filePath(u"BASE.MDB"_s);
         copyBase(upgradedBase(), path);
+        MODULE11::valoresIniciales();
         qputenv("SANIRELL_AJUSTES", folder_.path().toUtf8());
         BaseDatos.open(path, false, false, MODULE11::conexionDeLaBase());
     }
     void TearDown() override
     {
+        MODULE11::sinUsuario();
         BaseDatos.close();
         qunsetenv("SANIRELL_AJUSTES");
     }
@@ -86,6 +87,17 @@ void onceOpen(const std::function<void(forms::Form &)> &act)
             ADD_FAILURE() << "the window stays open";
             form->answer({});
         }
+    });
+}
+
+/// Closes the box that opens next and keeps what it says.
+void onceTold(QString &text)
+{
+    QTimer::singleShot(0, [&text] {
+        QWidget *box = QApplication::activeModalWidget();
+        text = forms::describeBox(box).value_or(forms::Box{}).text;
+        if (box)
+            box->close();
     });
 }
 
@@ -339,11 +351,7 @@ TEST_F(Catalogues, DiagnosisComesFromTheClassifierOfTheSetting)
     onceOpen([&](forms::Form &form) {
         auto &tree = control<forms::TreeView>(form, u"TreeView1"_s);
         tree.setCurrentItem(nodeOf(tree, u"Escarlatina"_s));
-        QTimer::singleShot(0, [&] {
-            QWidget *box = QApplication::activeModalWidget();
-            refusal = forms::describeBox(box).value_or(forms::Box{}).text;
-            box->close();
-        });
+        onceTold(refusal);
         press(form, u"Command1"_s);
     });
     EXPECT_FALSE(catalogos::eligeDiagnostico());
@@ -351,6 +359,32 @@ TEST_F(Catalogues, DiagnosisComesFromTheClassifierOfTheSetting)
 
     onceOpen([](forms::Form &form) { form.reject(); });
     EXPECT_FALSE(catalogos::eligeDiagnostico());
+
+    BaseDatos.execute(u"INSERT INTO Usuarios (Nombre, Clave, Nivel) VALUES ('Ana', 'a', 9)"_s);
+    BaseDatos.execute(u"INSERT INTO Niveles (Nivel, Descripcion) VALUES (9, 'Sin derechos')"_s);
+    MODULE11::UsuarioActual = u"Ana"_s;
+    MODULE11::NivelActual = 9;
+    onceTold(refusal);
+    EXPECT_FALSE(catalogos::eligeDiagnostico());
+    EXPECT_EQ(refusal, u"Nivel no permitido para el usuario Ana"_s);
+}
+
+TEST_F(Catalogues, ClassificationOpensAtTheNodeOfItsTag)
+{
+    onceOpen([](forms::Form &form) {
+        auto &tree = control<forms::TreeView>(form, u"TreeView1"_s);
+        const QTreeWidgetItem *cholera = nodeOf(tree, u"Cólera"_s);
+        EXPECT_EQ(tree.currentItem(), cholera);
+        EXPECT_TRUE(cholera->isSelected() && cholera->isExpanded() && cholera->font(0).bold());
+        EXPECT_EQ(cholera->childCount(), 3);
+        form.reject();
+    });
+    panCIE10 classification;
+    const int above =
+        one(u"Select count(*) from Clasificacion"_s).toInt() + one(u"Select count(*) from Grupos"_s).toInt();
+    classification.setTag(QString::number(above + 1)); // the first category
+    classification.showModal();
+    EXPECT_EQ(classification.tag(), u"NO"_s);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
 
+#include <QSet>
 #include <QSignalBlocker>
 
 #include <array>
@@ -118,17 +119,17 @@ void ArbolCIE10::agregar(int nivel, const QString &origen)
     const int id = filas.ordinal(n.id), texto = filas.ordinal(n.texto), padre = filas.ordinal(n.idPadre);
     QHash<QTreeWidgetItem *, QList<QTreeWidgetItem *>> hijos;
     for (; !filas.eof(); filas.moveNext()) {
+        QTreeWidgetItem *superior = nullptr;
+        if (nivel != Capitulos) {
+            superior = claves_.value(n.prefijoPadre.toString() + filas.value(padre).text());
+            if (!superior)
+                continue;
+        }
         const QString propia = filas.value(id).text();
-        QTreeWidgetItem *superior =
-            padre < 0 ? nullptr : claves_.value(n.prefijoPadre.toString() + filas.value(padre).text());
-        if (padre >= 0 && !superior)
+        if (nivel == Enfermedades && !agregadas_.insert(propia).second)
             continue;
-        if (n.prefijo.isEmpty() && enfermedades_.contains(propia))
-            continue;
-        if (n.prefijo.isEmpty())
-            enfermedades_.insert(propia);
-        hijos[superior].append(crear(filas.value(texto).text(),
-                                     n.prefijo.isEmpty() ? QString() : n.prefijo.toString() + propia));
+        const QString clave = nivel == Enfermedades ? QString() : n.prefijo.toString() + propia;
+        hijos[superior].append(crear(filas.value(texto).text(), clave));
     }
     for (auto [superior, nuevos] : hijos.asKeyValueRange())
         superior ? superior->addChildren(nuevos) : arbol_.addTopLevelItems(nuevos);

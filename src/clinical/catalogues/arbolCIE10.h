@@ -3,7 +3,8 @@
 #include "platform/forms/controls.h"
 
 #include <QHash>
-#include <QSet>
+
+#include <unordered_set>
 
 /// The classification as a tree: chapters, groups and categories from the start, the diseases of a category
 /// once it is opened or a search finds them. A disease has no key.
@@ -37,7 +38,7 @@ private:
     forms::TreeView &arbol_;
     std::vector<QTreeWidgetItem *> nodos_; ///< in order of creation
     QHash<QString, QTreeWidgetItem *> claves_;
-    QSet<QString> enfermedades_; ///< idDiagnostico of those in the tree
+    std::unordered_set<QString> agregadas_; ///< idDiagnostico of those in the tree
     std::vector<QTreeWidgetItem *> marcados_;
 };
 

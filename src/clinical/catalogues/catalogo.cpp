@@ -99,24 +99,34 @@ int Catalogo::filaDe(qint64 id) const
     return -1;
 }
 
-void Catalogo::llenar(qint64 idActual)
+void Catalogo::llenar()
 {
     const std::vector<Renglon> antes = elegidos();
-    const bool varios = List1.selectionMode() == QAbstractItemView::ExtendedSelection;
     {
         const QSignalBlocker silencio(List1);
         List1.clear();
         dao::Recordset filas = abrir();
         listar(filas);
         for (const Renglon &renglon : antes)
-            if (const int fila = filaDe(renglon.id); varios && fila >= 0)
-                List1.item(fila)->setSelected(true);
+            if (const int fila = filaDe(renglon.id); fila >= 0)
+                List1.setCurrentRow(fila, QItemSelectionModel::Select);
     }
-    const int fila = filaDe(idActual);
-    if (fila < 0)
+    if (!antes.empty() && elegidos().empty())
         mostrar(nullptr);
-    else
+}
+
+/// A filter may have left the row out; the fields then keep what they show.
+void Catalogo::elegirFila(qint64 id)
+{
+    const int fila = filaDe(id);
+    if (fila < 0)
+        return;
+    const bool varios = List1.selectionMode() == QAbstractItemView::ExtendedSelection;
+    {
+        const QSignalBlocker silencio(List1);
         List1.setCurrentRow(fila, varios ? QItemSelectionModel::Select : QItemSelectionModel::ClearAndSelect);
+    }
+    elegir();
 }
 
 /// A row that the focus alone has made the current one is not chosen.
@@ -180,7 +190,8 @@ void Catalogo::guardar()
         const QSignalBlocker silencio(List1);
         origen->setSelected(false);
     }
-    llenar(id);
+    llenar();
+    elegirFila(id);
 }
 
 void Catalogo::quitar()
@@ -198,4 +209,5 @@ void Catalogo::quitar()
 void Catalogo::trasBorrar()
 {
     llenar();
+    mostrar(nullptr);
 }

@@ -50,8 +50,10 @@ protected:
     virtual void trasBorrar();
 
     dao::Recordset abrir() const;
-    /// Fills the list anew; what was chosen stays so, and the row with this key becomes the current one.
-    void llenar(qint64 idActual = 0);
+    /// Fills the list anew. What was chosen and is still there stays so, and so do the fields, unless nothing
+    /// of it is left.
+    void llenar();
+    void elegirFila(qint64 id); ///< the row with this key, besides what is chosen where several may be
     void aceptar();
     void guardar();
     QString nombre() const { return mDato(0).text().trimmed(); }

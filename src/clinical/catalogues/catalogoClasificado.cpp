@@ -22,8 +22,7 @@ CatalogoClasificado::CatalogoClasificado(const QString &ventana, Tabla tabla, co
     Command5.setToolTip(u"Agrega lo escrito en el filtro a las clasificaciones"_s);
     connect(&Combo1, &QComboBox::activated, this, [this](int entrada) {
         ponerFiltro(Combo1.itemText(entrada));
-        const std::vector<Renglon> antes = elegidos();
-        llenar(antes.empty() ? 0 : antes.front().id);
+        llenar();
     });
     connect(&Command5, &QPushButton::clicked, this, &CatalogoClasificado::agregarClasificacion);
 }

@@ -2,7 +2,6 @@
 
 #include "clinical/catalogues/panBuscaInternet.h"
 #include "core/services/services.h"
-#include "platform/basic/runtime.h"
 #include "platform/forms/layout.h"
 
 #include <QKeyEvent>
@@ -65,8 +64,7 @@ void panCIE10::cargar()
 /// Where the caller says, else at the first chapter; nothing is chosen by that.
 void panCIE10::irAlComienzo()
 {
-    const std::optional<double> indice = basic::toNumber(tag());
-    QTreeWidgetItem *pedido = indice ? arbol_.nodo(static_cast<int>(*indice)) : nullptr;
+    QTreeWidgetItem *pedido = arbol_.nodo(tag().toInt());
     if (pedido)
         arbol_.marcar(*pedido);
     const QSignalBlocker silencio(TreeView1);

@@ -58,11 +58,12 @@ void panSintomas::nuevo()
     registrado[u"Descripcion"] = sintoma;
     registrado.update();
     registrado.setBookmark(registrado.lastModified());
-    llenar(registrado[u"idSintoma"].integer());
+    llenar();
+    elegirFila(registrado[u"idSintoma"].integer());
 }
 
 void panSintomas::trasBorrar()
 {
     if (MODULE11::Pregunta(u"Actualiza Tabla ahora"_s))
-        llenar();
+        Catalogo::trasBorrar();
 }

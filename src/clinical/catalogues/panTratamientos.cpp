@@ -45,8 +45,8 @@ panTratamientos::panTratamientos()
                           u"ClasTratamiento"_s)
 {
     setWindowTitle(u"Tratamientos y medicación"_s);
-    for (Label *texto : {&Label4, &Label5, &SSPanel1})
-        texto->setWordWrap(true);
+    Label5.setReadOnly(true);
+    SSPanel1.setWordWrap(true);
     SSPanel1.setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     SSPanel1.setMargin(4);
     Picture2.hide();
@@ -71,7 +71,7 @@ Item panTratamientos::fichaTratamiento()
 
 Item panTratamientos::fichaProducto()
 {
-    return Column{Fields{{u"Nombre comercial :"_s, Label4}, {u"Detalles :"_s, Label5}}, Picture2, Stretch()};
+    return Column{Expanding(Fields{{u"Nombre comercial :"_s, Label4}, {u"D&etalles :"_s, Label5}}), Picture2};
 }
 
 void panTratamientos::setPaciente(const QString &numero)
@@ -123,8 +123,14 @@ void panTratamientos::mostrar(dao::Recordset *fila)
 void panTratamientos::mostrarProducto(dao::Recordset *fila)
 {
     Label4.setCaption(fila ? (*fila)[u"NOMBRECOMERCIAL"].text() : QString());
-    Label5.setCaption(fila ? (*fila)[u"DETALLES"].text() : QString());
+    Label5.setPlainText(fila ? (*fila)[u"DETALLES"].text() : QString());
     mostrarImagen(fila ? (*fila)[u"IMAGEN"].value() : basic::Null{});
+}
+
+void panTratamientos::nuevo()
+{
+    SSTab1.setCurrentIndex(0); // where the name is written
+    CatalogoClasificado::nuevo();
 }
 
 /// Below the program's folder where it is no full path. A file that is no picture is as one that is missing.

@@ -17,6 +17,7 @@ protected:
     bool queryUnload() override;
     void listar(dao::Recordset &filas) override;
     void mostrar(dao::Recordset *fila) override;
+    void nuevo() override;
 
 private:
     forms::Item fichaTratamiento();
@@ -27,7 +28,7 @@ private:
 
     forms::SSTab SSTab1{QStringLiteral("SSTab1")};
     forms::Label Label4{QStringLiteral("Label4")};
-    forms::Label Label5{QStringLiteral("Label5")};
+    forms::MemoBox Label5{QStringLiteral("Label5")};
     forms::Label Picture2{QStringLiteral("Picture2")};
     forms::Label SSPanel1{QStringLiteral("SSPanel1")};
     bool tecleado_ = false;
