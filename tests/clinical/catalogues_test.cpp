@@ -1,12 +1,11 @@
+#include "delivered.h"
+
 #include "clinical/catalogues/arbolCIE10.h"
 #include "clinical/catalogues/buscaInternet.h"
 #include "clinical/catalogues/dosis.h"
 #include "clinical/catalogues/eleccion.h"
 #include "clinical/catalogues/panCIE10.h"
 #include "clinical/catalogues/panTratamientos.h"
-#include "core/database/actualiza.h"
-#include "core/session/session.h"
-#include "core/session/startup.h"
 #include "platform/forms/boxes.h"
 #include "platform/settings/settings.h"
 
@@ -14,12 +13,9 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <functional>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 using catalogos::dosisParaElPaciente;
@@ -28,52 +24,14 @@ using MODULE11::BaseDatos;
 namespace
 {
 
-/// A delivered and upgraded file, opened as the session's.
-class Catalogues : public testing::Test
+class Catalogues : public DeliveredBase
 {
 protected:
-    static void SetUpTestSuite()
-    {
-        upgraded_ = std::make_unique<QTemporaryDir>();
-        copyBase(QStringLiteral(DELIVERED_BASE), upgradedBase());
-        BaseDatos.open(upgradedBase(), false, false, MODULE11::conexionDeLaBase());
-        MODULE11::ActualizaBase();
-        BaseDatos.execute(u"Delete * from Usuarios"_s);
-        BaseDatos.close();
-    }
-    static void TearDownTestSuite() { upgraded_.reset(); }
-
     void SetUp() override
     {
-        const QString path = folder_.filePath(u"BASE.MDB"_s);
-        copyBase(upgradedBase(), path);
-        MODULE11::valoresIniciales();
-        qputenv("SANIRELL_AJUSTES", folder_.path().toUtf8());
-        BaseDatos.open(path, false, false, MODULE11::conexionDeLaBase());
+        DeliveredBase::SetUp();
+        run({"Delete * from Usuarios"});
     }
-    void TearDown() override
-    {
-        MODULE11::sinUsuario();
-        BaseDatos.close();
-        qunsetenv("SANIRELL_AJUSTES");
-    }
-
-    static QString one(const QString &sql)
-    {
-        dao::Recordset rows = BaseDatos.openRecordset(sql);
-        return rows.eof() ? u"<nada>"_s : rows[0].text();
-    }
-
-    static QString upgradedBase() { return upgraded_->filePath(u"BASE.MDB"_s); }
-    static void copyBase(const QString &from, const QString &to)
-    {
-        ASSERT_TRUE(QFile::copy(from, to));
-        ASSERT_TRUE(QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner));
-    }
-
-private:
-    static inline std::unique_ptr<QTemporaryDir> upgraded_;
-    QTemporaryDir folder_;
 };
 
 /// What a person does in the window that opens next.
@@ -346,13 +304,23 @@ TEST_F(Catalogues, DiagnosisComesFromTheClassifierOfTheSetting)
     EXPECT_EQ(QString::number(disease->id),
               one(u"Select idDiagnosticoCIE from Diagnosticos where idDiagnostico = 'B01.9'"_s));
 
-    // a category bears the text of its only disease, and is none
+    // a disease is known by its text: a category that bears its only disease's stands for it, no other does
+    const auto take = [](const QString &text) {
+        return [text](forms::Form &form) {
+            auto &tree = control<forms::TreeView>(form, u"TreeView1"_s);
+            tree.setCurrentItem(nodeOf(tree, text));
+            press(form, u"Command1"_s);
+        };
+    };
+    onceOpen(take(u"Escarlatina"_s));
+    const auto only = catalogos::eligeDiagnostico();
+    ASSERT_TRUE(only);
+    EXPECT_EQ(QString::number(only->id),
+              one(u"Select idDiagnosticoCIE from Diagnosticos where idDiagnostico = 'A38'"_s));
     QString refusal;
     onceOpen([&](forms::Form &form) {
-        auto &tree = control<forms::TreeView>(form, u"TreeView1"_s);
-        tree.setCurrentItem(nodeOf(tree, u"Escarlatina"_s));
         onceTold(refusal);
-        press(form, u"Command1"_s);
+        take(u"Cólera"_s)(form);
     });
     EXPECT_FALSE(catalogos::eligeDiagnostico());
     EXPECT_EQ(refusal, u"Seleccione una enfermedad o patología de la última ramificación dentro del CIE10"_s);

@@ -188,6 +188,28 @@ void ArbolCIE10::marcar(QTreeWidgetItem &nodo)
     nodo.setExpanded(true);
 }
 
+void ArbolCIE10::irAMarca(Sentido sentido)
+{
+    if (marcados_.empty())
+        return;
+    QTreeWidgetItem *const desde = arbol_.currentItem() ? arbol_.currentItem() : arbol_.topLevelItem(0);
+    QTreeWidgetItem *nodo = desde;
+    do {
+        nodo = sentido == Siguiente ? arbol_.itemBelow(nodo) : arbol_.itemAbove(nodo);
+        if (!nodo)
+            nodo = sentido == Siguiente ? arbol_.topLevelItem(0) : ultimoALaVista();
+    } while (nodo != desde && !nodo->font(0).bold());
+    arbol_.setCurrentItem(nodo);
+}
+
+QTreeWidgetItem *ArbolCIE10::ultimoALaVista() const
+{
+    QTreeWidgetItem *nodo = arbol_.topLevelItem(arbol_.topLevelItemCount() - 1);
+    while (nodo->isExpanded() && nodo->childCount() > 0)
+        nodo = nodo->child(nodo->childCount() - 1);
+    return nodo;
+}
+
 QTreeWidgetItem *ArbolCIE10::buscar(const QString &texto)
 {
     basic::ignoringErrors([&] {

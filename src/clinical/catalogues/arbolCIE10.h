@@ -24,6 +24,9 @@ public:
     /// marked becomes the current one; null when there is none, which leaves the tree collapsed.
     QTreeWidgetItem *buscar(const QString &texto);
     void marcar(QTreeWidgetItem &nodo); ///< bold and open
+    enum Sentido { Siguiente, Anterior };
+    /// Makes the nearest marked node in sight the current one, and after the last the first.
+    void irAMarca(Sentido sentido);
     /// By its place in the order of creation, from 1; null out of range.
     QTreeWidgetItem *nodo(int indice) const;
 
@@ -34,6 +37,7 @@ private:
     QTreeWidgetItem *crear(const QString &texto, const QString &clave);
     void abrirCategorias(const std::vector<QTreeWidgetItem *> &nodos);
     void ponerALaVista();
+    QTreeWidgetItem *ultimoALaVista() const;
 
     forms::TreeView &arbol_;
     std::vector<QTreeWidgetItem *> nodos_; ///< in order of creation

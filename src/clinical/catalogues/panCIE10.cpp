@@ -86,7 +86,10 @@ void panCIE10::keyPressEvent(QKeyEvent *event)
         return;
     }
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!enter || !TreeView1.hasFocus())
+    if (event->key() == Qt::Key_F3)
+        arbol_.irAMarca(event->modifiers().testFlag(Qt::ShiftModifier) ? ArbolCIE10::Anterior
+                                                                       : ArbolCIE10::Siguiente);
+    else if (!enter || !TreeView1.hasFocus())
         Form::keyPressEvent(event);
     else if (const QTreeWidgetItem *nodo = TreeView1.currentItem(); nodo && ArbolCIE10::esEnfermedad(*nodo))
         aceptar();
@@ -110,10 +113,7 @@ void panCIE10::aceptar()
     const QString texto = Text1.text();
     if (texto.isEmpty())
         return;
-    const QTreeWidgetItem *nodo = TreeView1.currentItem();
-    const bool rama =
-        nodo && nodo->isSelected() && nodo->text(0) == texto && !ArbolCIE10::esEnfermedad(*nodo);
-    forms::setTag(&TreeView1, rama ? QString() : catalogos::idDiagnosticoCIE(texto));
+    forms::setTag(&TreeView1, catalogos::idDiagnosticoCIE(texto));
     answer(texto);
 }
 
