@@ -2,7 +2,6 @@
 
 #include "clinical/visits/consulta.h"
 #include "clinical/visits/examen.h"
-#include "core/security/eventos.h"
 #include "platform/basic/errors.h"
 
 #include <set>
@@ -92,8 +91,8 @@ TEST_F(Visits, KeepFiveOfEachGroupWithTheirIdsAndDoses)
     Visita full = visit();
     const qint64 paracetamol =
         one(u"Select idTratamiento from Tratamientos where Descripcion = 'Paracetamol'"_s).toLongLong();
-    full.renglones[Tratamientos] = {
-        {u"Propio"_s, 0}, {}, {u"Paracetamol"_s, paracetamol}, {u"D"_s, 4}, {u"E"_s, 5}, {u"F"_s, 6}};
+    full.renglones[Tratamientos] = {{u"Propio"_s, 0}, {},          {u"Paracetamol"_s, paracetamol},
+                                    {u"D"_s, 4},      {u"E"_s, 5}, {u"F"_s, 6}};
     full.renglones[Sintomas] = {{u"Fiebre"_s, 11}};
     registrarConsulta(u"5"_s, full);
     EXPECT_EQ(ofVisit(u"[Tratamiento 5]"_s), u"E"_s);
@@ -130,10 +129,4 @@ TEST_F(Visits, AreNotLostUnseen)
     EXPECT_EQ(one(u"Select count(*) from Eventos where Proceso = 'NUEVA CONSULTA '"_s), u"1"_s);
     run({"DROP TABLE Consulta"});
     EXPECT_THROW(registrarConsulta(u"5"_s, visit()), basic::Error);
-}
-
-TEST_F(Visits, AuditKeepsTheStartOfALongEvent)
-{
-    MODULE11::RegistraEvento(u"EDICION DE CONSULTA "_s, QString(300, u'x'));
-    EXPECT_EQ(one(u"Select len(Suceso) from Eventos"_s), u"255"_s);
 }

@@ -2,11 +2,15 @@
 #include "core/security/alarmas.h"
 #include "core/security/eventos.h"
 #include "core/security/niveles.h"
+#include "core/security/permisos.h"
 #include "platform/basic/environment.h"
 #include "platform/forms/colour.h"
+#include "platform/forms/form.h"
 #include "platform/forms/tag.h"
 
+#include <QApplication>
 #include <QLabel>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -95,9 +99,33 @@ TEST_F(AccesoTest, EachEventIsARowAndALogThatFailsStopsNobody)
     MODULE11::RegistraEvento(u"AgregarPacientes"_s, u"INGRESO CORRECTO"_s);
     EXPECT_EQ(filas("Select * from Eventos"),
               u"AgregarPacientes,O'Higgins,15/03/2024,09:05,INGRESO CORRECTO"_s);
-    EXPECT_NO_THROW(MODULE11::RegistraEvento(u"BAJA"_s, QString(300, u'x')));
+    MODULE11::RegistraEvento(u"BAJA"_s, QString(300, u'x'));
+    EXPECT_EQ(filas("Select len(Suceso) from Eventos where Proceso = 'BAJA'"), u"255"_s)
+        << "its start is kept";
     ejecutar({"DROP TABLE Eventos"});
     EXPECT_NO_THROW(MODULE11::RegistraEvento(u"BAJA"_s, u"x"_s));
+}
+
+TEST_F(AccesoTest, ProfessionalsSeeThePatientsThatTheirPolicyAllows)
+{
+    ejecutar({"CREATE TABLE Profesionales (idProfesional LONG, Nombre TEXT(50), TipoPermiso TEXT(1))",
+              "INSERT INTO Profesionales VALUES (1, 'Uno', 'U')",
+              "INSERT INTO Profesionales VALUES (2, 'Dos', 'T')",
+              "INSERT INTO Profesionales (idProfesional, Nombre) VALUES (3, 'Tres')"});
+    const auto filtro = [](const QString &nombre) {
+        MODULE11::DrActual = nombre;
+        return MODULE11::FiltroDePacientes();
+    };
+    EXPECT_EQ(filtro(u"Uno"_s), u" idProfesional = 1 "_s);
+    for (const QString &todos : {u"Dos"_s, u"Nadie"_s, u"Dra. O'Higgins"_s})
+        EXPECT_EQ(filtro(todos), u" true "_s) << todos.toStdString();
+    bool avisado = false;
+    QTimer::singleShot(0, qApp, [&] {
+        avisado = forms::topModal() == nullptr && QApplication::activeModalWidget();
+        QApplication::activeModalWidget()->close();
+    });
+    EXPECT_FALSE(filtro(u"Tres"_s));
+    EXPECT_TRUE(avisado);
 }
 
 TEST_F(AccesoTest, GatesAskTheColumnOfTheUsersLevel)

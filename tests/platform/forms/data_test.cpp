@@ -2,6 +2,7 @@
 #include "platform/dao/database.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/data.h"
+#include "platform/forms/databar.h"
 #include "platform/forms/dbgrid.h"
 
 #include <QApplication>
@@ -198,6 +199,68 @@ TEST_F(DataTest, gridStaysOnARowThatCannotBeWritten)
     EXPECT_TRUE(told);
     EXPECT_EQ(grid.currentRow(), 0);
     EXPECT_EQ(price.text(), u"caro"_s);
+}
+
+TEST_F(DataTest, patternIsOnlyForTheEye)
+{
+    database.execute(u"UPDATE Articulos SET Alta = cdate('10:30:45') WHERE id < 3"_s);
+    forms::TextBox hour(u"mDato(2)"_s);
+    data.bind(hour, u"Alta"_s, u"HH:MM"_s);
+    data.refresh();
+    EXPECT_EQ(hour.text(), u"10:30"_s);
+    name.setText(u"Algodón"_s);
+    moveTo(1);
+    EXPECT_EQ(stored(0, u"Alta").text(), u"10:30:45"_s) << "what was not typed is not written";
+    hour.setText(u"7:05"_s);
+    moveTo(2);
+    EXPECT_EQ(stored(1, u"Alta").text(), u"07:05:00"_s);
+    EXPECT_EQ(hour.text(), QString());
+    hour.setText(u"25:00"_s);
+    EXPECT_NE(errorOf([&] { moveTo(0); }), 0);
+    EXPECT_EQ(hour.text(), u"25:00"_s);
+}
+
+TEST_F(DataTest, barStepsThroughTheRowsAndKnowsTheirEnds)
+{
+    forms::DataBar bar(data);
+    const auto button = [&](const QString &step) { return bar.findChild<QToolButton *>(u"Data1"_s + step); };
+    const auto steps = [&] {
+        QString enabled;
+        for (const QString &step : {u"Primero"_s, u"Anterior"_s, u"Siguiente"_s, u"Ultimo"_s})
+            enabled += button(step)->isEnabled() ? step.at(0) : u'-';
+        return enabled;
+    };
+    EXPECT_EQ(steps(), u"----"_s);
+    data.refresh();
+    EXPECT_EQ(steps(), u"--SU"_s);
+    button(u"Siguiente"_s)->click();
+    EXPECT_EQ(name.text(), u"Jeringa"_s);
+    EXPECT_EQ(steps(), u"PASU"_s);
+    button(u"Ultimo"_s)->click();
+    EXPECT_EQ(name.text(), u"Venda"_s);
+    EXPECT_EQ(steps(), u"PA--"_s);
+    name.setText(u"Vendaje"_s);
+    button(u"Primero"_s)->click();
+    EXPECT_EQ(stored(2, u"Nombre").text(), u"Vendaje"_s);
+    data.setRecordSource(u"Select * from Articulos where False"_s);
+    data.refresh();
+    EXPECT_EQ(steps(), u"----"_s);
+}
+
+TEST_F(DataTest, editIsTheWholeRowOrNothingOfIt)
+{
+    dao::Recordset rows = database.openRecordset(u"Select * from Articulos order by id"_s);
+    EXPECT_NE(errorOf([&] {
+                  rows.edit([&] {
+                      rows[u"Nombre"] = u"Otra";
+                      rows[u"Precio"] = u"caro";
+                  });
+              }),
+              0);
+    EXPECT_EQ(rows.editMode(), dao::Recordset::EditMode::None);
+    EXPECT_EQ(rows[u"Nombre"].text(), u"Gasa"_s);
+    rows.edit([&] { rows[u"Nombre"] = u"Otra"; });
+    EXPECT_EQ(stored(0, u"Nombre").text(), u"Otra"_s);
 }
 
 TEST_F(DataTest, gridOutlivesItsData)

@@ -99,6 +99,21 @@ TEST(Form, answeringWhileItActivatesReturnsAtOnce)
     EXPECT_EQ(form.tag(), u"YA"_s);
 }
 
+TEST(Form, opensInTheMiddleInTheSizeThatItsContentsNeed)
+{
+    Counting form(u"panAncha"_s);
+    forms::Label wide(u"Label1"_s, QString(45, u'W'));
+    forms::setContents(&form, forms::Column{wide});
+    form.resize(100, 50);
+    whileWaiting([&] {
+        const QRect room = form.screen()->availableGeometry();
+        EXPECT_GT(form.width(), 400);
+        EXPECT_NEAR(form.geometry().center().x(), room.center().x(), 8);
+        form.answer(u"SI"_s);
+    });
+    form.showModal();
+}
+
 TEST(Form, refusesToCloseWhileQueryUnloadSaysSo)
 {
     Counting form(u"panPrueba"_s);
