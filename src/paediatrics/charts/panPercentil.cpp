@@ -59,7 +59,7 @@ void panPercentil::load()
 void panPercentil::activate()
 {
     if (tag() == todos)
-        dibujarTodos();
+        MODULE11::BaseDatos.readTogether([this] { dibujarTodos(); });
     else if (!tag().isEmpty())
         dibujarPaciente();
 }

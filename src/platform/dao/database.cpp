@@ -172,6 +172,23 @@ void Database::commitTrans()
     d_->endBatch();
 }
 
+void Database::readTogether(const std::function<void()> &loop)
+{
+    Engine &engine = d_->engine();
+    if (engine.inTransaction()) {
+        loop();
+        return;
+    }
+    engine.beginRead();
+    try {
+        loop();
+    } catch (...) {
+        engine.rollback();
+        throw;
+    }
+    engine.commit();
+}
+
 QStringList Database::check()
 {
     return d_->engine().check();

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -51,6 +52,10 @@ public:
     /// made, and what was committed stands if the job stops midway. Nesting is counted.
     void beginTrans(int batchRows = 1000);
     void commitTrans();
+
+    /// Runs a loop that reads many rows under one lock of the file instead of one a row: it sees the file as
+    /// it is at its start, and other stations write after it. It must not write, nor wait for a person.
+    void readTogether(const std::function<void()> &loop);
 
     /// The open file's pages and rows are consistent: an empty list; otherwise what is wrong, in words.
     QStringList check();

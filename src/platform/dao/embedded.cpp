@@ -256,6 +256,11 @@ void EmbeddedEngine::begin()
     run("BEGIN IMMEDIATE");
 }
 
+void EmbeddedEngine::beginRead()
+{
+    run("BEGIN");
+}
+
 void EmbeddedEngine::commit()
 {
     run("COMMIT");

@@ -29,6 +29,7 @@ public:
     qint64 lastKey() override;
     qint64 changes() override;
     void begin() override;
+    void beginRead() override;
     void commit() override;
     void rollback() noexcept override;
     bool inTransaction() const override;

@@ -70,7 +70,8 @@ public:
     virtual qint64 lastKey() = 0; ///< the key of the row inserted last
     virtual qint64 changes() = 0; ///< rows that the last statement changed
 
-    virtual void begin() = 0; ///< a transaction that may write from its first statement on
+    virtual void begin() = 0;     ///< a transaction that may write from its first statement on
+    virtual void beginRead() = 0; ///< a transaction that holds the file as it is at its first read
     virtual void commit() = 0;
     virtual void rollback() noexcept = 0;
     virtual bool inTransaction() const = 0;

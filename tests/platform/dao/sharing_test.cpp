@@ -73,6 +73,36 @@ TEST_F(DaoTest, fourStationsWriteAtOnceAndNothingIsLost)
     EXPECT_TRUE(db.check().isEmpty());
 }
 
+TEST_F(DaoTest, aLoopThatReadsTogetherSeesOneStateAndLetsOthersWriteAfterIt)
+{
+    run({"CREATE TABLE Cuenta (n LONG)", "INSERT INTO Cuenta VALUES (1)"});
+    const auto rows = [&] { return db.openRecordset("Select count(*) from Cuenta").value(0).integer(); };
+    db.close(); // a child must not inherit what its parent has locked
+    int signal[2];
+    ASSERT_EQ(pipe(signal), 0);
+    const pid_t station = inChild([&] {
+        char started = 0;
+        [[maybe_unused]] const auto got = read(signal[0], &started, 1);
+        dao::Database own;
+        own.open(path(), false, false, QString::fromUtf16(connect));
+        own.execute("INSERT INTO Cuenta VALUES (2)");
+    });
+    db.open(path(), false, false, QString::fromUtf16(connect));
+    db.readTogether([&] {
+        EXPECT_EQ(rows(), 1);
+        ASSERT_EQ(write(signal[1], "x", 1), 1);
+        usleep(400'000); // the other opens the file in half of that
+        db.readTogether([&] { EXPECT_EQ(rows(), 1); });
+    });
+    int status = 1;
+    waitpid(station, &status, 0);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(rows(), 2);
+    EXPECT_THROW(db.readTogether([&] { db.openRecordset("Select * from NoEsta"); }), dao::Error);
+    run({"INSERT INTO Cuenta VALUES (3)"}); // nothing was left open
+    EXPECT_EQ(rows(), 3);
+}
+
 TEST_F(DaoTest, aProcessKilledWhileWritingLosesNothingAcknowledged)
 {
     run({"CREATE TABLE T (n LONG, Texto MEMO)", "CREATE UNIQUE INDEX PrimaryKey ON T (n) WITH PRIMARY"});
