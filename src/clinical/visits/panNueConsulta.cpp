@@ -27,7 +27,7 @@ struct Campo {
 };
 constexpr Campo signosDelForm[] = {{"&Pulso :", 20},
                                    {"T&emperatura :", 20},
-                                   {"Respirac&ión :", 20},
+                                   {"Re&spiración :", 20},
                                    {"Ta&lla (Cm) :", 0},
                                    {"Pes&o (Gr) :", 0}};
 
@@ -70,7 +70,8 @@ void panNueConsulta::disponer()
                 Column{
                     lblPaciente,
                     Expanding(Row{
-                        Expanding(Column{datosDeLaVisita(), signos(), Expanding(listas.disposicion(ListasDeConsulta::Botones::AlLado))}),
+                        Expanding(Column{datosDeLaVisita(), signos(),
+                                         Expanding(listas.disposicion(ListasDeConsulta::Botones::AlLado))}),
                         Expanding(Tabs(SStab1, {ficha(0), ficha(1), ficha(2)})),
                     }),
                     Row{ayuda, Stretch(), Command7, Command8},
@@ -82,12 +83,12 @@ Item panNueConsulta::datosDeLaVisita()
 {
     mDato(cHora).setMaximumWidth(70);
     text9.setFixedHeight(text9.fontMetrics().lineSpacing() * 2 + 12);
-    return Group(
-        u"Consulta Resumida"_s,
-        Fields{{u"&Fecha :"_s,
-                Row{mFecha, Fields{{u"&Hora :"_s, mDato(cHora)}}, opciones.option3d1(0), opciones.option3d1(1), Stretch()}},
-               {u"Espec&ialidad :"_s, Row{comboEspecialidad, opciones.option3d2(0), opciones.option3d2(1), Stretch()}},
-               {u"&Motivo de la consulta :"_s, text9}});
+    return Group(u"Consulta Resumida"_s,
+                 Fields{{u"&Fecha :"_s, Row{mFecha, Fields{{u"&Hora :"_s, mDato(cHora)}},
+                                            opciones.option3d1(0), opciones.option3d1(1), Stretch()}},
+                        {u"Espec&ialidad :"_s,
+                         Row{comboEspecialidad, opciones.option3d2(0), opciones.option3d2(1), Stretch()}},
+                        {u"&Motivo de la consulta :"_s, text9}});
 }
 
 Item panNueConsulta::signos()
@@ -164,13 +165,22 @@ void panNueConsulta::keyPressEvent(QKeyEvent *evento)
     if (entrar && evento->modifiers().testFlag(Qt::ControlModifier))
         command7Click();
     else if (entrar)
-        focusNextPrevChild(true);
+        irAlCampoSiguiente();
     else if (evento->key() == Qt::Key_F2)
         anotarNormal();
     else if (evento->key() == Qt::Key_F3)
         listas.agregar(listas.conFoco());
     else
         Form::keyPressEvent(evento);
+}
+
+/// The commands of a list are stepped over: a visit without symptoms is typed through without opening the
+/// catalogue.
+void panNueConsulta::irAlCampoSiguiente()
+{
+    do
+        focusNextPrevChild(true);
+    while (listas.comandoConFoco());
 }
 
 /// Most of what is examined is normal: one key notes it and goes on.
@@ -191,7 +201,8 @@ void panNueConsulta::command7Click()
             continue;
         msgBox(u"Dato mal ingresado !!"_s, Icon::Critical, u"Error"_s);
         Text3(signo).setText(u"0"_s);
-        Text3(signo).setFocus(Qt::TabFocusReason);
+        Text3(signo).setFocus();
+        Text3(signo).selectAll(); // so that what is typed next replaces it
         return;
     }
     answer(u"SI"_s);
