@@ -112,6 +112,8 @@ void click(QWidget *widget, Click kind)
         widget->setFocus(Qt::MouseFocusReason);
     if (auto *view = qobject_cast<QAbstractItemView *>(widget))
         clickAt(view->viewport(), rowPlace(view), kind);
+    else if (qobject_cast<QDateTimeEdit *>(widget)) // its text covers its middle
+        clickAt(typingPart(widget), naturalPlace(typingPart(widget)), kind);
     else
         clickAt(widget, naturalPlace(widget), kind);
 }

@@ -15,7 +15,7 @@ struct Aspecto {
     const char *titulo, *completa;
 };
 constexpr Aspecto aspectos[] = {
-    {"&Síntomas", "No se admiten mas de cinco sintomas"},
+    {"Sín&tomas", "No se admiten mas de cinco sintomas"},
     {"T&ratamientos", "No se admiten mas de cinco tratamientos"},
     {"&Diagnósticos", "No se admiten mas de cinco Diagnósticos"},
 };
@@ -141,6 +141,12 @@ int ListasDeConsulta::conFoco() const
         if (listas_[grupo]->hasFocus() || Command1(grupo).hasFocus() || Command2(grupo).hasFocus())
             return grupo;
     return -1;
+}
+
+bool ListasDeConsulta::comandoConFoco() const
+{
+    const int grupo = conFoco();
+    return grupo >= 0 && !listas_[static_cast<std::size_t>(grupo)]->hasFocus();
 }
 
 bool ListasDeConsulta::eventFilter(QObject *receptor, QEvent *evento)

@@ -25,11 +25,12 @@ public:
     void agregarRenglon(consultas::Grupo grupo, const Renglon &renglon);
     std::vector<Renglon> renglones(consultas::Grupo grupo) const;
 
-    /// Adds to the list with this index from its catalogue, as its command does; another index is refused with
-    /// a message.
+    /// Adds to the list with this index from its catalogue, as its command does; another index is refused
+    /// with a message.
     void agregar(int indice);
     /// The list that has the focus, itself or one of its commands; -1 for none.
     int conFoco() const;
+    bool comandoConFoco() const;
 
 signals:
     void agregados(int grupo, const QStringList &nombres);

@@ -27,7 +27,7 @@ struct Campo {
 };
 constexpr Campo signosDelForm[] = {{"&Pulso :", 20},
                                    {"T&emperatura :", 20},
-                                   {"Respirac&ión :", 20},
+                                   {"Re&spiración :", 20},
                                    {"Ta&lla (Cm) :", 0},
                                    {"Pes&o (Gr) :", 0}};
 
@@ -180,13 +180,22 @@ void panNueConsulta::keyPressEvent(QKeyEvent *evento)
     if (entrar && evento->modifiers().testFlag(Qt::ControlModifier))
         command7Click();
     else if (entrar)
-        focusNextPrevChild(true);
+        irAlCampoSiguiente();
     else if (evento->key() == Qt::Key_F2)
         anotarNormal();
     else if (evento->key() == Qt::Key_F3)
         listas.agregar(listas.conFoco());
     else
         Form::keyPressEvent(evento);
+}
+
+/// The commands of a list are stepped over: a visit without symptoms is typed through without opening the
+/// catalogue.
+void panNueConsulta::irAlCampoSiguiente()
+{
+    do
+        focusNextPrevChild(true);
+    while (listas.comandoConFoco());
 }
 
 /// Most of what is examined is normal: one key notes it and goes on.
@@ -207,7 +216,8 @@ void panNueConsulta::command7Click()
             continue;
         msgBox(u"Dato mal ingresado !!"_s, Icon::Critical, u"Error"_s);
         Text3(signo).setText(u"0"_s);
-        Text3(signo).setFocus(Qt::TabFocusReason);
+        Text3(signo).setFocus();
+        Text3(signo).selectAll(); // so that what is typed next replaces it
         return;
     }
     answer(u"SI"_s);

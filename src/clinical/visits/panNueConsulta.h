@@ -30,6 +30,7 @@ private:
     forms::Page ficha(int numero);
     forms::Item marco(examen::Marco marco);
     QString nombreDelPaciente() const;
+    void irAlCampoSiguiente();
     void anotarNormal();
     void command7Click();
 

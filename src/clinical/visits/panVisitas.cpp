@@ -11,8 +11,6 @@
 #include "platform/basic/runtime.h"
 #include "platform/settings/settings.h"
 
-#include <QScopedValueRollback>
-
 using namespace Qt::StringLiterals;
 using namespace consultas;
 using namespace forms;
@@ -63,8 +61,7 @@ panVisitas::panVisitas() : Form(u"panVisitas"_s)
                               {u"Hora"_s, u"Hora"_s, u"HH:MM"_s, 50},
                               {u"Motivo"_s, u"Motivo"_s, {}, 110},
                               {u"Dr."_s, u"Dr"_s, {}, 100}});
-    DBGrid2.setSource(Data3,
-                      {{u"Examen"_s, u"Titulo"_s, {}, 235}, {u"Resultado"_s, u"Valor"_s, {}, 170}});
+    DBGrid2.setSource(Data3, {{u"Examen"_s, u"Titulo"_s, {}, 235}, {u"Resultado"_s, u"Valor"_s, {}, 140}});
     agregarControles();
     disponer();
     conectar();
@@ -107,9 +104,10 @@ Item panVisitas::visita()
     return Column{
         Row{Fields{{u"&Fecha :"_s, mFecha}}, Fields{{u"&Hora :"_s, mDato(cHora)}}, opciones.option3d2(0),
             opciones.option3d2(1), Stretch()},
-        Fields{{u"&Motivo :"_s, mDato1}, {u"Lugar :"_s, Row{opciones.option3d1(0), opciones.option3d1(1), Stretch()}}},
-        Row{Above(u"&Pulso :"_s, mDato(cPulso)), Above(u"&Temperatura :"_s, mDato(cTemperatura)),
-            Above(u"&Respiración :"_s, mDato(cRespiracion)), Above(u"Ta&lla (Cm) :"_s, Text3(cTalla)),
+        Fields{{u"&Motivo :"_s, mDato1},
+               {u"Lugar :"_s, Row{opciones.option3d1(0), opciones.option3d1(1), Stretch()}}},
+        Row{Above(u"&Pulso :"_s, mDato(cPulso)), Above(u"Temperatura :"_s, mDato(cTemperatura)),
+            Above(u"Respiración :"_s, mDato(cRespiracion)), Above(u"Ta&lla (Cm) :"_s, Text3(cTalla)),
             Above(u"P&eso (Gr) :"_s, Text3(cPeso))},
         Fields{{u"Estado General :"_s, Text1(cEstadoGeneral)},
                {u"Estado N&utricional :"_s, Text1(cEstadoNutricional)}},
@@ -129,7 +127,8 @@ void panVisitas::conectar()
     connect(&Command4, &QPushButton::clicked, this, &panVisitas::quitar);
     connect(&Command5, &QPushButton::clicked, this, [this] {
         guardar();
-        MODULE11::RegistraEvento(edicion, u"TOMA DE CAMBIOS A LA BASE // HC. Nº%1 / Fecha cons.:%2"_s.arg(tag(), textoDeFecha()));
+        MODULE11::RegistraEvento(
+            edicion, u"TOMA DE CAMBIOS A LA BASE // HC. Nº%1 / Fecha cons.:%2"_s.arg(tag(), textoDeFecha()));
     });
     connect(&Command6, &QPushButton::clicked, this, [] { screens::run(u"OtorgaTurno"_s); });
     connect(&Command9, &QPushButton::clicked, this,
@@ -184,18 +183,21 @@ void panVisitas::mostrarVisita()
     const qint64 total = hay ? Data2.recordset().rowCount() : 0;
     barra.setCaption(u"Recorrer consultas efectuadas al paciente (%1 de %2)"_s.arg(
         basic::format(lugar, u"##,###"), basic::format(total, u"##,###")));
-    if (escribiendo_)
-        return;
     habilitar(hay);
     listas.vaciar();
     if (!hay) {
         mostrarEnBlanco();
         return;
     }
-    leerExamen();
-    opciones.setLugar(Data2.recordset()[u"Lugar de Consulta"].text());
-    opciones.setTipo(Data2.recordset()[u"Tipo"].text());
-    mostrarListas();
+    try {
+        leerExamen();
+        opciones.setLugar(Data2.recordset()[u"Lugar de Consulta"].text());
+        opciones.setTipo(Data2.recordset()[u"Tipo"].text());
+        mostrarListas();
+    } catch (const dao::Error &) {
+        sinExamen(); // deleted at another workstation: nothing of the visit before stays in sight
+        throw;
+    }
 }
 
 void panVisitas::habilitar(bool hay)
@@ -218,6 +220,11 @@ void panVisitas::mostrarEnBlanco()
     mDato(cHora).setText(basic::format(basic::time(), u"HH:MM"));
     opciones.setLugar(lugar(true));
     opciones.setTipo(tipo(true));
+    sinExamen();
+}
+
+void panVisitas::sinExamen()
+{
     Data3.setRecordSource(u"Select * from ExFisico where False"_s);
     Data3.refresh();
 }
@@ -255,37 +262,51 @@ void panVisitas::leerExamen()
 
 QString panVisitas::textoDeFecha()
 {
-    return basic::dateText(Data2.recordset()[u"Fecha"].date());
+    return Data2.recordset()[u"Fecha"].text();
 }
 
-/// Writes the options and the names of the lists, and with them what was typed. The ids and doses keep what
-/// they were when the visit was recorded.
+/// Writes the options and the names of the lists, and with them what was typed.
 void panVisitas::guardar()
 {
     if (!Data2.hasRow())
         return;
-    const QScopedValueRollback escribiendo(escribiendo_, true);
-    Data2.change([this](dao::Recordset &consulta) {
-        consulta.edit([&] {
-            consulta[u"Lugar de Consulta"] = lugar(opciones.consultorio());
-            consulta[u"Tipo"] = tipo(opciones.primera());
-            for (const Grupo grupo : grupos)
-                ponerNombres(consulta, grupo, listas.renglones(grupo));
-        });
+    guardarElegido();
+    guardarEscrito();
+}
+
+/// The ids and doses keep what they were when the visit was recorded.
+void panVisitas::guardarElegido()
+{
+    dao::Recordset &consulta = Data2.recordset();
+    consulta.edit([&] {
+        consulta[u"Lugar de Consulta"] = lugar(opciones.consultorio());
+        consulta[u"Tipo"] = tipo(opciones.primera());
+        for (const Grupo grupo : grupos)
+            ponerNombres(consulta, grupo, listas.renglones(grupo));
     });
 }
 
+void panVisitas::guardarEscrito()
+{
+    Data2.updateRecord();
+    Data2.updateControls();
+}
+
+/// A change in a list is stored and told even while a text that its column does not take waits to be put
+/// right.
 void panVisitas::agregados(Grupo grupo, const QStringList &nombres)
 {
-    guardar();
+    guardarElegido();
     for (const QString &nombre : nombres)
         registrarCambio(QString::fromUtf8(sucesos[grupo].agregado), grupo, nombre);
+    guardarEscrito();
 }
 
 void panVisitas::quitado(Grupo grupo, const QString &nombre)
 {
-    guardar();
+    guardarElegido();
     registrarCambio(QString::fromUtf8(sucesos[grupo].borrado), grupo, nombre);
+    guardarEscrito();
 }
 
 void panVisitas::registrarCambio(const QString &cambio, Grupo grupo, const QString &nombre)
@@ -298,6 +319,7 @@ void panVisitas::nueva()
 {
     if (!MODULE11::VerificaNivel(u"AgregarConsultas"_s))
         return;
+    Data2.updateRecord(); // a text that is refused is put right before, not once the new visit is recorded
     panNueConsulta captura;
     captura.setTag(tag());
     captura.showModal();
@@ -315,8 +337,7 @@ void panVisitas::pararEn(basic::Date fecha, const QString &hora)
     Data2.change([&](dao::Recordset &visitas) {
         bool hallada = false;
         ignoringErrors([&] {
-            visitas.findFirst(
-                u"[Fecha] = #%1# and [hora] = cdate('%2')"_s.arg(basic::sqlDate(fecha), hora));
+            visitas.findFirst(u"[Fecha] = #%1# and [hora] = cdate('%2')"_s.arg(basic::sqlDate(fecha), hora));
             hallada = !visitas.noMatch();
         });
         if (!hallada && !visitas.eof())
@@ -332,7 +353,8 @@ void panVisitas::quitar()
     dao::Recordset &consulta = Data2.recordset();
     const qint64 lugar = consulta.absolutePosition();
     MODULE11::RegistraEvento(u"BORRADO DE CONSULTA "_s, u"HC. Nº%1 / Fecha:%2"_s.arg(tag(), textoDeFecha()));
-    MODULE11::BaseDatos.execute(u"Delete * from ExFisico where idConsulta = "_s + consulta[u"idConsulta"].text());
+    MODULE11::BaseDatos.execute(u"Delete * from ExFisico where idConsulta = "_s +
+                                consulta[u"idConsulta"].text());
     consulta.deleteRow();
     Data2.refresh();
     if (Data2.hasRow())

@@ -7,8 +7,8 @@
 #include "platform/forms/dbgrid.h"
 #include "platform/forms/form.h"
 
-/// "Pantalla de Visitas y Examenes clínicos": the visits of the patient whose number is the tag, to browse, to
-/// edit and to add to. With "Activar" in the tag of `Command3` it starts by capturing a visit.
+/// "Pantalla de Visitas y Examenes clínicos": the visits of the patient whose number is the tag, to browse,
+/// to edit and to add to. With "Activar" in the tag of `Command3` it starts by capturing a visit.
 class panVisitas : public forms::Form
 {
     Q_OBJECT
@@ -30,12 +30,15 @@ private:
     void mostrarVisita();
     void habilitar(bool hay);
     void mostrarEnBlanco();
+    void sinExamen();
     void mostrarListas();
     void leerExamen();
 
     QString textoDeFecha();
     void registrarCambio(const QString &cambio, consultas::Grupo grupo, const QString &nombre);
     void guardar();
+    void guardarElegido();
+    void guardarEscrito();
     void agregados(consultas::Grupo grupo, const QStringList &nombres);
     void quitado(consultas::Grupo grupo, const QString &nombre);
     void nueva();
@@ -79,6 +82,4 @@ private:
     forms::CommandButton Command14{QStringLiteral("Command14"),
                                    QStringLiteral("Abrir Historia Clínica textual..."),
                                    QStringLiteral("historia")};
-
-    bool escribiendo_ = false; ///< the row is being written: what is in sight is what it holds
 };
