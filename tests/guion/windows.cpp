@@ -9,6 +9,8 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QStackedWidget>
+#include <QTabWidget>
 
 namespace guion
 {
@@ -135,6 +137,16 @@ QString shown(const Address &address)
     return names.join(u'.');
 }
 
+/// A person turns to the page of a tab on which the control is.
+void turnPagesTo(QWidget *widget)
+{
+    for (QWidget *page = widget; page->parentWidget(); page = page->parentWidget())
+        if (auto *stack = qobject_cast<QStackedWidget *>(page->parentWidget()))
+            if (auto *tabs = qobject_cast<QTabWidget *>(stack->parentWidget()))
+                if (const int place = tabs->indexOf(page); place >= 0 && tabs->isTabEnabled(place))
+                    tabs->setCurrentIndex(place);
+}
+
 } // namespace
 
 QWidget *topBox()
@@ -204,6 +216,7 @@ QWidget *findWidget(const Address &address)
 QWidget *findReachable(const Address &address)
 {
     QWidget *widget = findWidget(address);
+    turnPagesTo(widget);
     const QWidget *modal = QApplication::activeModalWidget();
     if (modal && widget != modal && !modal->isAncestorOf(widget))
         throw Missing(

@@ -7,11 +7,18 @@ using namespace forms;
 namespace
 {
 
-void elegir(ControlArray<OptionButton> &opciones, const QString &texto)
+void elegir(QButtonGroup &grupo, const QString &texto)
 {
-    for (auto &[indice, opcion] : opciones)
-        if (opcion->text() == texto.trimmed())
-            opcion->setChecked(true);
+    grupo.setExclusive(false);
+    for (QAbstractButton *opcion : grupo.buttons())
+        opcion->setChecked(opcion->text() == texto.trimmed());
+    grupo.setExclusive(true);
+}
+
+QString elegida(const QButtonGroup &grupo)
+{
+    const QAbstractButton *opcion = grupo.checkedButton();
+    return opcion ? opcion->text() : QString();
 }
 
 } // namespace
@@ -28,14 +35,24 @@ OpcionesDeConsulta::OpcionesDeConsulta()
         connect(grupo, &QButtonGroup::buttonClicked, this, &OpcionesDeConsulta::elegida);
 }
 
+QString OpcionesDeConsulta::lugar() const
+{
+    return ::elegida(lugar_);
+}
+
+QString OpcionesDeConsulta::tipo() const
+{
+    return ::elegida(tipo_);
+}
+
 void OpcionesDeConsulta::setLugar(const QString &texto)
 {
-    elegir(option3d1, texto);
+    elegir(lugar_, texto);
 }
 
 void OpcionesDeConsulta::setTipo(const QString &texto)
 {
-    elegir(option3d2, texto);
+    elegir(tipo_, texto);
 }
 
 void OpcionesDeConsulta::setEnabled(bool enabled)

@@ -12,9 +12,10 @@ class OpcionesDeConsulta : public QObject
 public:
     OpcionesDeConsulta();
 
-    bool consultorio() const { return option3d1(0).isChecked(); }
-    bool primera() const { return option3d2(0).isChecked(); }
-    /// By the stored texts, blanks around them aside; another text leaves the option as it is.
+    /// The stored texts; empty while none is chosen.
+    QString lugar() const;
+    QString tipo() const;
+    /// By the stored texts, blanks around them aside; another text chooses none.
     void setLugar(const QString &texto);
     void setTipo(const QString &texto);
     void setEnabled(bool enabled);

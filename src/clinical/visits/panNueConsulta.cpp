@@ -160,6 +160,22 @@ bool panNueConsulta::queryUnload()
     return true;
 }
 
+/// Esc is easily pressed once too often; the button and the frame are meant.
+void panNueConsulta::escape()
+{
+    if (enBlanco() || MODULE11::Pregunta(u"Descarta la consulta que está escribiendo"_s))
+        answer(u"NO"_s);
+}
+
+bool panNueConsulta::enBlanco() const
+{
+    const auto vacio = [](const auto &campo) { return campo.second->text().isEmpty(); };
+    const auto sinRenglones = [this](Grupo grupo) { return listas.renglones(grupo).empty(); };
+    return text9.toPlainText().isEmpty() && Text1.text().isEmpty() && Text2.text().isEmpty() &&
+           std::all_of(Text3.begin(), Text3.end(), vacio) &&
+           std::all_of(grupos.begin(), grupos.end(), sinRenglones);
+}
+
 /// The pages of the examination follow one another as if they were one.
 bool panNueConsulta::focusNextPrevChild(bool next)
 {
@@ -227,8 +243,8 @@ Visita panNueConsulta::visita() const
 {
     Visita visita{.fecha = mFecha.value(),
                   .hora = mDato(cHora).text(),
-                  .consultorio = opciones.consultorio(),
-                  .primera = opciones.primera(),
+                  .consultorio = opciones.lugar() == lugar(true),
+                  .primera = opciones.tipo() == tipo(true),
                   .motivo = text9.toPlainText(),
                   .peso = Text3(Peso).text(),
                   .talla = Text3(Talla).text(),

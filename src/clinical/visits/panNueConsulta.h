@@ -14,12 +14,12 @@ class panNueConsulta : public forms::Form
 public:
     panNueConsulta();
 
-    void setEspecialidad(const QString &especialidad) { comboEspecialidad.setValue(especialidad); }
     consultas::Visita visita() const;
 
 protected:
     void load() override;
     bool queryUnload() override;
+    void escape() override;
     bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent *evento) override;
 
@@ -30,6 +30,7 @@ private:
     forms::Page ficha(int numero);
     forms::Item marco(examen::Marco marco);
     QString nombreDelPaciente() const;
+    bool enBlanco() const;
     void irAlCampoSiguiente();
     void anotarNormal();
     void command7Click();

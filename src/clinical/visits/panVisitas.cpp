@@ -279,8 +279,10 @@ void panVisitas::guardarElegido()
 {
     dao::Recordset &consulta = Data2.recordset();
     consulta.edit([&] {
-        consulta[u"Lugar de Consulta"] = lugar(opciones.consultorio());
-        consulta[u"Tipo"] = tipo(opciones.primera());
+        if (const QString elegido = opciones.lugar(); !elegido.isEmpty())
+            consulta[u"Lugar de Consulta"] = elegido;
+        if (const QString elegido = opciones.tipo(); !elegido.isEmpty())
+            consulta[u"Tipo"] = elegido;
         for (const Grupo grupo : grupos)
             ponerNombres(consulta, grupo, listas.renglones(grupo));
     });

@@ -28,6 +28,9 @@ const Dato datos[] = {
     {"Localidad", &MODULE11::LocalidadDr},
 };
 
+/// With the suffix before it, the name fills the columns that name the doctor of a record.
+constexpr int largoDelNombre = 44;
+
 QString leer(const char *clave)
 {
     return settings::getSetting(u"Usuario"_s, QString::fromUtf8(clave));
@@ -45,6 +48,7 @@ panPersonaliza::panPersonaliza() : Form(u"panPersonaliza"_s)
     setWindowTitle(u"Personalizar Sistema"_s);
     Label1.setWordWrap(true);
     Text7.setText(u"MEDICO "_s);
+    Text1.setMaxLength(largoDelNombre);
     Command1.setDefault(true);
     setContents(this, Column{
                           Label1,

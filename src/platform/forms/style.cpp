@@ -2,12 +2,23 @@
 
 #include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
+#include <QComboBox>
 #include <QEvent>
 #include <QPainter>
 #include <QStyleFactory>
 
 namespace forms
 {
+
+namespace
+{
+
+bool turnsByWheel(const QWidget *widget)
+{
+    return qobject_cast<const QAbstractSpinBox *>(widget) || qobject_cast<const QComboBox *>(widget);
+}
+
+} // namespace
 
 Style::Style() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
 {
@@ -19,8 +30,10 @@ void Style::polish(QWidget *widget)
     QProxyStyle::polish(widget);
     if (auto *field = qobject_cast<QAbstractSpinBox *>(widget))
         field->setMinimumHeight(field->fontMetrics().height() + 11);
-    if (qobject_cast<QAbstractScrollArea *>(widget))
+    if (qobject_cast<QAbstractScrollArea *>(widget) || turnsByWheel(widget))
         widget->installEventFilter(this);
+    if (widget->focusPolicy() == Qt::WheelFocus)
+        widget->setFocusPolicy(Qt::StrongFocus);
 }
 
 /// A list or memo in use has the frame of a field in use: with the keyboard alone it must be seen where one
@@ -36,12 +49,17 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
     painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
 }
 
-/// The frame is painted anew with the focus, which the toolkit does for the contents only.
+/// The frame is painted anew with the focus, which the toolkit does for the contents only. A wheel turned
+/// over a date or a choice on the way down a window must not change what it holds.
 bool Style::eventFilter(QObject *receiver, QEvent *event)
 {
+    auto *widget = static_cast<QWidget *>(receiver);
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
-        static_cast<QWidget *>(receiver)->update();
-    return QProxyStyle::eventFilter(receiver, event);
+        widget->update();
+    if (event->type() != QEvent::Wheel || !turnsByWheel(widget) || widget->hasFocus())
+        return QProxyStyle::eventFilter(receiver, event);
+    event->ignore();
+    return true;
 }
 
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,

@@ -125,7 +125,10 @@ void panNueTurno::activate()
     }
     permiso_ = *filtro;
     armarLista();
-    irAlPaciente();
+    if (!irAlPaciente()) {
+        answer(u"NO"_s); // before somebody else's place is booked by mistake
+        return;
+    }
     if (idTurno_)
         mostrarTurno();
     if (txtBusca.isEnabled()) {
@@ -146,15 +149,17 @@ void panNueTurno::armarLista()
 }
 
 /// A patient whom the professional may not see is not in the list.
-void panNueTurno::irAlPaciente()
+bool panNueTurno::irAlPaciente()
 {
     if (numero_.isEmpty())
-        return;
+        return true;
     Data1.change([&](dao::Recordset &pacientes) {
         pacientes.findFirst(u"Numero = "_s + basic::format(numero_, u"##########0"));
     });
-    if (Data1.recordset().noMatch())
-        error(u"No encontrado!!"_s);
+    if (!Data1.recordset().noMatch())
+        return true;
+    error(u"No encontrado!!"_s);
+    return false;
 }
 
 void panNueTurno::mostrarPaciente()

@@ -37,7 +37,7 @@ protected:
 private:
     void disponer();
     void armarLista();
-    void irAlPaciente();
+    bool irAlPaciente();
     void mostrarPaciente();
     void mostrarEdad(const basic::Value &nacimiento);
     void mostrarTurno();

@@ -3,6 +3,7 @@
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 #include "platform/forms/layout.h"
+#include "platform/forms/style.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -10,6 +11,7 @@
 #include <QMdiSubWindow>
 #include <QPointer>
 #include <QTimer>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -185,6 +187,25 @@ TEST(Form, membersOutliveTheContainersTheyStandIn)
         screen.text.setFocus();
     }
     EXPECT_TRUE(text.isNull());
+}
+
+TEST(Style, wheelTurnsOnlyTheFieldInUse)
+{
+    forms::Style style;
+    forms::ComboBox combo(u"Combo1"_s, {u"uno"_s, u"dos"_s});
+    forms::DTPicker date(u"mFecha"_s);
+    date.setDate(QDate(2024, 3, 15));
+    for (QWidget *field : {static_cast<QWidget *>(&combo), static_cast<QWidget *>(&date)}) {
+        field->setStyle(&style);
+        field->ensurePolished();
+        QWheelEvent down(QPointF(5, 5), QPointF(5, 5), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                         Qt::NoScrollPhase, false);
+        QApplication::sendEvent(field, &down);
+        EXPECT_FALSE(down.isAccepted());
+        EXPECT_FALSE(field->hasFocus());
+    }
+    EXPECT_EQ(combo.currentIndex(), 0);
+    EXPECT_EQ(date.date(), QDate(2024, 3, 15));
 }
 
 TEST(Layout, tabGoesThroughTheControlsAsTheyAreDeclared)
