@@ -25,7 +25,7 @@ enum { cEstadoGeneral = 3, cEstadoNutricional };                 // Text1
 
 const QString edicion = u"EDICION DE CONSULTA "_s;
 
-/// How the audit tells a change in a list; the words of the two kinds of change differ from one to the other.
+/// How the audit tells a change in a list.
 struct Suceso {
     const char *agregado, *borrado, *nombre;
 };
@@ -235,18 +235,14 @@ void panVisitas::mostrarListas()
 {
     dao::Recordset &consulta = Data2.recordset();
     for (const Grupo grupo : grupos) {
-        std::vector<Renglon> renglones;
-        std::size_t conNombre = 0;
-        for (int ranura = 1; ranura <= ranuras; ++ranura) {
-            const basic::Value nombre = consulta[columna(grupo, ranura)];
-            if (nombre.isNull())
-                continue;
-            renglones.push_back({nombre.text()});
-            if (!nombre.isBlank())
-                conNombre = renglones.size();
-        }
-        for (std::size_t i = 0; i < conNombre; ++i)
-            listas.agregarRenglon(grupo, renglones[i]);
+        QStringList nombres;
+        for (int ranura = 1; ranura <= ranuras; ++ranura)
+            if (const basic::Value nombre = consulta[columna(grupo, ranura)]; !nombre.isNull())
+                nombres += nombre.text();
+        while (!nombres.isEmpty() && nombres.last().isEmpty())
+            nombres.removeLast();
+        for (const QString &nombre : nombres)
+            listas.agregarRenglon(grupo, {nombre});
     }
 }
 
