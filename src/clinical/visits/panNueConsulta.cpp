@@ -77,10 +77,7 @@ void panNueConsulta::disponer()
     QFont destacada = lblPaciente.font();
     destacada.setBold(true);
     lblPaciente.setFont(destacada);
-    auto *ayuda = new Label(
-        u"ayuda"_s,
-        u"Entrar: campo siguiente    F2: anota «Normal»    F3: agrega a la lista    Ctrl+Entrar: Aceptar"_s);
-    setForeColor(*ayuda, palette().color(QPalette::PlaceholderText));
+    setForeColor(lblTeclas, palette().color(QPalette::PlaceholderText));
     setContents(this,
                 Column{
                     lblPaciente,
@@ -89,7 +86,7 @@ void panNueConsulta::disponer()
                                          Expanding(listas.disposicion(ListasDeConsulta::Botones::AlLado))}),
                         Expanding(Tabs(SStab1, {ficha(0), ficha(1), ficha(2)})),
                     }),
-                    Row{ayuda, Stretch(), Command7, Command8},
+                    Row{lblTeclas, Stretch(), Command7, Command8},
                 });
     resize(1180, 640);
 }

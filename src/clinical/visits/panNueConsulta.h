@@ -46,6 +46,9 @@ private:
     forms::TextBox Text2{QStringLiteral("Text2"), 255};
     ListasDeConsulta listas;
     forms::SSTab SStab1{QStringLiteral("SStab1")};
+    forms::Label lblTeclas{QStringLiteral("lblTeclas"),
+                           QStringLiteral("Entrar: campo siguiente    F2: anota «Normal»    "
+                                          "F3: agrega a la lista    Ctrl+Entrar: Aceptar")};
     forms::CommandButton Command7{QStringLiteral("Command7"), QStringLiteral("&Aceptar"),
                                   QStringLiteral("aceptar")};
     forms::CommandButton Command8{QStringLiteral("Command8"), QStringLiteral("&Cancelar"),
