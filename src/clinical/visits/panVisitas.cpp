@@ -44,6 +44,12 @@ void ponerNombres(dao::Recordset &consulta, Grupo grupo, const std::vector<Rengl
     }
 }
 
+/// Of the thirty-five items a few are usually filled: the others stand back.
+RowLook aspectoDelHallazgo(const basic::Value &valor)
+{
+    return valor.isBlank() ? RowLook::standingBack() : RowLook::standingOut();
+}
+
 void abrirConPermiso(const QString &clave, const QString &ventana, const QString &numero)
 {
     if (MODULE11::VerificaNivel(clave))
@@ -62,6 +68,7 @@ panVisitas::panVisitas() : Form(u"panVisitas"_s)
                               {u"Motivo"_s, u"Motivo"_s, {}, 110},
                               {u"Dr."_s, u"Dr"_s, {}, 100}});
     DBGrid2.setSource(Data3, {{u"Examen"_s, u"Titulo"_s, {}, 235}, {u"Resultado"_s, u"Valor"_s, {}, 140}});
+    DBGrid2.setRowLook(u"Valor"_s, aspectoDelHallazgo);
     agregarControles();
     disponer();
     conectar();

@@ -23,6 +23,9 @@ struct GridColumn {
 struct RowLook {
     QColor ink;          ///< of the whole row; invalid: the grid's own
     bool strong = false; ///< the value itself is in bold
+
+    static RowLook standingBack() { return {QColor(0x80, 0x8a, 0x93), false}; }
+    static RowLook standingOut() { return {QColor(), true}; }
 };
 
 /// The rows of a Data, of which only those in sight are read. The grid's current row is the Data's; a

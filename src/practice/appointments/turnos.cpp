@@ -119,9 +119,7 @@ void llenar(forms::ComboBox &combo, const QString &sql, QStringView campo, QStri
 
 forms::RowLook aspecto(const basic::Value &paciente)
 {
-    if (paciente.text() == sinAsignar)
-        return {QColor(0x80, 0x8a, 0x93), false};
-    return {QColor(), true};
+    return paciente.text() == sinAsignar ? forms::RowLook::standingBack() : forms::RowLook::standingOut();
 }
 
 } // namespace turnos
