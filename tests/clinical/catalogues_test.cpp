@@ -215,6 +215,28 @@ TEST_F(Catalogues, ExpandingAllLoadsEveryDiseaseOfTheCategoriesNotYetOpened)
     EXPECT_FALSE(nodeOf(view, u"Varicela"_s)->isExpanded());
 }
 
+TEST_F(Catalogues, MarkToMarkWithWhatABranchClosedByHandHides)
+{
+    forms::TreeView view(u"TreeView1"_s);
+    ArbolCIE10 tree(view);
+    tree.cargar();
+    QTreeWidgetItem *only = tree.buscar(u"varicela sin"_s);
+    ASSERT_NE(only, nullptr);
+    QTreeWidgetItem *chapter = only->parent()->parent()->parent();
+    view.collapseItem(chapter);
+    for (const auto sense : {ArbolCIE10::Siguiente, ArbolCIE10::Anterior}) {
+        tree.irAMarca(sense);
+        EXPECT_EQ(view.currentItem(), only); // no mark is in sight
+    }
+    view.expandItem(chapter);
+    tree.buscar(u"varicela"_s);
+    QTreeWidgetItem *varicella = nodeOf(view, u"Varicela"_s);
+    view.collapseItem(varicella); // hides the last mark, the current one
+    tree.irAMarca(ArbolCIE10::Anterior);
+    EXPECT_TRUE(view.currentItem()->font(0).bold());
+    EXPECT_NE(view.currentItem()->parent(), varicella);
+}
+
 TEST_F(Catalogues, SymptomsAreThoseSelectedInTheListsOrder)
 {
     onceOpen([](forms::Form &form) {
