@@ -212,7 +212,14 @@ void ArbolCIE10::irAMarca(Sentido sentido)
             nodo = sentido == Siguiente ? arbol_.topLevelItem(0) : ultimoALaVista();
     } while (nodo != desde && !nodo->font(0).bold());
     if (nodo->font(0).bold())
-        arbol_.setCurrentItem(nodo);
+        irA(*nodo);
+}
+
+/// The current one already may still have been scrolled or collapsed away from.
+void ArbolCIE10::irA(QTreeWidgetItem &nodo)
+{
+    arbol_.setCurrentItem(&nodo);
+    arbol_.scrollToItem(&nodo);
 }
 
 QTreeWidgetItem *ArbolCIE10::ultimoALaVista() const
@@ -238,9 +245,12 @@ QTreeWidgetItem *ArbolCIE10::buscar(const QString &texto)
         ponerNegrita(*nodo, true);
     abrirCategorias(marcados_);
     ponerALaVista();
-    QTreeWidgetItem *ultimo = marcados_.empty() ? nullptr : marcados_.back();
-    arbol_.setCurrentItem(ultimo);
-    return ultimo;
+    if (marcados_.empty()) {
+        arbol_.setCurrentItem(nullptr);
+        return nullptr;
+    }
+    irA(*marcados_.back());
+    return marcados_.back();
 }
 
 /// Opens what is marked and all that stands above it, the deepest first, so that the tree in sight is laid
