@@ -172,12 +172,22 @@ bool Catalogo::hayNombre(const QString &pedido)
     return false;
 }
 
+/// The row of the name as it stands in the field, which may have come with blanks around it, or else without
+/// them, as this window stores it.
+dao::Recordset Catalogo::buscarFila() const
+{
+    dao::Recordset filas = abrir();
+    filas.seek(u"=", mDato(0).text());
+    if (filas.noMatch())
+        filas.seek(u"=", nombre());
+    return filas;
+}
+
 void Catalogo::guardar()
 {
     if (!hayNombre(u"Ingrese el nombre que quiere guardar."_s))
         return;
-    dao::Recordset filas = abrir();
-    filas.seek(u"=", nombre());
+    dao::Recordset filas = buscarFila();
     const bool nueva = filas.noMatch();
     nueva ? filas.addNew() : filas.edit();
     escribir(filas);
@@ -199,8 +209,7 @@ void Catalogo::quitar()
     if (!hayNombre(u"Elija en la lista lo que quiere quitar."_s) ||
         !MODULE11::Pregunta(tabla_.preguntaDeBaja))
         return;
-    dao::Recordset filas = abrir();
-    filas.seek(u"=", nombre());
+    dao::Recordset filas = buscarFila();
     if (!filas.noMatch())
         filas.deleteRow();
     trasBorrar();
