@@ -195,8 +195,9 @@ void Catalogo::guardar()
     if (nueva)
         filas.setBookmark(filas.lastModified());
     const qint64 id = filas[tabla_.id].integer();
-    // The row that the fields came from gives its place in the choice to the one they were saved in.
-    if (QListWidgetItem *origen = List1.currentItem(); origen && filaDe(id) != List1.row(origen)) {
+    // The row that the fields came from gives its place in the choice to the one they were saved in, which a
+    // filter may leave out.
+    if (QListWidgetItem *origen = List1.currentItem()) {
         const QSignalBlocker silencio(List1);
         origen->setSelected(false);
     }
