@@ -52,14 +52,16 @@ void Catalogo::activate()
     List1.setFocus();
 }
 
-/// Enter takes what is chosen in the list; in a field, where a row is being written, it does nothing.
+/// Enter takes what is chosen in the list, and nothing where nothing is: the key that opened the window, held
+/// too long, must not leave blank lines in the visit. In a field, where a row is being written, it does
+/// nothing.
 void Catalogo::keyPressEvent(QKeyEvent *event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && List1.hasFocus())
-        aceptar();
-    else
+    if (!enter || !List1.hasFocus())
         Form::keyPressEvent(event);
+    else if (!elegidos().empty())
+        aceptar();
 }
 
 bool Catalogo::queryUnload()
