@@ -204,6 +204,7 @@ void Catalogo::guardar()
         origen->setSelected(false);
     }
     llenar();
+    mostrar(&filas); // as it was stored, in the list or not
     elegirFila(id);
 }
 
