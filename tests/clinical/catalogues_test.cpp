@@ -96,6 +96,8 @@ TEST_F(Catalogues, DoseByTheLatestWeight)
     EXPECT_EQ(dosisParaElPaciente(u"7"_s, u"50"_s, u"3"_s), u"Dosis para 12.500 gramos : 208,33 x dosis."_s);
     EXPECT_EQ(dosisParaElPaciente(u"7"_s, u"0,5"_s, basic::Null{}),
               u"Dosis para 12.500 gramos : 6,25 x dosis."_s);
+    EXPECT_EQ(dosisParaElPaciente(u"7"_s, u"0.125"_s, u"1"_s), u"Dosis para 12.500 gramos : 1,56 x dosis."_s);
+    EXPECT_EQ(dosisParaElPaciente(u"7"_s, u"1e300"_s, u"1e-300"_s), noDose);
     for (const QString &interval : {u"0"_s, u"-"_s, u""_s, u"cada 8 horas"_s})
         EXPECT_EQ(dosisParaElPaciente(u"7"_s, u"50"_s, interval), noDose) << interval.toStdString();
     for (const basic::Value &dose : {basic::Value(u"-"), basic::Value(u""), basic::Value(basic::Null{})})
@@ -213,6 +215,49 @@ TEST_F(Catalogues, ExpandingAllLoadsEveryDiseaseOfTheCategoriesNotYetOpened)
     EXPECT_TRUE(nodeOf(view, u"Varicela"_s)->isExpanded());
     tree.contraer();
     EXPECT_FALSE(nodeOf(view, u"Varicela"_s)->isExpanded());
+}
+
+TEST_F(Catalogues, SearchThatEndsWhereTheLastOneDidBringsItBackIntoSight)
+{
+    forms::TreeView view(u"TreeView1"_s);
+    ArbolCIE10 tree(view);
+    tree.cargar();
+    view.resize(600, 300);
+    view.show();
+    const auto inSight = [&] {
+        return view.viewport()->rect().contains(view.visualItemRect(view.currentItem()));
+    };
+    for (int times = 0; times < 2; ++times) {
+        ASSERT_NE(tree.buscar(u"asma"_s), nullptr);
+        EXPECT_TRUE(inSight());
+    }
+    view.scrollToTop();
+    tree.buscar(u"historia familiar de asma"_s);
+    view.scrollToTop();
+    tree.irAMarca(ArbolCIE10::Siguiente); // the only one
+    EXPECT_TRUE(inSight());
+}
+
+TEST_F(Catalogues, MarkToMarkWithWhatABranchClosedByHandHides)
+{
+    forms::TreeView view(u"TreeView1"_s);
+    ArbolCIE10 tree(view);
+    tree.cargar();
+    QTreeWidgetItem *only = tree.buscar(u"varicela sin"_s);
+    ASSERT_NE(only, nullptr);
+    QTreeWidgetItem *chapter = only->parent()->parent()->parent();
+    view.collapseItem(chapter);
+    for (const auto sense : {ArbolCIE10::Siguiente, ArbolCIE10::Anterior}) {
+        tree.irAMarca(sense);
+        EXPECT_EQ(view.currentItem(), only); // no mark is in sight
+    }
+    view.expandItem(chapter);
+    tree.buscar(u"varicela"_s);
+    QTreeWidgetItem *varicella = nodeOf(view, u"Varicela"_s);
+    view.collapseItem(varicella); // hides the last mark, the current one
+    tree.irAMarca(ArbolCIE10::Anterior);
+    EXPECT_TRUE(view.currentItem()->font(0).bold());
+    EXPECT_NE(view.currentItem()->parent(), varicella);
 }
 
 TEST_F(Catalogues, SymptomsAreThoseSelectedInTheListsOrder)

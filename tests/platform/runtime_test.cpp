@@ -50,10 +50,13 @@ TEST(Numbers, theLocaleAndTheKeypadPoint)
     EXPECT_EQ(basic::toNumber(u"3,5"), 3.5);
     EXPECT_EQ(basic::toNumber(u"3.5"), 3.5);
     EXPECT_EQ(basic::toNumber(u"1.234"), 1234);
+    EXPECT_EQ(basic::toNumber(u"0.125"), 0.125);
+    EXPECT_EQ(basic::toNumber(u"-0.500"), -0.5);
     EXPECT_EQ(basic::toNumber(u"1.234.567,25"), 1234567.25);
     EXPECT_EQ(basic::toNumber(u" $ -20 "), -20);
     EXPECT_EQ(basic::toNumber(u"(20)"), -20);
-    for (const auto *none : {u"", u" ", u"12a", u"1,2,3", u"1.23.4", u"-", u"inf", u"nan", u"."})
+    for (const auto *none :
+         {u"", u" ", u"12a", u"1,2,3", u"1.23.4", u"0.125.000", u"-", u"inf", u"nan", u"."})
         EXPECT_FALSE(basic::isNumeric(none)) << QStringView(none).toString().toStdString();
     EXPECT_EQ(basic::val(u" 12 3.5kg"), 123.5);
     EXPECT_EQ(basic::val(u"12,5"), 12);

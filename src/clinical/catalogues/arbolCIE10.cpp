@@ -59,6 +59,15 @@ void ponerNegrita(QTreeWidgetItem &nodo, bool negrita)
     nodo.setFont(0, letra);
 }
 
+/// The node, or the outermost closed one that hides it.
+QTreeWidgetItem *aLaVista(QTreeWidgetItem *nodo)
+{
+    for (QTreeWidgetItem *superior = nodo->parent(); superior; superior = superior->parent())
+        if (!superior->isExpanded())
+            nodo = superior;
+    return nodo;
+}
+
 int profundidad(const QTreeWidgetItem *nodo)
 {
     int pasos = 0;
@@ -188,18 +197,29 @@ void ArbolCIE10::marcar(QTreeWidgetItem &nodo)
     nodo.setExpanded(true);
 }
 
+/// The walk starts where the eye is: at the branch closed by hand that hides the current node, for what is
+/// out of sight has no neighbours. Without a mark in sight it stays.
 void ArbolCIE10::irAMarca(Sentido sentido)
 {
     if (marcados_.empty())
         return;
-    QTreeWidgetItem *const desde = arbol_.currentItem() ? arbol_.currentItem() : arbol_.topLevelItem(0);
+    QTreeWidgetItem *const desde =
+        aLaVista(arbol_.currentItem() ? arbol_.currentItem() : arbol_.topLevelItem(0));
     QTreeWidgetItem *nodo = desde;
     do {
         nodo = sentido == Siguiente ? arbol_.itemBelow(nodo) : arbol_.itemAbove(nodo);
         if (!nodo)
             nodo = sentido == Siguiente ? arbol_.topLevelItem(0) : ultimoALaVista();
     } while (nodo != desde && !nodo->font(0).bold());
-    arbol_.setCurrentItem(nodo);
+    if (nodo->font(0).bold())
+        irA(*nodo);
+}
+
+/// The current one already may still have been scrolled or collapsed away from.
+void ArbolCIE10::irA(QTreeWidgetItem &nodo)
+{
+    arbol_.setCurrentItem(&nodo);
+    arbol_.scrollToItem(&nodo);
 }
 
 QTreeWidgetItem *ArbolCIE10::ultimoALaVista() const
@@ -225,9 +245,12 @@ QTreeWidgetItem *ArbolCIE10::buscar(const QString &texto)
         ponerNegrita(*nodo, true);
     abrirCategorias(marcados_);
     ponerALaVista();
-    QTreeWidgetItem *ultimo = marcados_.empty() ? nullptr : marcados_.back();
-    arbol_.setCurrentItem(ultimo);
-    return ultimo;
+    if (marcados_.empty()) {
+        arbol_.setCurrentItem(nullptr);
+        return nullptr;
+    }
+    irA(*marcados_.back());
+    return marcados_.back();
 }
 
 /// Opens what is marked and all that stands above it, the deepest first, so that the tree in sight is laid

@@ -37,6 +37,7 @@ private:
     QTreeWidgetItem *crear(const QString &texto, const QString &clave);
     void abrirCategorias(const std::vector<QTreeWidgetItem *> &nodos);
     void ponerALaVista();
+    void irA(QTreeWidgetItem &nodo);
     QTreeWidgetItem *ultimoALaVista() const;
 
     forms::TreeView &arbol_;

@@ -52,14 +52,16 @@ void Catalogo::activate()
     List1.setFocus();
 }
 
-/// Enter takes what is chosen in the list; in a field, where a row is being written, it does nothing.
+/// Enter takes what is chosen in the list, and nothing where nothing is: the key that opened the window, held
+/// too long, must not leave blank lines in the visit. In a field, where a row is being written, it does
+/// nothing.
 void Catalogo::keyPressEvent(QKeyEvent *event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && List1.hasFocus())
-        aceptar();
-    else
+    if (!enter || !List1.hasFocus())
         Form::keyPressEvent(event);
+    else if (!elegidos().empty())
+        aceptar();
 }
 
 bool Catalogo::queryUnload()
@@ -172,12 +174,22 @@ bool Catalogo::hayNombre(const QString &pedido)
     return false;
 }
 
+/// The row of the name as it stands in the field, which may have come with blanks around it, or else without
+/// them, as this window stores it.
+dao::Recordset Catalogo::buscarFila() const
+{
+    dao::Recordset filas = abrir();
+    filas.seek(u"=", mDato(0).text());
+    if (filas.noMatch())
+        filas.seek(u"=", nombre());
+    return filas;
+}
+
 void Catalogo::guardar()
 {
     if (!hayNombre(u"Ingrese el nombre que quiere guardar."_s))
         return;
-    dao::Recordset filas = abrir();
-    filas.seek(u"=", nombre());
+    dao::Recordset filas = buscarFila();
     const bool nueva = filas.noMatch();
     nueva ? filas.addNew() : filas.edit();
     escribir(filas);
@@ -185,12 +197,14 @@ void Catalogo::guardar()
     if (nueva)
         filas.setBookmark(filas.lastModified());
     const qint64 id = filas[tabla_.id].integer();
-    // The row that the fields came from gives its place in the choice to the one they were saved in.
-    if (QListWidgetItem *origen = List1.currentItem(); origen && filaDe(id) != List1.row(origen)) {
+    // The row that the fields came from gives its place in the choice to the one they were saved in, which a
+    // filter may leave out.
+    if (QListWidgetItem *origen = List1.currentItem()) {
         const QSignalBlocker silencio(List1);
         origen->setSelected(false);
     }
     llenar();
+    mostrar(&filas); // as it was stored, in the list or not
     elegirFila(id);
 }
 
@@ -199,8 +213,7 @@ void Catalogo::quitar()
     if (!hayNombre(u"Elija en la lista lo que quiere quitar."_s) ||
         !MODULE11::Pregunta(tabla_.preguntaDeBaja))
         return;
-    dao::Recordset filas = abrir();
-    filas.seek(u"=", nombre());
+    dao::Recordset filas = buscarFila();
     if (!filas.noMatch())
         filas.deleteRow();
     trasBorrar();

@@ -74,6 +74,7 @@ private:
     void elegir();
     void quitar();
     bool hayNombre(const QString &pedido);
+    dao::Recordset buscarFila() const;
     int filaDe(qint64 id) const;
 
     Tabla tabla_;

@@ -4,6 +4,7 @@
 #include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
 
+#include <cmath>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -39,6 +40,8 @@ QString catalogos::dosisParaElPaciente(const QString &paciente, const basic::Val
         if (!peso)
             return;
         const double valor = *basic::toNumber(dosis.text()) * *peso / 1000.0 / *divisor;
+        if (!std::isfinite(valor))
+            return;
         texto = u"Dosis para %1 gramos : %2 x dosis."_s.arg(basic::format(*peso, u"###,##0"),
                                                             basic::format(valor, u"###,##0.00"));
     });

@@ -18,14 +18,18 @@ enum { cDescripcion, cDroga, cDosis, cIntervalo, cLapso };
 /// The room for the picture of a product.
 constexpr QSize marco(300, 200);
 
-/// At most as large as its room; null when there is no such picture.
+/// At most as large as its room, which a photo of many megapixels is read down to; null when there is no
+/// such picture.
 QImage leer(const QString &archivo)
 {
     QImageReader lector(archivo);
     lector.setDecideFormatFromContent(true);
     lector.setAutoTransform(true);
+    const auto cabe = [](QSize lado) { return lado.boundedTo(marco) == lado; };
+    if (const QSize entera = lector.size(); entera.isValid() && !cabe(entera))
+        lector.setScaledSize(entera.scaled(marco, Qt::KeepAspectRatio).expandedTo({1, 1}));
     const QImage producto = lector.read();
-    if (producto.width() <= marco.width() && producto.height() <= marco.height())
+    if (producto.isNull() || cabe(producto.size())) // one that lies on its side may be too high once turned
         return producto;
     return producto.scaled(marco, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }

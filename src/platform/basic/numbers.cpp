@@ -11,7 +11,7 @@ namespace
 
 /// Turns a text of the locale into one with a plain decimal point; empty when it is no number. Points that
 /// group digits in threes are thousands marks; a lone point elsewhere is what the numeric keypad types for
-/// the decimal comma.
+/// the decimal comma, and so it is behind a zero, which no thousands begin with.
 QString plainNumber(QStringView text)
 {
     QString s = text.trimmed().toString();
@@ -38,7 +38,7 @@ QString plainNumber(QStringView text)
         return {};
 
     if (const QStringList groups = whole.split(u'.'); groups.size() > 1) {
-        bool thousands = !groups.first().isEmpty() && groups.first().size() <= 3;
+        bool thousands = !groups.first().isEmpty() && groups.first().size() <= 3 && groups.first() != u"0";
         for (qsizetype i = 1; i < groups.size(); ++i)
             thousands = thousands && groups.at(i).size() == 3;
         if (thousands) {

@@ -238,7 +238,9 @@ Item Expanding(Item item, int factor)
 Item Tabs(SSTab &tabs, std::initializer_list<Page> list)
 {
     std::vector<Page> pages(list);
-    std::vector<QWidget *> order{&tabs};
+    // the bar and not the whole, which would carry its pages along in the order and leave what follows out of
+    // it
+    std::vector<QWidget *> order{tabs.tabBar()};
     for (const Page &page : pages)
         order.insert(order.end(), page.content.order().begin(), page.content.order().end());
     auto add = [&tabs, pages = std::move(pages)](QBoxLayout *layout) {

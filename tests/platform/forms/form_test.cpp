@@ -208,6 +208,19 @@ TEST(Style, wheelTurnsOnlyTheFieldInUse)
     EXPECT_EQ(date.date(), QDate(2024, 3, 15));
 }
 
+/// The controls of one-letter names in the order in which Tab reaches them.
+std::vector<QString> tabbedFrom(QWidget &first)
+{
+    std::vector<QString> order;
+    QWidget *widget = &first;
+    do {
+        if (widget->objectName().size() == 1 && widget->focusPolicy() != Qt::NoFocus)
+            order.push_back(widget->objectName());
+        widget = widget->nextInFocusChain();
+    } while (widget != &first);
+    return order;
+}
+
 TEST(Layout, tabGoesThroughTheControlsAsTheyAreDeclared)
 {
     using namespace forms;
@@ -217,14 +230,23 @@ TEST(Layout, tabGoesThroughTheControlsAsTheyAreDeclared)
     ComboBox c(u"c"_s, {}, true);
     CommandButton e(u"e"_s, u"E"_s);
     setContents(&form, Column{Row{e, Stretch()}, Fields{{u"&Uno"_s, d}, {u"Dos"_s, Row{c, label, b}}}, a});
-    std::vector<QString> order;
-    QWidget *widget = &e;
-    do {
-        if (widget->objectName().size() == 1 && widget->focusPolicy() != Qt::NoFocus)
-            order.push_back(widget->objectName());
-        widget = widget->nextInFocusChain();
-    } while (widget != &e);
-    EXPECT_EQ(order, (std::vector{u"e"_s, u"d"_s, u"c"_s, u"b"_s, u"a"_s}));
+    EXPECT_EQ(tabbedFrom(e), (std::vector{u"e"_s, u"d"_s, u"c"_s, u"b"_s, u"a"_s}));
     const auto labels = form.findChildren<QLabel *>();
     EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [&](QLabel *l) { return l->buddy() == &d; }));
+}
+
+TEST(Layout, tabReachesTheControlsOfThePagesAndThoseBehind)
+{
+    using namespace forms;
+    Form form(u"panPrueba"_s);
+    ListBox a(u"a"_s);
+    TextBox b(u"b"_s), c(u"c"_s);
+    MemoBox d(u"d"_s);
+    CommandButton e(u"e"_s, u"E"_s);
+    SSTab tabs(u"SSTab1"_s);
+    setContents(
+        &form,
+        Column{Row{a, Tabs(tabs, {{u"&Uno"_s, Fields{{u"B"_s, b}, {u"C"_s, c}}}, {u"&Dos"_s, Column{d}}})},
+               Row{e}});
+    EXPECT_EQ(tabbedFrom(a), (std::vector{u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s}));
 }
