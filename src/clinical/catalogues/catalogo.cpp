@@ -91,6 +91,7 @@ void Catalogo::agregarALaLista(dao::Recordset &fila)
     const basic::Value nombre = fila[tabla_.campos.front().columna];
     auto *renglon = new QListWidgetItem(nombre.isNull() ? vacio : nombre.text(), &List1);
     renglon->setData(Qt::UserRole, fila[tabla_.id].integer());
+    renglon->setToolTip(renglon->text()); // names may be longer than the list is wide
 }
 
 int Catalogo::filaDe(qint64 id) const
