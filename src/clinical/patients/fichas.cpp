@@ -5,6 +5,7 @@
 #include "clinical/patients/panSeekPaciente.h"
 #include "clinical/patients/panSelPaciente.h"
 #include "core/security/eventos.h"
+#include "core/services/profesional.h"
 #include "core/services/services.h"
 #include "core/session/screens.h"
 #include "core/session/session.h"
@@ -158,11 +159,7 @@ void NuevaFicha()
     ficha.showModal();
     if (ficha.tag() != u"SI")
         return;
-    basic::Value idProfesional;
-    ignoringErrors([&] {
-        idProfesional = MODULE11::BuscaCampo(
-            u"Select * from profesionales where Nombre = '%1'"_s.arg(ficha.profesional()), u"idProfesional");
-    });
+    const basic::Value idProfesional = MODULE11::CampoDelProfesional(ficha.profesional(), u"idProfesional");
     ignoringErrors([&] { agregarPaciente(ficha, idProfesional.integer()); });
     ignoringErrors([&] { agregarPediatria(ficha); });
     if (MODULE11::Pregunta(u"Desea visualizar la ficha ahora?"_s))

@@ -1,5 +1,6 @@
 #include "clinical/visits/panNueConsulta.h"
 
+#include "core/services/profesional.h"
 #include "core/services/services.h"
 #include "core/session/session.h"
 #include "platform/basic/environment.h"
@@ -41,15 +42,9 @@ constexpr const char *fichas[] = {"&1ro", "&2do", "&3ro"};
 /// professionals.
 QString especialidadHabitual()
 {
-    QString especialidad = MODULE11::EspecialidadDr;
-    if (!especialidades.contains(especialidad))
-        basic::ignoringErrors([&] {
-            especialidad = MODULE11::BuscaCampo(
-                               u"Select * from profesionales where Nombre = '%1'"_s.arg(MODULE11::DrActual),
-                               u"Especialidad")
-                               .text();
-        });
-    return especialidad;
+    if (especialidades.contains(MODULE11::EspecialidadDr))
+        return MODULE11::EspecialidadDr;
+    return MODULE11::CampoDelProfesional(MODULE11::DrActual, u"Especialidad").text();
 }
 
 } // namespace

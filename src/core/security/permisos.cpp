@@ -1,8 +1,8 @@
 #include "core/security/permisos.h"
 
+#include "core/services/profesional.h"
 #include "core/services/services.h"
 #include "core/session/session.h"
-#include "platform/basic/errors.h"
 #include "platform/forms/boxes.h"
 
 using namespace Qt::StringLiterals;
@@ -12,10 +12,7 @@ namespace MODULE11
 
 std::optional<QString> FiltroDePacientes()
 {
-    basic::Value id = basic::Null{};
-    basic::ignoringErrors([&] {
-        id = BuscaCampo(u"Select * from profesionales where nombre = '%1'"_s.arg(DrActual), u"idProfesional");
-    });
+    const basic::Value id = CampoDelProfesional(DrActual, u"idProfesional");
     if (!id.isNumeric())
         return u" true "_s;
     const basic::Value permiso =

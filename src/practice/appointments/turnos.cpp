@@ -1,6 +1,6 @@
 #include "practice/appointments/turnos.h"
 
-#include "core/services/services.h"
+#include "core/services/profesional.h"
 #include "core/session/session.h"
 #include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
@@ -93,11 +93,7 @@ void cambiarEstado(dao::Recordset &lugar, const QString &estado)
 
 std::optional<qint64> idProfesional(const QString &nombre)
 {
-    basic::Value id = basic::Null{};
-    basic::ignoringErrors([&] { // an apostrophe in the name
-        id = MODULE11::BuscaCampo(u"Select * from profesionales where Nombre = '%1'"_s.arg(nombre),
-                                  u"idProfesional");
-    });
+    const basic::Value id = MODULE11::CampoDelProfesional(nombre, u"idProfesional");
     return id.isNull() ? std::nullopt : std::optional(id.integer());
 }
 
