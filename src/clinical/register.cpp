@@ -1,6 +1,5 @@
 #include "clinical/register.h"
 
-#include "clinical/catalogues/panBuscaInternet.h"
 #include "clinical/catalogues/panCIE10.h"
 #include "clinical/catalogues/panDiagnosticos.h"
 #include "clinical/catalogues/panSintomas.h"
@@ -34,7 +33,6 @@ void clinical::registerScreens()
     screens::add<panDiagnosticos>(u"panDiagnosticos"_s);
     screens::add<panTratamientos>(u"panTratamientos"_s);
     screens::add<panCIE10>(u"panCIE10"_s);
-    screens::add<panBuscaInternet>(u"panBuscaInternet"_s);
     screens::addOperation(u"TablaDiagnosticos"_s, TablaDiagnosticos);
     screens::addOperation(u"NuevaFicha"_s, NuevaFicha);
     screens::addOperation(u"AbreFicha"_s, AbreFicha);

@@ -8,7 +8,7 @@ class panBuscaInternet : public forms::Form
 {
     Q_OBJECT
 public:
-    explicit panBuscaInternet(const QString &texto = {});
+    explicit panBuscaInternet(const QString &texto);
 
 protected:
     void load() override;
