@@ -331,14 +331,20 @@ void panVisitas::nueva()
     if (captura.tag() != u"SI")
         return;
     const Visita visita = captura.visita();
-    registrarConsulta(tag(), visita);
-    Data2.refresh();
-    pararEn(visita.fecha, visita.hora);
+    try {
+        registrarConsulta(tag(), visita);
+    } catch (const basic::Error &) {
+        releer(visita.fecha, visita.hora); // what was written is in sight, so that nobody records it again
+        throw;
+    }
+    releer(visita.fecha, visita.hora);
 }
 
-/// The latest visit when there is none of that moment: an hour that is none was not stored.
-void panVisitas::pararEn(basic::Date fecha, const QString &hora)
+/// Stands on the visit of that moment, and on the latest when there is none: an hour that is none was not
+/// stored.
+void panVisitas::releer(basic::Date fecha, const QString &hora)
 {
+    Data2.refresh();
     Data2.change([&](dao::Recordset &visitas) {
         bool hallada = false;
         ignoringErrors([&] {

@@ -42,7 +42,7 @@ private:
     void agregados(consultas::Grupo grupo, const QStringList &nombres);
     void quitado(consultas::Grupo grupo, const QString &nombre);
     void nueva();
-    void pararEn(basic::Date fecha, const QString &hora);
+    void releer(basic::Date fecha, const QString &hora);
     void quitar();
     void abrirHistoria();
 
