@@ -123,7 +123,7 @@ void panNueTurno::activate()
         answer(u"NO"_s);
         return;
     }
-    permiso_ = *filtro;
+    permiso_ = numero_.isEmpty() ? *filtro : u" (%1 or Numero = %2) "_s.arg(*filtro, numero_);
     armarLista();
     if (!irAlPaciente()) {
         answer(u"NO"_s); // before somebody else's place is booked by mistake

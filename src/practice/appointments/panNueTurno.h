@@ -17,7 +17,8 @@ public:
 
     /// The coverage and the professional to start with; a text that is in no list selects nothing.
     void proponer(const QString &cobertura, const QString &profesional);
-    /// The patient to start with, by number; empty for the first of the list.
+    /// The patient to start with, by number, whom the person has in sight already and may see; empty for the
+    /// first of the list.
     void setPaciente(const QString &numero) { numero_ = numero; }
     void setFecha(basic::Date fecha) { mFecha.setValue(fecha); }
     /// The place is settled: the hour is shown but cannot be typed.
