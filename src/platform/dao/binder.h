@@ -77,6 +77,7 @@ private:
     Source *addSource(const QString &alias, bool nullable);
 
     void bindInsert(Insert &insert, Bound &bound);
+    Scope scopeOfTarget(const QString &table, Bound &bound);
     void bindUpdate(Update &update, Bound &bound);
     void bindDelete(Delete &remove, Bound &bound);
     void bindAssigned(ExprPtr &value, const FieldDef &field, const Scope &scope);

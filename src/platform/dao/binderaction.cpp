@@ -103,14 +103,21 @@ void Binder::bindInsert(Insert &insert, Bound &bound)
     requireKeys(*bound.target, insert);
 }
 
-void Binder::bindUpdate(Update &update, Bound &bound)
+/// The table that an action works on, under its own name.
+Binder::Scope Binder::scopeOfTarget(const QString &table, Bound &bound)
 {
-    bound.target = requireTable(update.table);
+    bound.target = requireTable(table);
     Source *source = addSource(bound.target->name, false);
     source->engineAlias.clear();
     source->table = bound.target;
     Scope scope;
     scope.sources = {source};
+    return scope;
+}
+
+void Binder::bindUpdate(Update &update, Bound &bound)
+{
+    const Scope scope = scopeOfTarget(update.table, bound);
     for (Assignment &assignment : update.assignments) {
         assignment.ordinal = bound.target->ordinal(assignment.column);
         if (assignment.ordinal < 0)
@@ -125,12 +132,7 @@ void Binder::bindUpdate(Update &update, Bound &bound)
 
 void Binder::bindDelete(Delete &remove, Bound &bound)
 {
-    bound.target = requireTable(remove.table);
-    Source *source = addSource(bound.target->name, false);
-    source->engineAlias.clear();
-    source->table = bound.target;
-    Scope scope;
-    scope.sources = {source};
+    const Scope scope = scopeOfTarget(remove.table, bound);
     if (remove.where)
         bindCondition(remove.where, scope);
 }
