@@ -1,9 +1,9 @@
 // What the database layer costs over the bare engine running the same statements on the same file. Each case
 // runs both in turn and reports their ratio; the last column says what it may be.
 #include "platform/dao/database.h"
-#include "platform/dao/embedded.h"
-#include "platform/dao/embeddedkey.h"
-#include "platform/dao/parser.h"
+#include "platform/dao/dialect/parser.h"
+#include "platform/dao/embedded/embeddedengine.h"
+#include "platform/dao/embedded/key.h"
 
 #include <QTemporaryDir>
 

@@ -6,9 +6,9 @@
 
 #include "clinical/patients/panSelPaciente.h"
 #include "core/database/actualiza.h"
-#include "core/session/Vademecum.h"
 #include "core/session/session.h"
 #include "core/session/startup.h"
+#include "core/windows/Vademecum.h"
 #include "paediatrics/charts/panPercentil.h"
 #include "platform/basic/environment.h"
 #include "platform/forms/application.h"

@@ -1,8 +1,8 @@
 #include "subsystems.h"
 
-#include "core/session/Vademecum.h"
 #include "core/session/ending.h"
 #include "core/session/startup.h"
+#include "core/windows/Vademecum.h"
 #include "platform/forms/application.h"
 #include "platform/settings/settings.h"
 

@@ -1,8 +1,8 @@
 #include "subsystems.h"
 
 #include "clinical/register.h"
-#include "core/session/ayuda.h"
 #include "core/session/register.h"
+#include "core/windows/ayuda.h"
 #include "paediatrics/register.h"
 #include "practice/register.h"
 

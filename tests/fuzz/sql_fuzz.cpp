@@ -1,8 +1,8 @@
 // Any text either parses or throws a dao::Error; what parses, written back, parses to the same tree, and over
 // a small practice it is either run or refused.
-#include "platform/dao/ast.h"
 #include "platform/dao/database.h"
-#include "platform/dao/parser.h"
+#include "platform/dao/dialect/ast.h"
+#include "platform/dao/dialect/parser.h"
 
 #include <QTemporaryDir>
 

@@ -244,3 +244,5 @@ void Runner::finish()
 }
 
 } // namespace guion
+
+#include "moc_runner.cpp"

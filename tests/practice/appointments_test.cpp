@@ -1,9 +1,9 @@
 #include "delivered.h"
 
-#include "core/session/Vademecum.h"
-#include "core/session/panInicial.h"
 #include "core/session/session.h"
 #include "core/session/startup.h"
+#include "core/windows/Vademecum.h"
+#include "core/windows/panInicial.h"
 #include "platform/basic/environment.h"
 #include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"

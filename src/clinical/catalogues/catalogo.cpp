@@ -225,3 +225,5 @@ void Catalogo::trasBorrar()
     llenar();
     mostrar(nullptr);
 }
+
+#include "moc_catalogo.cpp"

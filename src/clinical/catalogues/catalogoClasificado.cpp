@@ -104,3 +104,5 @@ void CatalogoClasificado::agregarClasificacion()
     Combo2.addItem(nombre);
     Combo1.setValue(filtro_);
 }
+
+#include "moc_catalogoClasificado.cpp"

@@ -75,3 +75,5 @@ void panBuscaInternet::buscar()
     settings::saveSetting(seccion, clave, Text2.text().trimmed());
     answer(u"SI"_s);
 }
+
+#include "moc_panBuscaInternet.cpp"

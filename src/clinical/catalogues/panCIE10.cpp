@@ -139,3 +139,5 @@ void panCIE10::expandir()
     const auto alSalir = qScopeGuard(MODULE11::RelojNormal);
     arbol_.expandir();
 }
+
+#include "moc_panCIE10.cpp"

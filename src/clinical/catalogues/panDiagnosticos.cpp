@@ -46,3 +46,5 @@ void panDiagnosticos::listar(dao::Recordset &filas)
     for (; !filas.eof() && pasaElFiltro(filas); filas.moveNext())
         agregarALaLista(filas);
 }
+
+#include "moc_panDiagnosticos.cpp"

@@ -67,3 +67,5 @@ void panSintomas::trasBorrar()
     if (MODULE11::Pregunta(u"Actualiza Tabla ahora"_s))
         Catalogo::trasBorrar();
 }
+
+#include "moc_panSintomas.cpp"

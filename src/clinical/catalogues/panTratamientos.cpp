@@ -144,3 +144,5 @@ void panTratamientos::mostrarImagen(const basic::Value &imagen)
     Picture2.setPixmap(QPixmap::fromImage(producto));
     Picture2.setVisible(!producto.isNull());
 }
+
+#include "moc_panTratamientos.cpp"

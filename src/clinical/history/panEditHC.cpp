@@ -192,3 +192,5 @@ void panEditHC::command3Click()
     MODULE11::RegistraEvento(
         accion, u"GUARDAR CAMBIOS // PACIENTE : %1 // LARGO TXT : %2"_s.arg(tag()).arg(texto.size()));
 }
+
+#include "moc_panEditHC.cpp"

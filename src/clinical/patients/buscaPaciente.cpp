@@ -11,3 +11,5 @@ buscaPaciente::buscaPaciente()
     connect(&Command1, &QPushButton::clicked, this, [this] { answer(u"PORAP"_s); });
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"PORHI"_s); });
 }
+
+#include "moc_buscaPaciente.cpp"

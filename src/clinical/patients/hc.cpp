@@ -250,3 +250,5 @@ void hc::alternar(int grilla, const QString &columna)
     });
     Grid1(grilla).item(Grid1(grilla).currentRow(), 1)->setText(Data1.recordset()[columna].text());
 }
+
+#include "moc_hc.cpp"

@@ -67,3 +67,5 @@ void panAnteFliares::command3Click()
     filas.update();
     llenar();
 }
+
+#include "moc_panAnteFliares.cpp"

@@ -75,3 +75,5 @@ void panComFliar::command8Click()
 {
     delete List1.takeItem(List1.currentRow());
 }
+
+#include "moc_panComFliar.cpp"

@@ -150,3 +150,5 @@ const panComFliar *panNuePaciente::condicionFamiliar() const
 {
     return familia_.tag() == u"SI" ? &familia_ : nullptr;
 }
+
+#include "moc_panNuePaciente.cpp"

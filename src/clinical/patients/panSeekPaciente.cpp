@@ -13,3 +13,5 @@ panSeekPaciente::panSeekPaciente() : Form(u"panSeekPaciente"_s)
     connect(&Command1, &QPushButton::clicked, this, [this] { answer(u"SI"_s); });
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
 }
+
+#include "moc_panSeekPaciente.cpp"

@@ -176,3 +176,5 @@ bool panSelPaciente::eventFilter(QObject *receptor, QEvent *evento)
     }
     return Form::eventFilter(receptor, evento);
 }
+
+#include "moc_panSelPaciente.cpp"

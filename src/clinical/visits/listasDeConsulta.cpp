@@ -166,3 +166,5 @@ bool ListasDeConsulta::eventFilter(QObject *receptor, QEvent *evento)
         return false;
     }
 }
+
+#include "moc_listasDeConsulta.cpp"

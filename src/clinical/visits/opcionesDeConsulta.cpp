@@ -62,3 +62,5 @@ void OpcionesDeConsulta::setEnabled(bool enabled)
         option3d2(i).setEnabled(enabled);
     }
 }
+
+#include "moc_opcionesDeConsulta.cpp"

@@ -253,3 +253,5 @@ Visita panNueConsulta::visita() const
             visita.examen.push_back({titulo, campo->text()});
     return visita;
 }
+
+#include "moc_panNueConsulta.cpp"

@@ -393,3 +393,5 @@ bool panVisitas::queryUnload()
     Data2.updateRecord();
     return true;
 }
+
+#include "moc_panVisitas.cpp"

@@ -13,3 +13,5 @@ panAdmAlarmas::panAdmAlarmas() : Form(u"panAdmAlarmas"_s)
     setContents(this, Row{Expanding(TreeView1), Column{Command1, Command2, Stretch()}});
     resize(480, 360);
 }
+
+#include "moc_panAdmAlarmas.cpp"

@@ -169,3 +169,5 @@ void panNiveles::command2Click()
     Data1.recordset().deleteRow();
     Data1.refresh();
 }
+
+#include "moc_panNiveles.cpp"

@@ -63,3 +63,5 @@ void panNueUsuario::command1Click()
             u"Ingrese los datos correctamente, fíjese de colocar la clave de acceso correctamente en ambas casillas de texto"_s,
             Icon::Critical, u"Error"_s);
 }
+
+#include "moc_panNueUsuario.cpp"

@@ -196,3 +196,5 @@ void panUsuarios::command5Click()
     mostrarEventos(u" and Fecha >= cdate('%1') and Fecha <= cdate('%2')"_s.arg(basic::dateText(dt1.value()),
                                                                                basic::dateText(dt2.value())));
 }
+
+#include "moc_panUsuarios.cpp"

@@ -10,3 +10,5 @@ buscaDato::buscaDato()
     connect(&Command1, &QPushButton::clicked, this, [this] { answer(u"SI"_s); });
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
 }
+
+#include "moc_buscaDato.cpp"

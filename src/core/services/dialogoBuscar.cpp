@@ -42,3 +42,5 @@ void DialogoBuscar::mover(dao::Recordset &recordset, const QString &criterio) co
     else
         recordset.findFirst(criterio);
 }
+
+#include "moc_dialogoBuscar.cpp"

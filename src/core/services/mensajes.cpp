@@ -22,3 +22,5 @@ preg::preg() : Form(u"preg"_s)
     connect(&Command3d1, &QPushButton::clicked, this, [this] { answer(u"SI"_s); });
     connect(&Command3d2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
 }
+
+#include "moc_mensajes.cpp"

@@ -16,3 +16,5 @@ panIdato::panIdato() : Form(u"panIdato"_s)
     connect(&Command1, &QPushButton::clicked, this, [this] { answer(u"SI"_s); });
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
 }
+
+#include "moc_panIdato.cpp"

@@ -87,3 +87,5 @@ void panListados::calcular()
         MODULE11::MuestraError(u"Error de calculo en fórmula, cierre la ventana e intente nuevamente"_s);
     }
 }
+
+#include "moc_panListados.cpp"

@@ -24,3 +24,5 @@ void panSelDesHas::command1Click()
     if (desde() < hasta())
         answer(u"SI"_s);
 }
+
+#include "moc_panSelDesHas.cpp"

@@ -19,3 +19,5 @@ void panSelFecha::load()
 {
     setTag(u"NO"_s);
 }
+
+#include "moc_panSelFecha.cpp"

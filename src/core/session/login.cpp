@@ -1,8 +1,8 @@
 #include "core/session/login.h"
 
 #include "core/security/niveles.h"
-#include "core/session/panIngresoUsuario.h"
 #include "core/session/session.h"
+#include "core/windows/panIngresoUsuario.h"
 #include "platform/basic/errors.h"
 #include "platform/forms/boxes.h"
 

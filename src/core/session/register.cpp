@@ -3,10 +3,10 @@
 #include "core/security/panAdmAlarmas.h"
 #include "core/security/panNiveles.h"
 #include "core/security/panUsuarios.h"
-#include "core/session/acerca.h"
-#include "core/session/asistente.h"
-#include "core/session/panPersonaliza.h"
 #include "core/session/screens.h"
+#include "core/windows/acerca.h"
+#include "core/windows/asistente.h"
+#include "core/windows/panPersonaliza.h"
 
 using namespace Qt::StringLiterals;
 

@@ -68,3 +68,5 @@ void panCrecimiento::command10Click()
     if (existe)
         screens::showModal(u"panMuesCurvas"_s, tag());
 }
+
+#include "moc_panCrecimiento.cpp"

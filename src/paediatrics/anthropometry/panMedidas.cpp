@@ -84,3 +84,5 @@ void panMedidas::command1Click()
     }
     answer(u"SI"_s);
 }
+
+#include "moc_panMedidas.cpp"

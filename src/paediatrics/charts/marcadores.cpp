@@ -78,3 +78,5 @@ bool CapaDeMarcadores::event(QEvent *event)
 }
 
 } // namespace charts
+
+#include "moc_marcadores.cpp"

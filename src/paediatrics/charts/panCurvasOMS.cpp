@@ -115,3 +115,5 @@ void panCurvasOMS::command2Click()
     documento.paintPage(imagen);
     documento.endDoc();
 }
+
+#include "moc_panCurvasOMS.cpp"

@@ -139,3 +139,5 @@ void panMuesCurvas::command2Click()
 {
     screens::showModal(destino(), sujeto());
 }
+
+#include "moc_panMuesCurvas.cpp"

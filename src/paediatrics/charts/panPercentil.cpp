@@ -150,3 +150,5 @@ void panPercentil::command1Click()
         documento.endDoc();
     });
 }
+
+#include "moc_panPercentil.cpp"

@@ -2,7 +2,9 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <exception>
+#include <initializer_list>
 
 namespace basic
 {
@@ -26,6 +28,21 @@ private:
     QString description_;
     QByteArray what_;
 };
+
+/// Runs one statement whose failure of these kinds the rule skips; true when it went through. A failure of
+/// another kind goes on to the caller.
+template <class Statement>
+bool ignoring(std::initializer_list<int> expected, Statement &&statement)
+{
+    try {
+        statement();
+        return true;
+    } catch (const Error &error) {
+        if (std::find(expected.begin(), expected.end(), error.number()) == expected.end())
+            throw;
+        return false;
+    }
+}
 
 /// Runs one statement whose failure the rule skips; true when it went through.
 template <class Statement>

@@ -110,3 +110,5 @@ void Application::dress()
 }
 
 } // namespace forms
+
+#include "moc_application.cpp"

@@ -232,3 +232,5 @@ PictureBox::~PictureBox()
 }
 
 } // namespace forms
+
+#include "moc_controls.cpp"

@@ -232,3 +232,5 @@ void Data::change(const std::function<void(dao::Recordset &)> &work)
 }
 
 } // namespace forms
+
+#include "moc_data.cpp"

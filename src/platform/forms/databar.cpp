@@ -79,3 +79,5 @@ void DataBar::enableSteps()
 }
 
 } // namespace forms
+
+#include "moc_databar.cpp"

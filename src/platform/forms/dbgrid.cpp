@@ -319,3 +319,5 @@ void DBGrid::keyPressEvent(QKeyEvent *event)
 }
 
 } // namespace forms
+
+#include "moc_dbgrid.cpp"

@@ -274,3 +274,5 @@ void centreOnScreen(QWidget *window)
 }
 
 } // namespace forms
+
+#include "moc_form.cpp"

@@ -25,3 +25,5 @@ QSize UpDown::sizeHint() const
 }
 
 } // namespace forms
+
+#include "moc_updown.cpp"

@@ -171,3 +171,5 @@ void HerramientaHorarios::command8Click()
     trabajar([&](const horarios::Avance &avance) { horarios::quitar(esquema(), avance); });
     diasEnVerde();
 }
+
+#include "moc_herramientaHorarios.cpp"

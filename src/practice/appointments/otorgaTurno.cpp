@@ -2,8 +2,8 @@
 
 #include "core/security/niveles.h"
 #include "core/services/services.h"
-#include "core/session/despacho.h"
 #include "core/session/session.h"
+#include "core/windows/despacho.h"
 #include "platform/basic/environment.h"
 #include "platform/basic/runtime.h"
 #include "platform/forms/boxes.h"

@@ -35,3 +35,5 @@ void panCambiaEstadoTurno::command1Click()
     }
     answer(u"SI"_s);
 }
+
+#include "moc_panCambiaEstadoTurno.cpp"

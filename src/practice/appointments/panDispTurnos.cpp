@@ -55,3 +55,5 @@ void panDispTurnos::command1Click()
     }
     answer(u"SI"_s);
 }
+
+#include "moc_panDispTurnos.cpp"

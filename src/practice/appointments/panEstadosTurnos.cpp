@@ -51,3 +51,5 @@ void panEstadosTurnos::command2Click()
     Data1.change([](dao::Recordset &estados) { estados.deleteRow(); });
     Data1.refresh();
 }
+
+#include "moc_panEstadosTurnos.cpp"

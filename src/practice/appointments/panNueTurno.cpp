@@ -371,3 +371,5 @@ turnos::Reserva panNueTurno::reserva()
             .observaciones = mObservaciones.toPlainText(),
             .edad = turnos::textoDeEdad(edad_)};
 }
+
+#include "moc_panNueTurno.cpp"

@@ -286,3 +286,5 @@ void panTurnos::informe()
     if (MODULE11::VerificaNivel(u"IngresarAInformes"_s))
         screens::showModal(u"panInfTurnos"_s);
 }
+
+#include "moc_panTurnos.cpp"

@@ -130,3 +130,5 @@ void CalendarioAnual::mostrarDia(int mes, QDate dia)
 }
 
 } // namespace practice
+
+#include "moc_calendarioAnual.cpp"

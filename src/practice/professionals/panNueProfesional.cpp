@@ -69,3 +69,5 @@ void panNueProfesional::command1Click()
     else
         MODULE11::MuestraError(u"Error, ingrese correctamtente los datos solicitados !"_s);
 }
+
+#include "moc_panNueProfesional.cpp"

@@ -215,3 +215,5 @@ void panProfesionales::imprimirClick()
     Data1.updateRecord();
     practice::imprimeProfesionales();
 }
+
+#include "moc_panProfesionales.cpp"

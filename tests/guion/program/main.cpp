@@ -3,9 +3,9 @@
 
 #include "subsystems.h"
 
-#include "core/session/Vademecum.h"
 #include "core/session/ending.h"
 #include "core/session/startup.h"
+#include "core/windows/Vademecum.h"
 
 #include <QDir>
 #include <QFile>

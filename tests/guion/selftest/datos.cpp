@@ -47,3 +47,5 @@ void panDatos::load()
 }
 
 } // namespace selftest
+
+#include "moc_datos.cpp"

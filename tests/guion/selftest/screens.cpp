@@ -267,3 +267,5 @@ void Principal::openChild()
 }
 
 } // namespace selftest
+
+#include "moc_screens.cpp"

@@ -1,8 +1,8 @@
 #include "fixture.h"
 
 #include "platform/basic/environment.h"
-#include "platform/dao/ast.h"
-#include "platform/dao/parser.h"
+#include "platform/dao/dialect/ast.h"
+#include "platform/dao/dialect/parser.h"
 
 #include <QFile>
 

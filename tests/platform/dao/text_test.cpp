@@ -1,7 +1,7 @@
 #include "fixture.h"
 
-#include "platform/dao/collation.h"
-#include "platform/dao/like.h"
+#include "platform/dao/dialect/collation.h"
+#include "platform/dao/dialect/like.h"
 
 #include <algorithm>
 

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "platform/dao/engine/engine.h"
+
+#include "platform/dao/error.h"
+#include <QElapsedTimer>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace dao
+{
+
+/// The engine inside the process: one enciphered file, shared through its own locks.
+class EmbeddedEngine : public Engine
+{
+public:
+    struct Options {
+        bool create = false;
+        bool exclusive = false;
+        bool readOnly = false;
+    };
+
+    /// `key` as rawKey() gives it; empty for a file without a password.
+    EmbeddedEngine(const QString &path, const QByteArray &key, const Options &options);
+    ~EmbeddedEngine() override;
+
+    std::unique_ptr<EngineStatement> prepare(const QString &sql) override;
+    qint64 lastKey() override;
+    qint64 changes() override;
+    void begin() override;
+    void beginRead() override;
+    void commit() override;
+    void rollback() noexcept override;
+    bool inTransaction() const override;
+    EngineCatalogue readCatalogue() override;
+    qint64 schemaVersion() override;
+    qint64 dataVersion() override;
+    void createTable(const QString &name, const std::vector<FieldDef> &columns) override;
+    void dropTable(const Table &table) override;
+    void createIndex(const Table &table, const IndexDef &index) override;
+    void dropIndex(const Table &table, const IndexDef &index) override;
+    void addColumn(const Table &table, const FieldDef &column) override;
+    void dropColumn(const Table &table, int ordinal) override;
+    void saveQuery(const QString &name, const QString &text) override;
+    Table createScratchTable(const std::vector<FieldDef> &columns) override;
+    void dropScratchTable(const Table &table) noexcept override;
+    QStringList check() override;
+    bool readOnly() const override;
+
+    /// Runs statements of the engine without results.
+    void run(const QByteArray &sql);
+    sqlite3 *handle() const { return db_.get(); }
+
+private:
+    struct Close {
+        void operator()(sqlite3 *db) const;
+    };
+
+    void rebuild(const Table &table, const std::vector<FieldDef> &columns);
+    qint64 number(std::unique_ptr<EngineStatement> &statement, const char16_t *sql);
+
+    QElapsedTimer waiting_; ///< since another station was found to hold the file
+    std::unique_ptr<sqlite3, Close> db_;
+    std::unique_ptr<EngineStatement> schemaVersion_, dataVersion_;
+    bool enciphered_ = false;
+    bool scratch_ = false;
+    int scratchTables_ = 0;
+};
+
+/// Makes the order of texts and the dialect's functions known to a connection.
+void registerDialect(sqlite3 *db);
+/// The failure that the connection reports for a result code.
+Error engineError(sqlite3 *db, int code);
+
+/// Opens with the password of a connect string, telling a wrong one from a file of another kind.
+std::unique_ptr<EmbeddedEngine> openEmbedded(const QString &path, const QString &password,
+                                             const EmbeddedEngine::Options &options);
+
+} // namespace dao

@@ -1,0 +1,259 @@
+#include "platform/dao/database.h"
+
+#include "platform/dao/embedded/embeddedengine.h"
+#include "platform/dao/embedded/emitter.h"
+#include "platform/dao/embedded/key.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+#include ENGINE_HEADER
+
+/// Work on a closed file as a whole. Both operations write a new file under another name first, so that a
+/// failure midway leaves what there was.
+namespace dao
+{
+
+namespace
+{
+
+/// Failed reads of one table after which the rest of its damaged stretch is given up.
+constexpr int mostFailedReads = 4000;
+
+QString quoted(QByteArray text)
+{
+    return u'\'' + QString::fromUtf8(text.replace('\'', "''")) + u'\'';
+}
+
+void requireClosed(EmbeddedEngine &engine)
+{
+    engine.run("BEGIN IMMEDIATE; ROLLBACK");
+}
+
+/// A file that is being written; gone again unless it was kept.
+class Unfinished
+{
+public:
+    explicit Unfinished(QString path) : path_(std::move(path)) { QFile::remove(path_); }
+    ~Unfinished() { QFile::remove(path_); }
+    Unfinished(const Unfinished &) = delete;
+    Unfinished &operator=(const Unfinished &) = delete;
+    const QString &path() const { return path_; }
+    void keepAs(const QString &name) const
+    {
+        if (!QFile::rename(path_, name))
+            throw Error(
+                Error::ReadOnly,
+                QStringLiteral("No se pudo crear el archivo '%1'.").arg(QDir::toNativeSeparators(name)));
+    }
+
+private:
+    QString path_;
+};
+
+/// Reads what can be read of a damaged file into a new one.
+class Rescue
+{
+public:
+    Rescue(const QString &from, const QString &to, const QString &password)
+        : from_(from), password_(password),
+          to_(to, password.isEmpty() ? QByteArray() : rawKey(password, freshSalt()), {.create = true})
+    {
+        reopen();
+    }
+
+    void run()
+    {
+        const EngineCatalogue catalogue = source_->readCatalogue();
+        for (const auto &[name, text] : catalogue.queries)
+            to_.saveQuery(name, text);
+        for (const Table &table : catalogue.tables) {
+            to_.createTable(table.name, table.columns);
+            copyTable(table);
+            for (const IndexDef &index : table.indexes)
+                copyIndex(table, index);
+        }
+    }
+
+private:
+    void reopen()
+    {
+        source_.reset(); // a connection that has met a damaged page reads no more
+        source_ = openEmbedded(from_, password_, {.readOnly = true});
+    }
+
+    void copyIndex(const Table &table, IndexDef index)
+    {
+        if (basic::ignoringErrors([&] { to_.createIndex(table, index); }))
+            return;
+        // Better a row too many than one lost: what was unique in a sound file may not be in this one.
+        index.unique = false;
+        to_.createIndex(table, index);
+    }
+
+    qint64 highestKey(const Table &table)
+    {
+        constexpr qint64 beyondAny = qint64(1) << 40;
+        qint64 highest = beyondAny;
+        const bool read = basic::ignoringErrors([&] {
+            const auto statement =
+                source_->prepare(QStringLiteral("SELECT seq FROM sqlite_sequence WHERE name = ?"));
+            statement->bind(0, table.name);
+            highest = statement->step() ? statement->integer(0) : 0;
+        });
+        if (!read)
+            reopen();
+        return highest;
+    }
+
+    void copyTable(const Table &table)
+    {
+        QStringList names{engineName(table.keyColumn)};
+        for (const FieldDef &column : table.columns) {
+            if (column.name != table.keyColumn)
+                names << engineName(column.name);
+        }
+        const QString list = names.join(u", ");
+        const QString name = engineName(table.name);
+        columns_ = static_cast<int>(names.size());
+        select_ = QStringLiteral("SELECT %1 FROM %2 WHERE %3 BETWEEN ? AND ? ORDER BY %3")
+                      .arg(list, name, names[0]);
+        insert_ = to_.prepare(QStringLiteral("INSERT OR IGNORE INTO %1 (%2) VALUES (?%3)")
+                                  .arg(name, list, QStringLiteral(",?").repeated(columns_ - 1)));
+        const qint64 highest = highestKey(table);
+        failures_ = 0;
+        to_.begin();
+        copyRange(std::numeric_limits<qint64>::min(), 0);
+        copyRange(1, highest);
+        to_.commit();
+        insert_.reset();
+        const auto sequence =
+            to_.prepare(QStringLiteral("UPDATE sqlite_sequence SET seq = max(seq, ?) WHERE name = ?"));
+        sequence->bind(0, highest);
+        sequence->bind(1, table.name);
+        if (highest < qint64(1) << 40)
+            sequence->step();
+    }
+
+    /// Copies the rows of a range of keys; on a damaged page what lies before it and behind it, then each
+    /// half of the gap between the two.
+    void copyRange(qint64 first, qint64 last)
+    {
+        if (first > last || failures_ > mostFailedReads)
+            return;
+        const std::optional<qint64> failedAfter = copyRun(first, last, false);
+        if (!failedAfter)
+            return;
+        const qint64 low = std::max(first, *failedAfter + 1);
+        const std::optional<qint64> failedBefore = copyRun(low, last, true);
+        if (!failedBefore)
+            return;
+        const qint64 high = std::min(last, *failedBefore - 1);
+        if (low >= high)
+            return;
+        const qint64 middle = low + (high - low) / 2;
+        copyRange(low, middle);
+        copyRange(middle + 1, high);
+    }
+
+    /// The key at which the reading failed, or nothing when it came through.
+    std::optional<qint64> copyRun(qint64 first, qint64 last, bool backwards)
+    {
+        using Limits = std::numeric_limits<qint64>;
+        qint64 reached = backwards ? (last == Limits::max() ? last : last + 1)
+                                   : (first == Limits::min() ? first : first - 1);
+        try {
+            const auto select = source_->prepare(backwards ? select_ + QStringLiteral(" DESC") : select_);
+            const StatementRun run(*select);
+            select->bind(0, first);
+            select->bind(1, last);
+            auto *const from = statementOf(*select);
+            while (select->step()) {
+                reached = select->integer(0);
+                copyRow(from);
+            }
+            return {};
+        } catch (const Error &) {
+            ++failures_;
+            reopen();
+            return reached;
+        }
+    }
+
+    static sqlite3_stmt *statementOf(EngineStatement &statement)
+    {
+        return static_cast<sqlite3_stmt *>(statement.nativeHandle());
+    }
+
+    void copyRow(sqlite3_stmt *from)
+    {
+        sqlite3_stmt *const to = statementOf(*insert_);
+        for (int i = 0; i < columns_; ++i)
+            sqlite3_bind_value(to, i + 1, sqlite3_column_value(from, i));
+        const StatementRun run(*insert_);
+        insert_->step();
+    }
+
+    QString from_;
+    QString password_;
+    EmbeddedEngine to_;
+    std::unique_ptr<EmbeddedEngine> source_;
+    std::unique_ptr<EngineStatement> insert_;
+    QString select_;
+    int columns_ = 0;
+    int failures_ = 0;
+};
+
+} // namespace
+
+void compactDatabase(const QString &source, const QString &destination, const QString &destinationLocale,
+                     const QString &sourceConnect)
+{
+    if (QFile::exists(destination))
+        throw Error(Error::FileExists,
+                    QStringLiteral("El archivo '%1' ya existe.").arg(QDir::toNativeSeparators(destination)));
+    const QString password = passwordOf(namesPassword(destinationLocale) ? destinationLocale : sourceConnect);
+    const Unfinished fresh(destination + QStringLiteral(".tmp"));
+    {
+        const auto engine = openEmbedded(source, passwordOf(sourceConnect), {});
+        const QByteArray key = password.isEmpty() ? QByteArray() : rawKey(password, freshSalt());
+        requireClosed(*engine);
+        const QString attach =
+            QStringLiteral("ATTACH %1 AS destino KEY %2")
+                .arg(quoted(QFile::encodeName(fresh.path())),
+                     key.isEmpty() ? QStringLiteral("''") : u'"' + QString::fromLatin1(key) + u'"');
+        // The connection may not make files, but fills an empty one.
+        if (QFile empty(fresh.path()); !empty.open(QIODevice::WriteOnly))
+            throw Error(Error::ReadOnly, QStringLiteral("No se pudo crear el archivo '%1'.")
+                                             .arg(QDir::toNativeSeparators(destination)));
+        engine->run(attach.toUtf8());
+        engine->run("BEGIN; SELECT sqlcipher_export('destino'); COMMIT; DETACH destino");
+    }
+    fresh.keepAs(destination);
+}
+
+void repairDatabase(const QString &path, const QString &connect)
+{
+    const QString password = passwordOf(connect);
+    const Unfinished fresh(path + QStringLiteral(".tmp"));
+    {
+        Rescue rescue(path, fresh.path(), isPlainDatabase(path) ? QString() : password);
+        rescue.run();
+    }
+    QString aside = path + QStringLiteral(".dañada");
+    for (int i = 2; QFile::exists(aside); ++i)
+        aside = path + QStringLiteral(".dañada%1").arg(i);
+    if (!QFile::rename(path, aside))
+        throw Error(Error::ReadOnly, QStringLiteral("No se pudo apartar el archivo dañado."));
+    try {
+        fresh.keepAs(path);
+    } catch (const Error &) {
+        QFile::rename(aside, path);
+        throw;
+    }
+}
+
+} // namespace dao

@@ -1,0 +1,189 @@
+#include "platform/dao/engine/connection.h"
+
+#include "platform/dao/dialect/parser.h"
+#include "platform/dao/recordsets/recordsetprivate.h"
+
+#include <chrono>
+#include <ctime>
+
+namespace dao
+{
+
+namespace
+{
+
+/// Steps every few milliseconds, and is read in as many nanoseconds.
+qint64 coarseClock()
+{
+    timespec now{};
+    clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
+    return static_cast<qint64>(now.tv_sec) * 1'000'000'000 + now.tv_nsec;
+}
+
+bool isDefinition(const Statement &statement)
+{
+    return statement.index() > 3;
+}
+
+} // namespace
+
+void DatabasePrivate::attach(std::unique_ptr<Engine> engine, const QString &path)
+{
+    engine_ = std::move(engine);
+    path_ = path;
+    catalogue_ = std::make_unique<Catalogue>(*engine_);
+    catalogue_->reload();
+    dataVersion_ = engine_->dataVersion();
+    checkedAt_ = coarseClock();
+}
+
+void DatabasePrivate::detach()
+{
+    const QSet<RecordsetPrivate *> open = std::exchange(recordsets_, {});
+    for (RecordsetPrivate *recordset : open)
+        recordset->detach();
+    prepared_.clear();
+    statements_.clear();
+    catalogue_.reset();
+    engine_.reset();
+    batchDepth_ = 0;
+    path_.clear();
+}
+
+Engine &DatabasePrivate::engine()
+{
+    if (!engine_)
+        throw Error(Error::Closed, QStringLiteral("La base de datos no está abierta."));
+    return *engine_;
+}
+
+Catalogue &DatabasePrivate::catalogue()
+{
+    engine();
+    return *catalogue_;
+}
+
+bool DatabasePrivate::mayBeStale(const Error &error)
+{
+    switch (error.number()) {
+    case Error::BadParameters:
+    case Error::NotATable:
+    case Error::TableNotFound:
+    case Error::ItemNotFound:
+    case Error::IndexNotFound:
+        return true;
+    default:
+        return false;
+    }
+}
+
+PreparedPtr DatabasePrivate::prepare(const QString &sql)
+{
+    engine();
+    if (const PreparedPtr *known = prepared_.find(sql);
+        known && (*known)->generation == catalogue_->generation())
+        return *known;
+    return withFreshCatalogue([&] {
+        PreparedPtr made = prepare(parseStatement(sql));
+        if (!made->bound->timeDependent)
+            prepared_.insert(sql, made);
+        return made;
+    });
+}
+
+PreparedPtr DatabasePrivate::prepare(Statement statement)
+{
+    if (isDefinition(statement))
+        throw Error(Error::SyntaxError, QStringLiteral("La instrucción no es una consulta."));
+    auto made = std::make_shared<Prepared>();
+    made->bound = Binder(catalogue()).bind(std::move(statement));
+    made->sql = Emitter::statement(*made->bound);
+    made->generation = catalogue_->generation();
+    return made;
+}
+
+StatementPtr DatabasePrivate::statement(const QString &engineSql)
+{
+    Engine &running = engine();
+    if (const StatementPtr *known = statements_.find(engineSql))
+        return *known;
+    return statements_.insert(engineSql, StatementPtr(running.prepare(engineSql)));
+}
+
+StatementPtr DatabasePrivate::bound(const EngineSql &sql)
+{
+    StatementPtr made = statement(sql.text);
+    for (size_t i = 0; i < sql.parameters.size(); ++i)
+        made->bind(static_cast<int>(i), sql.parameters[i]);
+    return made;
+}
+
+qint64 DatabasePrivate::write(EngineStatement &statement)
+{
+    const bool batch = batchDepth_ > 0;
+    if (batch && !engine().inTransaction()) {
+        engine().begin();
+        rowsInBatch_ = 0;
+    }
+    {
+        const StatementRun run(statement);
+        statement.step();
+    }
+    processWrites_.fetch_add(1, std::memory_order_relaxed);
+    const qint64 rows = engine().changes();
+    if (batch && ++rowsInBatch_ >= batchRows_) {
+        engine().commit();
+        rowsInBatch_ = 0;
+    }
+    return rows;
+}
+
+qint64 DatabasePrivate::execute(const QString &sql)
+{
+    engine();
+    PreparedPtr prepared;
+    if (const PreparedPtr *known = prepared_.find(sql);
+        known && (*known)->generation == catalogue_->generation()) {
+        prepared = *known;
+    } else {
+        Statement parsed = parseStatement(sql);
+        if (isDefinition(parsed)) {
+            define(parsed);
+            return 0;
+        }
+        prepared = prepare(sql);
+    }
+    if (std::holds_alternative<SelectPtr>(prepared->bound->statement))
+        throw Error(Error::SyntaxError, QStringLiteral("No se puede ejecutar una consulta de selección."));
+    return withFreshCatalogue([&] { return write(*bound(prepared->sql)); });
+}
+
+void DatabasePrivate::beginBatch(int rows)
+{
+    engine();
+    if (batchDepth_++ == 0)
+        batchRows_ = std::max(rows, 1);
+}
+
+void DatabasePrivate::endBatch()
+{
+    if (batchDepth_ == 0)
+        throw Error(Error::Engine, QStringLiteral("No hay ninguna transacción abierta."));
+    if (--batchDepth_ == 0 && engine().inTransaction())
+        engine().commit();
+}
+
+qint64 DatabasePrivate::changeStamp()
+{
+    const qint64 now = coarseClock();
+    if (now != checkedAt_) {
+        checkedAt_ = now;
+        const qint64 version = engine().dataVersion();
+        if (version != dataVersion_)
+            ++foreignChanges_;
+        dataVersion_ = version;
+    }
+    return foreignChanges_ + ownWrites();
+}
+
+} // namespace dao

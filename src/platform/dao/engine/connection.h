@@ -1,0 +1,107 @@
+#pragma once
+
+#include "platform/dao/database.h"
+#include "platform/dao/dialect/binder.h"
+#include "platform/dao/embedded/emitter.h"
+#include "platform/dao/engine/catalogue.h"
+#include "platform/dao/engine/engine.h"
+#include "platform/dao/engine/lru.h"
+
+#include <QSet>
+
+#include <atomic>
+#include <memory>
+#include <utility>
+
+namespace dao
+{
+
+using StatementPtr = std::shared_ptr<EngineStatement>;
+
+/// A text of the dialect as far as it can be prepared before it runs.
+struct Prepared {
+    std::shared_ptr<const Bound> bound;
+    EngineSql sql;
+    int generation = 0; ///< of the catalogue
+};
+using PreparedPtr = std::shared_ptr<const Prepared>;
+
+/// The inside of an open database: its engine, the catalogue, the caches of prepared statements.
+class DatabasePrivate
+{
+public:
+    void attach(std::unique_ptr<Engine> engine, const QString &path);
+    void detach();
+    bool isOpen() const { return engine_ != nullptr; }
+    const QString &path() const { return path_; }
+
+    Engine &engine(); ///< throws Error::Closed
+    Catalogue &catalogue();
+
+    /// Parses, binds and emits a text that is not DDL, or takes it from the cache.
+    PreparedPtr prepare(const QString &sql);
+    /// The same of a tree.
+    PreparedPtr prepare(Statement statement);
+    /// The engine's statement for its text, shared by all that run the same.
+    StatementPtr statement(const QString &engineSql);
+    StatementPtr bound(const EngineSql &sql); ///< with its parameters bound
+
+    /// Runs a statement that writes; counts towards the batch. Returns the rows changed.
+    qint64 write(EngineStatement &statement);
+    qint64 execute(const QString &sql);
+    void define(const Statement &statement); ///< runs a statement of DDL
+
+    void beginBatch(int rows);
+    void endBatch();
+
+    /// A number that differs whenever rows may have changed: at once for what this process writes, within
+    /// milliseconds for what another one does.
+    qint64 changeStamp();
+    /// The part of it that this process makes, which costs nothing to read.
+    static qint64 ownWrites() { return processWrites_.load(std::memory_order_relaxed); }
+
+    /// Runs what may fail for a catalogue that somebody else has changed, once more after reading it again.
+    template <class Work>
+    auto withFreshCatalogue(Work &&work)
+    {
+        try {
+            return work();
+        } catch (const Error &error) {
+            if (!mayBeStale(error) || !catalogue().refresh())
+                throw;
+        }
+        return work();
+    }
+
+    QSet<RecordsetPrivate *> &recordsets() { return recordsets_; }
+
+private:
+    static bool mayBeStale(const Error &error);
+
+    TablePtr existingTable(const QString &name);
+    int existingColumn(const Table &table, const QString &name);
+    void createTable(const CreateTable &create);
+    void createIndex(const CreateIndex &create);
+    void dropIndex(const DropIndex &drop);
+    void addColumn(const AddColumn &add);
+    void dropColumn(const DropColumn &drop);
+
+    /// Of all connections, so that what one of them writes another one shows at once.
+    static inline std::atomic<qint64> processWrites_{0};
+
+    // In this order: statements end before their engine.
+    std::unique_ptr<Engine> engine_;
+    std::unique_ptr<Catalogue> catalogue_;
+    LruCache<StatementPtr> statements_{200};
+    LruCache<PreparedPtr> prepared_{400};
+    QString path_;
+    QSet<RecordsetPrivate *> recordsets_;
+    int batchDepth_ = 0;
+    int batchRows_ = 0;
+    int rowsInBatch_ = 0;
+    qint64 dataVersion_ = 0;
+    qint64 foreignChanges_ = 0;
+    qint64 checkedAt_ = 0;
+};
+
+} // namespace dao

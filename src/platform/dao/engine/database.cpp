@@ -1,0 +1,236 @@
+#include "platform/dao/database.h"
+
+#include "platform/dao/dialect/names.h"
+#include "platform/dao/dialect/parser.h"
+#include "platform/dao/embedded/embeddedengine.h"
+#include "platform/dao/embedded/key.h"
+#include "platform/dao/engine/connection.h"
+#include "platform/dao/recordsets/dynaset.h"
+#include "platform/dao/recordsets/snapshot.h"
+#include "platform/dao/recordsets/tablerecordset.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace dao
+{
+
+namespace
+{
+
+QString bareName(const QString &source)
+{
+    const QString name = source.trimmed();
+    return name.startsWith(u'[') && name.endsWith(u']') ? name.sliced(1, name.size() - 2) : name;
+}
+
+QString bracketed(const QString &name)
+{
+    return u'[' + name + u']';
+}
+
+std::unique_ptr<RecordsetPrivate> openQuery(DatabasePrivate &d, const QString &text, Recordset::Kind kind)
+{
+    const PreparedPtr prepared = d.prepare(text);
+    if (!std::holds_alternative<SelectPtr>(prepared->bound->statement))
+        throw Error(Error::SyntaxError, QStringLiteral("La instrucción no devuelve registros."));
+    if (kind == Recordset::Kind::Snapshot || !prepared->bound->rowwise)
+        return std::make_unique<Snapshot>(d, kind, text, prepared);
+    return std::make_unique<Dynaset>(d, text, prepared);
+}
+
+} // namespace
+
+Database::Database() : d_(std::make_unique<DatabasePrivate>())
+{
+}
+
+Database::~Database()
+{
+    basic::ignoringErrors([&] { close(); });
+    d_->detach();
+}
+
+void Database::open(const QString &path, bool exclusive, bool readOnly, const QString &connect)
+{
+    close();
+    d_->attach(openEmbedded(path, passwordOf(connect), {.exclusive = exclusive, .readOnly = readOnly}), path);
+}
+
+void Database::create(const QString &path, const QString &connect)
+{
+    close();
+    if (QFile::exists(path))
+        throw Error(Error::FileExists,
+                    QStringLiteral("El archivo '%1' ya existe.").arg(QDir::toNativeSeparators(path)));
+    const QString password = passwordOf(connect);
+    const QByteArray key = password.isEmpty() ? QByteArray() : rawKey(password, freshSalt());
+    d_->attach(std::make_unique<EmbeddedEngine>(path, key, EmbeddedEngine::Options{.create = true}), path);
+}
+
+bool Database::isOpen() const
+{
+    return d_->isOpen();
+}
+
+void Database::close()
+{
+    if (!d_->isOpen())
+        return;
+    // What a batch holds is committed, never lost.
+    std::optional<Error> failure;
+    try {
+        if (d_->engine().inTransaction())
+            d_->engine().commit();
+    } catch (const Error &error) {
+        failure = error;
+    }
+    d_->detach();
+    if (failure)
+        throw *failure;
+}
+
+QString Database::path() const
+{
+    return d_->path();
+}
+
+Recordset Database::openRecordset(const QString &source)
+{
+    const QString name = bareName(source);
+    const bool isTable = d_->withFreshCatalogue([&] {
+        if (d_->catalogue().table(name))
+            return true;
+        if (d_->catalogue().query(name) || source.trimmed().startsWith(u"select", Qt::CaseInsensitive))
+            return false;
+        throw Error(Error::NotATable,
+                    QStringLiteral("No se encuentra la tabla o consulta de entrada '%1'.").arg(name));
+    });
+    return openRecordset(source, isTable ? Recordset::Kind::Table : Recordset::Kind::Dynaset);
+}
+
+Recordset Database::openRecordset(const QString &source, Recordset::Kind kind)
+{
+    const QString name = bareName(source);
+    return d_->withFreshCatalogue([&] {
+        if (kind == Recordset::Kind::Table)
+            return Recordset(std::make_unique<TableRecordset>(*d_, name));
+        const bool named = d_->catalogue().table(name) || d_->catalogue().query(name);
+        return Recordset(
+            openQuery(*d_, named ? QStringLiteral("SELECT * FROM ") + bracketed(name) : source, kind));
+    });
+}
+
+qint64 Database::execute(const QString &sql)
+{
+    return d_->execute(sql);
+}
+
+QStringList Database::tableNames() const
+{
+    return d_->catalogue().tableNames();
+}
+
+TableDef Database::tableDef(QStringView name)
+{
+    return d_->withFreshCatalogue([&] {
+        const TablePtr table = d_->catalogue().table(name);
+        if (!table)
+            throw Error(Error::ItemNotFound,
+                        QStringLiteral("No se encontró el elemento '%1' en esta colección.").arg(name));
+        TableDef def;
+        def.database_ = this;
+        def.name_ = table->name;
+        def.fields_ = table->columns;
+        def.indexes_ = table->indexes;
+        def.updatable_ = !d_->engine().readOnly();
+        return def;
+    });
+}
+
+void Database::createQuery(const QString &name, const QString &select)
+{
+    if (name.isEmpty() || d_->catalogue().table(name))
+        throw Error(Error::TableExists, QStringLiteral("El objeto '%1' ya existe.").arg(name));
+    parseSelect(select);
+    d_->engine().saveQuery(name, select);
+    d_->catalogue().reload();
+}
+
+QStringList Database::queryNames() const
+{
+    return d_->catalogue().queryNames();
+}
+
+void Database::beginTrans(int batchRows)
+{
+    d_->beginBatch(batchRows);
+}
+
+void Database::commitTrans()
+{
+    d_->endBatch();
+}
+
+void Database::readTogether(const std::function<void()> &loop)
+{
+    Engine &engine = d_->engine();
+    if (engine.inTransaction()) {
+        loop();
+        return;
+    }
+    engine.beginRead();
+    try {
+        loop();
+    } catch (...) {
+        engine.rollback();
+        throw;
+    }
+    engine.commit();
+}
+
+QStringList Database::check()
+{
+    return d_->engine().check();
+}
+
+const FieldDef *TableDef::field(QStringView fieldName) const
+{
+    for (const FieldDef &field : fields_) {
+        if (sameName(field.name, fieldName))
+            return &field;
+    }
+    return nullptr;
+}
+
+const IndexDef *TableDef::index(QStringView indexName) const
+{
+    for (const IndexDef &index : indexes_) {
+        if (sameName(index.name, indexName))
+            return &index;
+    }
+    return nullptr;
+}
+
+void TableDef::append(const FieldDef &field)
+{
+    database_->d().define(AddColumn{name_, field});
+    *this = database_->tableDef(name_);
+}
+
+void TableDef::deleteField(QStringView fieldName)
+{
+    database_->d().define(DropColumn{name_, fieldName.toString()});
+    *this = database_->tableDef(name_);
+}
+
+Translation translate(Database &database, const QString &sql)
+{
+    const PreparedPtr prepared = database.d().prepare(sql);
+    Translation translation{prepared->sql.text, prepared->sql.parameters, {}};
+    for (const OutputColumn &column : prepared->bound->columns)
+        translation.columns.push_back(column.field);
+    return translation;
+}
+
+} // namespace dao

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "platform/basic/value.h"
+#include "platform/dao/engine/catalogue.h"
+#include "platform/dao/schema.h"
+
+#include <QByteArrayView>
+#include <QString>
+
+#include <memory>
+#include <span>
+#include <utility>
+#include <vector>
+
+namespace dao
+{
+
+/// A statement that the engine has prepared: bind, step over its rows, reset. Ordinals are 0-based. A value
+/// is bound as columns of its kind store it: Currency in ten-thousandths, dates as serials, true as -1.
+class EngineStatement
+{
+public:
+    /// A value of the current row in the form in which it is stored.
+    struct Cell {
+        enum Content { Null, Integer, Real, Text } content = Null;
+        qint64 integer = 0;
+        double real = 0;
+        QByteArrayView text; ///< until the next step
+    };
+
+    virtual ~EngineStatement() = default;
+    virtual void bind(int parameter, const basic::Value &value) = 0;
+    virtual void bind(int parameter, qint64 key) = 0;
+    virtual bool step() = 0; ///< false after the last row; throws Error
+    virtual void reset() = 0;
+    virtual bool isNull(int column) const = 0;
+    virtual qint64 integer(int column) const = 0;
+    virtual double real(int column) const = 0;
+    virtual QByteArrayView text(int column) const = 0; ///< UTF-8, until the next step
+    /// As many columns of the current row as there is room for, from the first one given on.
+    virtual void cells(int firstColumn, std::span<Cell> to) const = 0;
+    virtual void *nativeHandle() const = 0; ///< for the engine's own parts
+};
+
+/// Resets a statement on leaving the scope, so that none stays open between two calls.
+class StatementRun
+{
+public:
+    explicit StatementRun(EngineStatement &statement) : statement_(statement) {}
+    ~StatementRun() { statement_.reset(); }
+    StatementRun(const StatementRun &) = delete;
+    StatementRun &operator=(const StatementRun &) = delete;
+
+private:
+    EngineStatement &statement_;
+};
+
+struct EngineCatalogue {
+    std::vector<Table> tables;
+    std::vector<std::pair<QString, QString>> queries; ///< name and text
+};
+
+/// What the layer asks of a database engine, beside the texts that the emitter makes for it.
+class Engine
+{
+public:
+    virtual ~Engine() = default;
+
+    virtual std::unique_ptr<EngineStatement> prepare(const QString &sql) = 0;
+    virtual qint64 lastKey() = 0; ///< the key of the row inserted last
+    virtual qint64 changes() = 0; ///< rows that the last statement changed
+
+    virtual void begin() = 0;     ///< a transaction that may write from its first statement on
+    virtual void beginRead() = 0; ///< a transaction that holds the file as it is at its first read
+    virtual void commit() = 0;
+    virtual void rollback() noexcept = 0;
+    virtual bool inTransaction() const = 0;
+
+    virtual EngineCatalogue readCatalogue() = 0;
+    virtual qint64 schemaVersion() = 0;
+    virtual qint64 dataVersion() = 0; ///< differs when another connection wrote
+
+    virtual void createTable(const QString &name, const std::vector<FieldDef> &columns) = 0;
+    virtual void dropTable(const Table &table) = 0;
+    virtual void createIndex(const Table &table, const IndexDef &index) = 0;
+    virtual void dropIndex(const Table &table, const IndexDef &index) = 0;
+    virtual void addColumn(const Table &table, const FieldDef &column) = 0;
+    virtual void dropColumn(const Table &table, int ordinal) = 0;
+    virtual void saveQuery(const QString &name, const QString &text) = 0;
+    /// A table in memory that this connection alone sees, and that dies with it.
+    virtual Table createScratchTable(const std::vector<FieldDef> &columns) = 0;
+    virtual void dropScratchTable(const Table &table) noexcept = 0;
+
+    virtual QStringList check() = 0;
+    virtual bool readOnly() const = 0;
+};
+
+} // namespace dao
