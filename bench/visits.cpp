@@ -30,11 +30,11 @@ constexpr double keyRepeat = 33;
 constexpr double patienceForTree = 300;
 constexpr double patienceForBranch = 50;
 
-std::unique_ptr<forms::Form> screen(const QString &name)
+std::unique_ptr<forms::Form> screen(screens::Window name)
 {
     auto made = screens::make(name);
     if (!made)
-        std::cout << "skipped: " << name.toStdString() << " is not registered\n";
+        std::cout << "skipped: " << name.text().toStdString() << " is not registered\n";
     return made;
 }
 
@@ -107,7 +107,7 @@ void browsing(const QString &patient, const Report &report)
 {
     QElapsedTimer timer;
     timer.start();
-    auto made = screen(u"panVisitas"_s);
+    auto made = screen("panVisitas");
     if (!made)
         return;
     forms::Form *window = made.release(); // the area of the child windows owns it
@@ -154,7 +154,7 @@ void classification(const Report &report)
 {
     QElapsedTimer timer;
     timer.start();
-    const auto made = screen(u"panCIE10"_s);
+    const auto made = screen("panCIE10");
     if (!made)
         return;
     modally([&] { made->showModal(); },

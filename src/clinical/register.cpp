@@ -26,17 +26,17 @@ void TablaDiagnosticos()
 
 void clinical::registerScreens()
 {
-    screens::add<panEditHC>(u"panEditHC"_s);
-    screens::add<hc>(u"hc"_s);
-    screens::add<panVisitas>(u"panVisitas"_s);
-    screens::add<panSintomas>(u"panSintomas"_s);
-    screens::add<panDiagnosticos>(u"panDiagnosticos"_s);
-    screens::add<panTratamientos>(u"panTratamientos"_s);
-    screens::add<panCIE10>(u"panCIE10"_s);
-    screens::addOperation(u"TablaDiagnosticos"_s, TablaDiagnosticos);
-    screens::addOperation(u"NuevaFicha"_s, NuevaFicha);
-    screens::addOperation(u"AbreFicha"_s, AbreFicha);
-    screens::addOperation(u"BorraFicha"_s, BorraFicha);
-    screens::addQuery(u"EligePaciente"_s, EligePaciente);
-    screens::addQuery(u"PideNombreDePaciente"_s, PideNombreDePaciente);
+    screens::add<panEditHC>("panEditHC");
+    screens::add<hc>("hc");
+    screens::add<panVisitas>("panVisitas");
+    screens::add<panSintomas>("panSintomas");
+    screens::add<panDiagnosticos>("panDiagnosticos");
+    screens::add<panTratamientos>("panTratamientos");
+    screens::add<panCIE10>("panCIE10");
+    screens::addOperation("TablaDiagnosticos", TablaDiagnosticos);
+    screens::addOperation("NuevaFicha", NuevaFicha);
+    screens::addOperation("AbreFicha", AbreFicha);
+    screens::addOperation("BorraFicha", BorraFicha);
+    screens::addQuery("EligePaciente", EligePaciente);
+    screens::addQuery("PideNombreDePaciente", PideNombreDePaciente);
 }

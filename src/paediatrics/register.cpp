@@ -1,6 +1,8 @@
 #include "paediatrics/register.h"
 
+#include "core/session/ports.h"
 #include "core/session/screens.h"
+#include "paediatrics/anthropometry/medidas.h"
 #include "paediatrics/anthropometry/panCrecimiento.h"
 #include "paediatrics/charts/chartcatalogue.h"
 #include "paediatrics/charts/panCurvasOMS.h"
@@ -11,9 +13,10 @@ using namespace Qt::StringLiterals;
 
 void paediatrics::registerScreens()
 {
-    screens::add<panCrecimiento>(u"panCrecimiento"_s);
-    screens::add<panMuesCurvas>(u"panMuesCurvas"_s);
-    screens::add<panCurvasOMS>(u"panCurvasOMS"_s);
+    ports::tomarMedidas.provide(TomarMedidas);
+    screens::add<panCrecimiento>("panCrecimiento");
+    screens::add<panMuesCurvas>("panMuesCurvas");
+    screens::add<panCurvasOMS>("panCurvasOMS");
     for (const charts::ClassicalChart &chart : charts::classicalCharts())
-        screens::add(chart.form.toString(), [&chart] { return std::make_unique<panPercentil>(chart); });
+        screens::add(screens::Window::find(chart.form).value(), [&chart] { return std::make_unique<panPercentil>(chart); });
 }

@@ -1,5 +1,6 @@
 #include "practice/register.h"
 
+#include "core/session/ports.h"
 #include "core/session/screens.h"
 #include "practice/appointments/otorgaTurno.h"
 #include "practice/appointments/panEstadosTurnos.h"
@@ -10,8 +11,8 @@ using namespace Qt::StringLiterals;
 
 void practice::registerScreens()
 {
-    screens::add<panTurnos>(u"panTurnos"_s);
-    screens::add<panEstadosTurnos>(u"panEstadosTurnos"_s);
-    screens::add<panProfesionales>(u"panProfesionales"_s);
-    screens::addOperation(u"OtorgaTurno"_s, OtorgaTurno);
+    screens::add<panTurnos>("panTurnos");
+    screens::add<panEstadosTurnos>("panEstadosTurnos");
+    screens::add<panProfesionales>("panProfesionales");
+    ports::otorgaTurno.provide(OtorgaTurno);
 }

@@ -2,7 +2,8 @@
 
 #include "core/services/services.h"
 #include "core/session/session.h"
-#include "platform/basic/errors.h"
+#include "platform/basic/typed.h"
+#include "platform/dao/sqltext.h"
 #include "platform/basic/runtime.h"
 
 #include <QSet>
@@ -80,15 +81,11 @@ int profundidad(const QTreeWidgetItem *nodo)
 
 QString catalogos::idDiagnosticoCIE(const QString &descripcion)
 {
-    QString id;
-    basic::ignoringErrors([&] {
-        id = MODULE11::BuscaCampo(
-                 u"Select descripcion, idDiagnosticoCIE from Diagnosticos where descripcion = '%1'"_s.arg(
-                     descripcion),
-                 u"idDiagnosticoCIE")
-                 .text();
-    });
-    return id;
+    return MODULE11::BuscaCampo(
+               u"Select descripcion, idDiagnosticoCIE from Diagnosticos where descripcion = "_s +
+                   dao::quoted(descripcion),
+               u"idDiagnosticoCIE")
+        .text();
 }
 
 ArbolCIE10::ArbolCIE10(forms::TreeView &arbol) : arbol_(arbol)
@@ -158,8 +155,8 @@ void ArbolCIE10::abrir(QTreeWidgetItem &nodo)
     if (debajo < 0 || nodo.childCount() > 0)
         return;
     const Nivel &n = niveles[static_cast<std::size_t>(debajo)];
-    agregar(debajo, u"select * from %1 where %2 = '%3'"_s.arg(n.tabla, n.idPadre,
-                                                              claveDeTabla(llave.mid(largoPrefijo), n)));
+    agregar(debajo, u"select * from %1 where %2 = %3"_s.arg(
+                        n.tabla, n.idPadre, dao::quoted(claveDeTabla(llave.mid(largoPrefijo), n))));
 }
 
 /// One statement for all of them.
@@ -168,7 +165,7 @@ void ArbolCIE10::abrirCategorias(const std::vector<QTreeWidgetItem *> &nodos)
     QStringList sinAbrir;
     for (const QTreeWidgetItem *nodo : nodos)
         if (const QString llave = clave(*nodo); llave.startsWith(u"CA") && nodo->childCount() == 0)
-            sinAbrir.append(u'\'' + llave.mid(largoPrefijo) + u'\'');
+            sinAbrir.append(dao::quoted(llave.mid(largoPrefijo)));
     if (!sinAbrir.isEmpty())
         agregar(Enfermedades,
                 u"select * from Diagnosticos where idCategoria in (%1)"_s.arg(sinAbrir.join(u',')));
@@ -232,14 +229,12 @@ QTreeWidgetItem *ArbolCIE10::ultimoALaVista() const
 
 QTreeWidgetItem *ArbolCIE10::buscar(const QString &texto)
 {
-    basic::ignoringErrors([&] {
-        agregar(Enfermedades,
-                u"Select * from Diagnosticos where Descripcion LIKE '*%1*'"_s.arg(texto.toUpper()));
-    });
+    agregar(Enfermedades, u"Select * from Diagnosticos where Descripcion LIKE "_s +
+                              dao::quoted(dao::typedPattern(texto, dao::Match::Anywhere)));
     const QSignalBlocker silencio(arbol_);
     contraer();
     for (QTreeWidgetItem *nodo : nodos_)
-        if (nodo->text(0).contains(texto, Qt::CaseInsensitive))
+        if (basic::containsTyped(nodo->text(0), texto))
             marcados_.push_back(nodo);
     for (QTreeWidgetItem *nodo : marcados_)
         ponerNegrita(*nodo, true);

@@ -212,7 +212,7 @@ void Catalogo::guardar()
 void Catalogo::quitar()
 {
     if (!hayNombre(u"Elija en la lista lo que quiere quitar."_s) ||
-        !MODULE11::Pregunta(tabla_.preguntaDeBaja))
+        !MODULE11::PreguntaSiBorra(tabla_.preguntaDeBaja))
         return;
     dao::Recordset filas = buscarFila();
     if (!filas.noMatch())

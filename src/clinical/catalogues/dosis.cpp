@@ -29,21 +29,18 @@ std::optional<double> ultimoPeso(const QString &paciente)
 QString catalogos::dosisParaElPaciente(const QString &paciente, const basic::Value &dosis,
                                        const basic::Value &intervalo)
 {
-    QString texto = u"Sin datos de la dosis para el paciente"_s;
+    const QString sinDatos = u"Sin datos de la dosis para el paciente"_s;
     if (!basic::isNumeric(paciente) || !dosis.isNumeric())
-        return texto;
+        return sinDatos;
     const std::optional<double> divisor = intervalo.isNull() ? 1.0 : basic::toNumber(intervalo.text());
     if (!divisor || *divisor == 0.0)
-        return texto;
-    basic::ignoringErrors([&] {
-        const std::optional<double> peso = ultimoPeso(paciente);
-        if (!peso)
-            return;
-        const double valor = *basic::toNumber(dosis.text()) * *peso / 1000.0 / *divisor;
-        if (!std::isfinite(valor))
-            return;
-        texto = u"Dosis para %1 gramos : %2 x dosis."_s.arg(basic::format(*peso, u"###,##0"),
-                                                            basic::format(valor, u"###,##0.00"));
-    });
-    return texto;
+        return sinDatos;
+    const std::optional<double> peso = ultimoPeso(paciente);
+    if (!peso)
+        return sinDatos;
+    const double valor = *basic::toNumber(dosis.text()) * *peso / 1000.0 / *divisor;
+    if (!std::isfinite(valor))
+        return sinDatos;
+    return u"Dosis para %1 gramos : %2 x dosis."_s.arg(basic::format(*peso, u"###,##0"),
+                                                       basic::format(valor, u"###,##0.00"));
 }

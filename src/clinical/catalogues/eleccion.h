@@ -1,23 +1,16 @@
 #pragma once
 
-#include <QString>
+#include "core/session/eleccion.h"
 
 #include <optional>
 #include <vector>
-
-/// What a record takes over from a catalogue: the name, which is stored as it reads today, and the
-/// catalogue's key. A blank name is a line without an entry; its key is then 0.
-struct Renglon {
-    QString nombre;
-    qint64 id = 0;
-
-    bool operator==(const Renglon &) const = default;
-};
 
 /// The catalogues as choosers. Each opens its window modally, with the refusals and messages of its own, and
 /// answers what was chosen.
 namespace catalogos
 {
+
+using ports::Renglon;
 
 /// Any number of symptoms; none when cancelled.
 std::vector<Renglon> eligeSintomas();

@@ -2,7 +2,7 @@
 
 #include "core/services/services.h"
 #include "core/session/session.h"
-#include "platform/basic/errors.h"
+#include "platform/dao/sqltext.h"
 #include "platform/forms/boxes.h"
 
 using namespace Qt::StringLiterals;
@@ -37,19 +37,14 @@ void panSintomas::listar(dao::Recordset &filas)
         agregarALaLista(filas);
 }
 
-/// An apostrophe breaks the question whether the name is there already, and nothing is stored.
 void panSintomas::nuevo()
 {
     const QString sintoma =
         inputBox(u"Ingrese el nombre del nuevo sintoma"_s, u"Síntomas"_s).value_or(QString()).trimmed();
     if (sintoma.isEmpty())
         return;
-    dao::Recordset registrado;
-    if (!basic::ignoringErrors([&] {
-            registrado = MODULE11::BaseDatos.openRecordset(
-                u"Select * from sintomas where Descripcion = '%1'"_s.arg(sintoma));
-        }))
-        return;
+    dao::Recordset registrado = MODULE11::BaseDatos.openRecordset(
+        u"Select * from sintomas where Descripcion = "_s + dao::quoted(sintoma));
     if (!registrado.eof()) {
         msgBox(u"Síntoma ya registrado"_s, Icon::Critical, u"Error"_s);
         return;

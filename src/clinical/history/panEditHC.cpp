@@ -1,7 +1,8 @@
 #include "clinical/history/panEditHC.h"
 
-#include "clinical/patients/fichas.h"
+#include "clinical/patients/eligePaciente.h"
 #include "core/security/eventos.h"
+#include "core/services/paciente.h"
 #include "core/services/services.h"
 #include "core/session/session.h"
 #include "platform/basic/environment.h"
@@ -90,22 +91,22 @@ void panEditHC::load()
 
 void panEditHC::activate()
 {
-    if (cargado_ != tag())
-        cargar();
+    if (cargado_ == tag())
+        return;
+    cargar();
+    RT1.setFocus();
 }
 
 void panEditHC::cargar()
 {
-    dao::Recordset pacientes = MODULE11::BaseDatos.openRecordset(u"Pacientes"_s);
-    pacientes.setIndex(u"PrimaryKey");
-    pacientes.seek(u"=", tag());
-    if (pacientes.noMatch()) {
+    auto paciente = services::paciente(tag());
+    if (!paciente) {
         MODULE11::MuestraError(u"Paciente no encontrado!"_s);
         return;
     }
     if (!captionAjeno_)
-        setWindowTitle(u"Edición de la historia clinica de "_s + pacientes[u"Apellido y Nombres"].text());
-    RT1.setPlainText(pacientes[u"Historia Clinica"].text());
+        setWindowTitle(u"Edición de la historia clinica de "_s + (*paciente)[u"Apellido y Nombres"].text());
+    RT1.setPlainText((*paciente)[u"Historia Clinica"].text());
     cargado_ = tag();
     modificado_ = false;
 }
@@ -141,7 +142,7 @@ bool panEditHC::dejarLosCambios()
 {
     if (!modificado_)
         return true;
-    if (!MODULE11::Pregunta(u"Está seguro de salir sin guardar los cambios??"_s))
+    if (!MODULE11::PreguntaSiBorra(u"Está seguro de salir sin guardar los cambios??"_s))
         return false;
     MODULE11::RegistraEvento(accion, u"PACIENTE : %1 // SALE SIN GUARDAR CAMBIOS"_s.arg(cargado_));
     return true;
@@ -154,10 +155,10 @@ bool panEditHC::queryUnload()
 
 void panEditHC::command1Click()
 {
-    const QString numero = EligePaciente();
-    if (numero.isEmpty() || numero == u"0" || !dejarLosCambios())
+    const std::optional<qint64> numero = EligePaciente();
+    if (!numero || !dejarLosCambios())
         return;
-    setTag(numero);
+    setTag(QString::number(*numero));
     captionAjeno_ = false;
     cargar();
 }
@@ -177,17 +178,13 @@ void panEditHC::command2Click()
 
 void panEditHC::command3Click()
 {
-    dao::Recordset pacientes = MODULE11::BaseDatos.openRecordset(u"Pacientes"_s);
-    pacientes.setIndex(u"PrimaryKey");
-    pacientes.seek(u"=", tag());
-    if (pacientes.noMatch()) {
+    auto paciente = services::paciente(tag());
+    if (!paciente) {
         MODULE11::MuestraError(u"No se localizó el paciente para efectuar los cambios!!!"_s);
         return;
     }
     const QString texto = RT1.toPlainText();
-    pacientes.edit();
-    pacientes[u"Historia Clinica"] = texto;
-    pacientes.update();
+    paciente->edit([&] { (*paciente)[u"Historia Clinica"] = texto; });
     modificado_ = false;
     MODULE11::RegistraEvento(
         accion, u"GUARDAR CAMBIOS // PACIENTE : %1 // LARGO TXT : %2"_s.arg(tag()).arg(texto.size()));

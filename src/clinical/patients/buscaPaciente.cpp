@@ -1,5 +1,9 @@
 #include "clinical/patients/buscaPaciente.h"
 
+#include "core/services/paciente.h"
+
+#include <QApplication>
+
 using namespace Qt::StringLiterals;
 
 buscaPaciente::buscaPaciente()
@@ -10,6 +14,22 @@ buscaPaciente::buscaPaciente()
 {
     connect(&Command1, &QPushButton::clicked, this, [this] { answer(u"PORAP"_s); });
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"PORHI"_s); });
+}
+
+bool BuscaEnPacientes(dao::Recordset &pacientes)
+{
+    buscaPaciente dialogo;
+    dialogo.showModal();
+    QApplication::processEvents(); // the closing dialogue's place is painted before a long search
+    if (dialogo.tag() == u"PORAP")
+        return dialogo.mover(pacientes, u"Apellido y Nombres"_s);
+    if (dialogo.tag() != u"PORHI")
+        return true;
+    const auto numero = services::numeroDePaciente(dialogo.texto());
+    if (!numero)
+        return false;
+    pacientes.findFirst(u"[Numero] = "_s + QString::number(*numero));
+    return !pacientes.noMatch();
 }
 
 #include "moc_buscaPaciente.cpp"

@@ -9,3 +9,7 @@ class buscaPaciente : public DialogoBuscar
 public:
     buscaPaciente();
 };
+
+/// Asks for the start of a name or a number and moves the recordset of patients to it. False when there is no
+/// such patient; where nothing was asked for, the row stays.
+bool BuscaEnPacientes(dao::Recordset &pacientes);

@@ -1,10 +1,9 @@
 #include "clinical/patients/fichas.h"
 
-#include "clinical/patients/buscaPaciente.h"
+#include "clinical/patients/eligePaciente.h"
 #include "clinical/patients/panNuePaciente.h"
-#include "clinical/patients/panSeekPaciente.h"
-#include "clinical/patients/panSelPaciente.h"
 #include "core/security/eventos.h"
+#include "core/services/paciente.h"
 #include "core/services/profesional.h"
 #include "core/services/services.h"
 #include "core/session/screens.h"
@@ -13,17 +12,16 @@
 #include "platform/basic/runtime.h"
 #include "platform/settings/settings.h"
 
-#include <QApplication>
-
 using namespace Qt::StringLiterals;
-using basic::ignoringErrors;
 
 namespace
 {
 
 /// The window that opens a patient's record, by the setting "Abrir ficha paciente".
 struct Ventana {
-    const char *ajuste, *nombre, *caption;
+    const char *ajuste;
+    screens::Window nombre;
+    const char *caption;
 };
 constexpr Ventana fichaGlobal = {"FICHA GLOBAL", "panEstadPaciente", "Ficha Global de "};
 constexpr Ventana ventanas[] = {
@@ -46,65 +44,56 @@ const Ventana &ventanaDelAjuste()
 const Ventana &ventanaParaNuevo()
 {
     const Ventana &ventana = ventanaDelAjuste();
-    return ventana.nombre == QByteArrayView("panEHC") ? fichaGlobal : ventana;
+    return *ventana.caption ? ventana : fichaGlobal;
 }
 
 /// Until a window exists the patient's visits stand in for it, under their own caption.
-void abrir(const Ventana &ventana, const QString &numero, const QString &nombre)
+void abrir(const Ventana &ventana, qint64 numero, const QString &nombre)
 {
-    const QString pedida = QString::fromUtf8(ventana.nombre);
+    const QString tag = QString::number(numero);
     const QString caption = QString::fromUtf8(ventana.caption);
-    if (!screens::has(pedida))
-        screens::showChild(u"panVisitas"_s, numero);
+    if (!screens::has(ventana.nombre))
+        screens::showChild("panVisitas", tag);
     else
-        screens::showChild(pedida, numero, caption.isEmpty() ? QString() : caption + nombre);
-}
-
-/// Sets one column of the row being added; a value that the column does not take leaves it empty.
-template <class T>
-void poner(dao::Recordset &filas, QStringView campo, const T &valor)
-{
-    ignoringErrors([&] { filas[campo] = basic::Value(valor); });
+        screens::showChild(ventana.nombre, tag, caption.isEmpty() ? QString() : caption + nombre);
 }
 
 void agregarPaciente(const panNuePaciente &ficha, qint64 idProfesional)
 {
     dao::Recordset pacientes = MODULE11::BaseDatos.openRecordset(u"Pacientes"_s);
     pacientes.addNew();
-    poner(pacientes, u"Numero", ficha.numero());
-    poner(pacientes, u"Apellido y nombres", ficha.nombre());
-    poner(pacientes, u"Fecha de Nacimiento", ficha.nacimiento());
-    poner(pacientes, u"Documento", ficha.documento());
-    poner(pacientes, u"sexo", ficha.sexo());
-    poner(pacientes, u"Grupo sanguineo", ficha.grupoSanguineo());
-    poner(pacientes, u"obra social", ficha.obraSocial());
-    poner(pacientes, u"Numero de afiliado", ficha.numeroDeAfiliado());
-    poner(pacientes, u"Situacion Conyugal", ficha.situacionConyugal());
-    poner(pacientes, u"Historia Clinica", u"-"_s);
-    poner(pacientes, u"Domicilio", ficha.domicilio());
-    poner(pacientes, u"Localidad", ficha.localidad());
-    poner(pacientes, u"Telefono", ficha.telefono());
-    poner(pacientes, u"Provincia", ficha.provincia());
-    poner(pacientes, u"Pais", ficha.pais());
-    poner(pacientes, u"Es turista o esporadico", ficha.esTurista());
-    poner(pacientes, u"idProfesional", idProfesional);
-    poner(pacientes, u"email", ficha.email());
-    poner(pacientes, u"Barrio", ficha.barrio());
-    poner(pacientes, u"CodigoPostal", ficha.codigoPostal());
+    pacientes[u"Numero"] = ficha.numero().value();
+    pacientes[u"Apellido y nombres"] = ficha.nombre();
+    pacientes[u"Fecha de Nacimiento"] = ficha.nacimiento();
+    pacientes[u"Documento"] = ficha.documento();
+    pacientes[u"sexo"] = ficha.sexo();
+    pacientes[u"Grupo sanguineo"] = ficha.grupoSanguineo();
+    pacientes[u"obra social"] = ficha.obraSocial();
+    pacientes[u"Numero de afiliado"] = ficha.numeroDeAfiliado();
+    pacientes[u"Situacion Conyugal"] = ficha.situacionConyugal();
+    pacientes[u"Historia Clinica"] = u"-"_s;
+    pacientes[u"Domicilio"] = ficha.domicilio();
+    pacientes[u"Localidad"] = ficha.localidad();
+    pacientes[u"Telefono"] = ficha.telefono();
+    pacientes[u"Provincia"] = ficha.provincia();
+    pacientes[u"Pais"] = ficha.pais();
+    pacientes[u"Es turista o esporadico"] = ficha.esTurista();
+    pacientes[u"idProfesional"] = idProfesional;
+    pacientes[u"email"] = ficha.email();
+    pacientes[u"Barrio"] = ficha.barrio();
+    pacientes[u"CodigoPostal"] = ficha.codigoPostal();
     pacientes.update();
 }
 
-void agregarPatologiasFamiliares(const panComFliar &familia, const QString &numero)
+void agregarPatologiasFamiliares(const panComFliar &familia, qint64 numero)
 {
+    dao::Recordset patologias = MODULE11::BaseDatos.openRecordset(u"Patologias Familiares"_s);
     const QStringList lista = familia.patologias();
-    for (qsizetype i = lista.size() - 1; i >= 0; --i) {
-        ignoringErrors([&] {
-            dao::Recordset patologias = MODULE11::BaseDatos.openRecordset(u"Patologias Familiares"_s);
-            patologias.addNew();
-            patologias[u"Paciente"] = numero;
-            patologias[u"Patologia"] = lista[i];
-            patologias.update();
-        });
+    for (auto patologia = lista.rbegin(); patologia != lista.rend(); ++patologia) {
+        patologias.addNew();
+        patologias[u"Paciente"] = numero;
+        patologias[u"Patologia"] = *patologia;
+        patologias.update();
     }
 }
 
@@ -112,17 +101,17 @@ void agregarPediatria(const panNuePaciente &ficha)
 {
     dao::Recordset pediatria = MODULE11::BaseDatos.openRecordset(u"Select * from Pediatria"_s);
     pediatria.addNew();
-    poner(pediatria, u"Numero", ficha.numero());
+    pediatria[u"Numero"] = ficha.numero().value();
     if (const panComFliar *familia = ficha.condicionFamiliar()) {
-        poner(pediatria, u"Nombre del padre", familia->nombreDelPadre());
-        poner(pediatria, u"Nombre de la madre", familia->nombreDeLaMadre());
-        poner(pediatria, u"Fecha Nacim Padre", familia->nacimientoDelPadre());
-        poner(pediatria, u"Fecha Nacim Madre", familia->nacimientoDeLaMadre());
-        poner(pediatria, u"Ocupacion Padre", familia->ocupacionDelPadre());
-        poner(pediatria, u"Ocupacion Madre", familia->ocupacionDeLaMadre());
-        poner(pediatria, u"Hs permanencia padre", familia->horasDelPadre());
-        poner(pediatria, u"Hs permanencia madre", familia->horasDeLaMadre());
-        agregarPatologiasFamiliares(*familia, ficha.numero());
+        pediatria[u"Nombre del padre"] = familia->nombreDelPadre();
+        pediatria[u"Nombre de la madre"] = familia->nombreDeLaMadre();
+        pediatria[u"Fecha Nacim Padre"] = familia->nacimientoDelPadre();
+        pediatria[u"Fecha Nacim Madre"] = familia->nacimientoDeLaMadre();
+        pediatria[u"Ocupacion Padre"] = familia->ocupacionDelPadre();
+        pediatria[u"Ocupacion Madre"] = familia->ocupacionDeLaMadre();
+        pediatria[u"Hs permanencia padre"] = familia->horasDelPadre();
+        pediatria[u"Hs permanencia madre"] = familia->horasDeLaMadre();
+        agregarPatologiasFamiliares(*familia, ficha.numero().value());
     }
     pediatria.update();
 }
@@ -151,79 +140,65 @@ constexpr const char *borrados[] = {
     "Delete * from Complementos where idPaciente = ",
 };
 
+/// False when the patient is not stored: it was told, and what was typed must not be lost.
+bool guardar(const panNuePaciente &ficha)
+{
+    const basic::Value profesional = MODULE11::CampoDelProfesional(ficha.profesional(), u"idProfesional");
+    try {
+        agregarPaciente(ficha, profesional.isNumeric() ? profesional.integer() : 0);
+    } catch (const dao::Error &error) {
+        MODULE11::MuestraError(error.number() == dao::Error::DuplicateKey
+                                   ? u"Historia clinica ya existente, intente con otro número"_s
+                                   : u"El paciente no se guardó.\n"_s + error.description());
+        return false;
+    }
+    try {
+        agregarPediatria(ficha);
+    } catch (const dao::Error &error) {
+        MODULE11::MuestraError(u"El paciente se guardó, pero no su condición familiar.\n"_s +
+                               error.description());
+    }
+    return true;
+}
+
 } // namespace
 
 void NuevaFicha()
 {
     panNuePaciente ficha;
-    ficha.showModal();
-    if (ficha.tag() != u"SI")
-        return;
-    const basic::Value idProfesional = MODULE11::CampoDelProfesional(ficha.profesional(), u"idProfesional");
-    ignoringErrors([&] { agregarPaciente(ficha, idProfesional.integer()); });
-    ignoringErrors([&] { agregarPediatria(ficha); });
+    do {
+        ficha.showModal();
+        if (ficha.tag() != u"SI")
+            return;
+    } while (!guardar(ficha));
     if (MODULE11::Pregunta(u"Desea visualizar la ficha ahora?"_s))
-        ignoringErrors([&] { abrir(ventanaParaNuevo(), ficha.numero(), ficha.nombre()); });
+        abrir(ventanaParaNuevo(), ficha.numero().value(), ficha.nombre());
 }
 
 void AbreFicha()
 {
-    const QString numero = EligePaciente();
-    if (numero.isEmpty() || numero == u"0")
+    const std::optional<qint64> numero = EligePaciente();
+    if (!numero)
         return;
-    const Ventana &ventana = ventanaDelAjuste();
-    dao::Recordset pacientes = MODULE11::BaseDatos.openRecordset(u"Pacientes"_s);
-    pacientes.setIndex(u"primarykey");
-    pacientes.seek(u"=", numero);
-    if (pacientes.noMatch()) {
+    if (auto paciente = services::paciente(*numero))
+        abrir(ventanaDelAjuste(), *numero, (*paciente)[u"Apellido y Nombres"].text());
+    else
         MODULE11::MuestraError(u"Paciente no encontrado"_s);
-        return;
-    }
-    abrir(ventana, numero, pacientes[u"Apellido y Nombres"].text());
 }
 
 void BorraFicha()
 {
-    const QString numero = EligePaciente();
-    if (numero.isEmpty() || numero == u"0" ||
-        !MODULE11::Pregunta(u"ATENCION : Borra este registro de la base"_s))
+    const std::optional<qint64> elegido = EligePaciente();
+    if (!elegido || !MODULE11::PreguntaSiBorra(u"ATENCION : Borra este registro de la base"_s))
         return;
+    const QString numero = QString::number(*elegido);
     try {
-        const QString nombre =
-            MODULE11::BuscaCampo(u"Select numero, [Apellido y nombres] from Pacientes where numero =  "_s +
-                                     numero,
-                                 u"Apellido y nombres")
-                .text();
-        MODULE11::RegistraEvento(u"BORRAR PACIENTE"_s, u"Paciente Borrado : "_s + nombre);
+        MODULE11::RegistraEvento(u"BORRAR PACIENTE"_s,
+                                 u"Paciente Borrado : "_s + services::nombreDePaciente(numero));
         for (const char *borrado : borrados)
             MODULE11::BaseDatos.execute(QString::fromUtf8(borrado) + numero);
     } catch (const basic::Error &) {
         MODULE11::MuestraError(
             u"Se produjo un error al querer borrar datos del paciente seleccionado, posiblemente alguna ventana abierta con los datos del mismo."_s);
     }
-}
-
-QString EligePaciente()
-{
-    panSelPaciente seleccion;
-    seleccion.showModal();
-    return seleccion.tag();
-}
-
-QString PideNombreDePaciente()
-{
-    panSeekPaciente dialogo;
-    dialogo.showModal();
-    return dialogo.tag() == u"SI" ? dialogo.texto() : QString();
-}
-
-void BuscaEnPacientes(dao::Recordset &pacientes)
-{
-    buscaPaciente dialogo;
-    dialogo.showModal();
-    QApplication::processEvents(); // the closing dialogue's place is painted before a long search
-    if (dialogo.tag() == u"PORHI")
-        pacientes.findFirst(u"[Numero] = "_s + dialogo.texto());
-    else if (dialogo.tag() == u"PORAP")
-        dialogo.mover(pacientes, u"[Apellido y Nombres] LIKE '%1'"_s.arg(dialogo.patron()));
 }

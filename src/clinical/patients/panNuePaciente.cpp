@@ -103,16 +103,12 @@ void panNuePaciente::ofrecerNumero()
 
 bool panNuePaciente::numeroAceptado()
 {
-    if (numero() == u"<No>")
-        return true;
-    if (!basic::isNumeric(numero())) {
+    if (!numero()) {
         MODULE11::MuestraError(u"Historia clinica mal ingresada."_s);
+        forms::markWrong(Text1(cNumero), u"Un número entero"_s);
         return false;
     }
-    dao::Recordset pacientes = MODULE11::BaseDatos.openRecordset(u"Pacientes"_s);
-    pacientes.setIndex(u"primarykey");
-    pacientes.seek(u"=", numero());
-    if (pacientes.noMatch())
+    if (!services::paciente(*numero()))
         return true;
     MODULE11::MuestraError(u"Historia clinica ya existente, intente con otro número"_s);
     Text1(cNumero).setText(u"0"_s);
@@ -124,10 +120,12 @@ void panNuePaciente::command1Click()
 {
     if (!numeroAceptado())
         return;
-    if (nombre().isEmpty())
+    if (nombre().trimmed().isEmpty()) {
         MODULE11::MuestraError(u"Datos mal ingresados"_s);
-    else
-        answer(u"SI"_s);
+        forms::markWrong(Text1(cNombre), u"El apellido y los nombres no pueden faltar"_s);
+        return;
+    }
+    answer(u"SI"_s);
 }
 
 void panNuePaciente::command5Click()

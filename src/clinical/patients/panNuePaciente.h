@@ -1,6 +1,7 @@
 #pragma once
 
 #include "clinical/patients/panComFliar.h"
+#include "core/services/paciente.h"
 #include "platform/forms/controlarray.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
@@ -12,7 +13,8 @@ class panNuePaciente : public forms::Form
 public:
     panNuePaciente();
 
-    QString numero() const { return Text1(cNumero).text(); }
+    /// As it was read; nothing while the field holds "<No>" or no number.
+    std::optional<qint64> numero() const { return services::numeroDePaciente(Text1(cNumero).text()); }
     QString nombre() const { return Text1(cNombre).text(); }
     basic::Date nacimiento() const { return DTPicker1.value(); }
     QString documento() const { return Text1(cDocumento).text(); }

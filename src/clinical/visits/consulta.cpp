@@ -1,12 +1,12 @@
 #include "clinical/visits/consulta.h"
 
 #include "core/security/eventos.h"
+#include "core/services/paciente.h"
 #include "core/session/session.h"
 #include "platform/basic/environment.h"
 #include "platform/basic/errors.h"
 
 using namespace Qt::StringLiterals;
-using basic::ignoringErrors;
 using MODULE11::BaseDatos;
 
 namespace consultas
@@ -27,20 +27,18 @@ constexpr Columnas columnas[] = {
 template <class T>
 void poner(dao::Recordset &filas, const QString &campo, const T &valor)
 {
-    ignoringErrors([&] { filas[campo] = basic::Value(valor); });
+    basic::ignoring(dao::valueRefused, [&] { filas[campo] = basic::Value(valor); });
 }
 
 /// The dose as the catalogue has it today.
 void copiarDosis(dao::Recordset &filas, int ranura, qint64 idTratamiento)
 {
-    ignoringErrors([&] {
-        dao::Recordset tratamiento = BaseDatos.openRecordset(
-            u"Select * from tratamientos where idTratamiento = "_s + QString::number(idTratamiento));
-        if (tratamiento.eof())
-            return;
-        for (const QStringView campo : {u"Dosis", u"Lapso", u"Intervalo"})
-            poner(filas, campo.toString() + QString::number(ranura), tratamiento[campo].value());
-    });
+    dao::Recordset tratamiento = BaseDatos.openRecordset(
+        u"Select * from tratamientos where idTratamiento = "_s + QString::number(idTratamiento));
+    if (tratamiento.eof())
+        return;
+    for (const QStringView campo : {u"Dosis", u"Lapso", u"Intervalo"})
+        poner(filas, campo.toString() + QString::number(ranura), tratamiento[campo].value());
 }
 
 void ponerRenglones(dao::Recordset &filas, Grupo grupo, const std::vector<Renglon> &renglones)
@@ -144,35 +142,36 @@ basic::Value precioDe(const QString &cobertura)
 Copiado tomarDelPaciente(const QString &numero, basic::Date fechaDeVisita)
 {
     Copiado copiado;
-    dao::Recordset pacientes = BaseDatos.openRecordset(u"Pacientes"_s);
-    pacientes.setIndex(u"primaryKey");
-    pacientes.seek(u"=", numero);
-    if (pacientes.noMatch())
+    auto hallado = services::paciente(numero);
+    if (!hallado)
         return copiado;
+    dao::Recordset &pacientes = *hallado;
     copiado.nombre = pacientes[u"Apellido y Nombres"].text();
     copiado.sexo = pacientes[u"Sexo"].text();
     copiado.mutual = pacientes[u"Obra social"].text();
     if (const basic::Value nacimiento = pacientes[u"Fecha de Nacimiento"]; !nacimiento.isBlank())
         copiado.edad = basic::today().wholeDays() - nacimiento.date().wholeDays();
-    ignoringErrors([&] {
-        pacientes.edit();
-        pacientes[u"Ultima fecha visita"] = fechaDeVisita; // even one older than the stored
-        pacientes.update();
-    });
+    pacientes.edit([&] { pacientes[u"Ultima fecha visita"] = fechaDeVisita; }); // even one older than the stored
     return copiado;
 }
 
 } // namespace
 
-void registrarConsulta(const QString &numero, const Visita &visita)
+Registrada registrarConsulta(const QString &numero, const Visita &visita)
 {
-    Copiado copiado;
-    ignoringErrors([&] { copiado = tomarDelPaciente(numero, visita.fecha); });
-    ignoringErrors([&] { copiado.monto = precioDe(copiado.mutual); });
+    dao::Batch lote(BaseDatos);
+    Copiado copiado = tomarDelPaciente(numero, visita.fecha);
+    copiado.monto = precioDe(copiado.mutual);
     copiado.dr = MODULE11::DrActual;
     dao::Recordset consultas = BaseDatos.openRecordset(u"Consulta"_s);
-    const qint64 idConsulta = agregarConsulta(consultas, numero, visita, copiado);
+    Registrada registrada{agregarConsulta(consultas, numero, visita, copiado)};
     MODULE11::RegistraEvento(u"NUEVA CONSULTA "_s, u"Evol. de HC. Nº"_s + numero);
-    dao::Recordset exFisico = BaseDatos.openRecordset(u"ExFisico"_s);
-    agregarExamen(exFisico, numero, idConsulta, visita, copiado.dr);
+    try {
+        dao::Recordset exFisico = BaseDatos.openRecordset(u"ExFisico"_s);
+        agregarExamen(exFisico, numero, registrada.idConsulta, visita, copiado.dr);
+    } catch (const dao::Error &error) {
+        registrada.examenSinGuardar = error.description();
+    }
+    lote.commit();
+    return registrada;
 }

@@ -13,6 +13,8 @@
 namespace consultas
 {
 
+using ports::Renglon;
+
 inline constexpr int ranuras = 5;
 
 /// The repeating groups, by the index that their list, their commands and their messages share.
@@ -52,6 +54,12 @@ struct Copiado {
     basic::Value monto;         ///< price of the patient's coverage; nothing without one
 };
 
+/// A visit that is in the file.
+struct Registrada {
+    qint64 idConsulta = 0;
+    QString examenSinGuardar = {}; ///< why the examination is not whole; empty when it is
+};
+
 /// Adds the visit to a table-type recordset of `Consulta` and returns its `idConsulta`. A value that its
 /// column does not take leaves the column empty. Throws dao::Error when the row cannot be written.
 qint64 agregarConsulta(dao::Recordset &consultas, const QString &paciente, const Visita &visita,
@@ -64,7 +72,7 @@ void agregarExamen(dao::Recordset &exFisico, const QString &paciente, qint64 idC
 } // namespace consultas
 
 /// Records an accepted visit of the patient with this number: the date of the last visit in the register, the
-/// visit with today's age and price, the audit event, and the examination. There is no transaction: what was
-/// written before a failure stays. A value that cannot be copied or stored is skipped; a row that cannot be
-/// written throws, since a visit must not be lost unseen.
-void registrarConsulta(const QString &numero, const consultas::Visita &visita);
+/// visit with today's age and price, the audit event, and the examination, all at one stroke. What was
+/// written before a failure stays. A value that its column does not take is skipped; a visit that cannot be
+/// written throws dao::Error, since it must not be lost unseen.
+consultas::Registrada registrarConsulta(const QString &numero, const consultas::Visita &visita);

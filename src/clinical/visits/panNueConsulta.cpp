@@ -136,14 +136,8 @@ void panNueConsulta::load()
 {
     mDato(cHora).setText(basic::format(basic::time(), u"HH:MM"));
     listas.setPaciente(tag());
-    basic::ignoringErrors([&] { lblPaciente.setCaption(nombreDelPaciente()); });
+    lblPaciente.setCaption(services::nombreDePaciente(tag()));
     text9.setFocus();
-}
-
-QString panNueConsulta::nombreDelPaciente() const
-{
-    return MODULE11::BuscaCampo(u"Select * from Pacientes where numero = "_s + tag(), u"Apellido y Nombres")
-        .text();
 }
 
 bool panNueConsulta::queryUnload()
@@ -155,7 +149,7 @@ bool panNueConsulta::queryUnload()
 /// Esc is easily pressed once too often; the button and the frame are meant.
 void panNueConsulta::escape()
 {
-    if (enBlanco() || MODULE11::Pregunta(u"Descarta la consulta que está escribiendo"_s))
+    if (enBlanco() || MODULE11::PreguntaSiBorra(u"Descarta la consulta que está escribiendo"_s))
         answer(u"NO"_s);
 }
 
@@ -216,9 +210,15 @@ void panNueConsulta::anotarNormal()
     focusNextPrevChild(true);
 }
 
-/// The signs must be numbers, so the person is led through each one left blank; it then stands at 0.
+/// The signs must be numbers, so the person is led through each one left blank; it then stands at 0. An hour
+/// that is none would not be stored: it is put right first.
 void panNueConsulta::command7Click()
 {
+    if (const QString hora = mDato(cHora).text(); !hora.isEmpty() && !basic::isDate(hora)) {
+        msgBox(u"Dato mal ingresado !!"_s, Icon::Critical, u"Error"_s);
+        markWrong(mDato(cHora), u"Una hora como 10:30"_s);
+        return;
+    }
     for (int signo = 0; signo < signos_; ++signo) {
         if (basic::isNumeric(Text3(signo).text()))
             continue;

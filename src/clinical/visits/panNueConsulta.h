@@ -29,7 +29,6 @@ private:
     forms::Item signos();
     forms::Page ficha(int numero);
     forms::Item marco(examen::Marco marco);
-    QString nombreDelPaciente() const;
     bool enBlanco() const;
     void irAlCampoSiguiente();
     void anotarNormal();

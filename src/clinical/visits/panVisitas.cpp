@@ -4,17 +4,17 @@
 #include "core/security/eventos.h"
 #include "core/security/niveles.h"
 #include "core/services/services.h"
+#include "core/session/ports.h"
 #include "core/session/screens.h"
 #include "core/session/session.h"
 #include "platform/basic/environment.h"
-#include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
+#include "platform/dao/sqltext.h"
 #include "platform/settings/settings.h"
 
 using namespace Qt::StringLiterals;
 using namespace consultas;
 using namespace forms;
-using basic::ignoringErrors;
 
 namespace
 {
@@ -50,7 +50,7 @@ RowLook aspectoDelHallazgo(const basic::Value &valor)
     return valor.isBlank() ? RowLook::standingBack() : RowLook::standingOut();
 }
 
-void abrirConPermiso(const QString &clave, const QString &ventana, const QString &numero)
+void abrirConPermiso(const QString &clave, screens::Window ventana, const QString &numero)
 {
     if (MODULE11::VerificaNivel(clave))
         screens::showChild(ventana, numero);
@@ -137,20 +137,20 @@ void panVisitas::conectar()
         MODULE11::RegistraEvento(
             edicion, u"TOMA DE CAMBIOS A LA BASE // HC. Nº%1 / Fecha cons.:%2"_s.arg(tag(), textoDeFecha()));
     });
-    connect(&Command6, &QPushButton::clicked, this, [] { screens::run(u"OtorgaTurno"_s); });
+    connect(&Command6, &QPushButton::clicked, this, [this] { ports::otorgaTurno(tag().toLongLong()); });
     connect(&Command9, &QPushButton::clicked, this,
-            [] { abrirConPermiso(u"IngresarAConsultas"_s, u"panDiario"_s, {}); });
+            [] { abrirConPermiso(u"IngresarAConsultas"_s, "panDiario", {}); });
     connect(&Command10, &QPushButton::clicked, this, &panVisitas::unload);
     connect(&Command11, &QPushButton::clicked, this,
-            [this] { abrirConPermiso(u"IngresarAEstudios"_s, u"panEstudios"_s, tag()); });
+            [this] { abrirConPermiso(u"IngresarAEstudios"_s, "panEstudios", tag()); });
     connect(&Command12, &QPushButton::clicked, this,
-            [this] { abrirConPermiso(u"IngresarALaboratorio"_s, u"panAnalisis"_s, tag()); });
+            [this] { abrirConPermiso(u"IngresarALaboratorio"_s, "panAnalisis", tag()); });
     connect(&Command14, &QPushButton::clicked, this, &panVisitas::abrirHistoria);
-    Command6.setEnabled(screens::hasOperation(u"OtorgaTurno"_s));
+    Command6.setEnabled(bool(ports::otorgaTurno));
     Command7.setEnabled(false); // the listings do not exist yet
-    Command9.setEnabled(screens::has(u"panDiario"_s));
-    Command11.setEnabled(screens::has(u"panEstudios"_s));
-    Command12.setEnabled(screens::has(u"panAnalisis"_s));
+    Command9.setEnabled(screens::has("panDiario"));
+    Command11.setEnabled(screens::has("panEstudios"));
+    Command12.setEnabled(screens::has("panAnalisis"));
 }
 
 /// Back from a dialogue of its own, the window stays on the visit that it showed.
@@ -253,14 +253,13 @@ void panVisitas::mostrarListas()
     }
 }
 
-/// A professional sees the own findings only, and two visits of one day show each other's. A name with an
-/// apostrophe finds none.
+/// A professional sees the own findings only, and two visits of one day show each other's.
 void panVisitas::leerExamen()
 {
     Data3.setRecordSource(
-        u"Select * from ExFisico where Dr = '%1' and idPaciente = %2 and Fecha = cdate('%3')"_s.arg(
-            MODULE11::DrActual, tag(), textoDeFecha()));
-    ignoringErrors([&] { Data3.refresh(); });
+        u"Select * from ExFisico where Dr = %1 and idPaciente = %2 and Fecha = cdate('%3')"_s.arg(
+            dao::quoted(MODULE11::DrActual), tag(), textoDeFecha()));
+    Data3.refresh();
 }
 
 QString panVisitas::textoDeFecha()
@@ -326,39 +325,42 @@ void panVisitas::nueva()
         return;
     Data2.updateRecord(); // a text that is refused is put right before, not once the new visit is recorded
     panNueConsulta captura;
-    captura.setTag(tag());
-    captura.showModal();
-    if (captura.tag() != u"SI")
-        return;
-    const Visita visita = captura.visita();
-    try {
-        registrarConsulta(tag(), visita);
-    } catch (const basic::Error &) {
-        releer(visita.fecha, visita.hora); // what was written is in sight, so that nobody records it again
-        throw;
+    std::optional<Registrada> registrada;
+    while (!registrada) {
+        captura.setTag(tag());
+        captura.showModal();
+        if (captura.tag() != u"SI")
+            return;
+        registrada = registrar(captura.visita());
     }
-    releer(visita.fecha, visita.hora);
+    irA(registrada->idConsulta);
+    if (!registrada->examenSinGuardar.isEmpty())
+        MODULE11::MuestraError(u"La consulta se guardó, pero no todo su examen físico.\n"_s +
+                               registrada->examenSinGuardar);
 }
 
-/// Stands on the visit of that moment, and on the latest when there is none: an hour that is none was not
-/// stored.
-void panVisitas::releer(basic::Date fecha, const QString &hora)
+/// Nothing when the visit is not stored: it was told, and what was typed must not be lost.
+std::optional<Registrada> panVisitas::registrar(const Visita &visita)
+{
+    try {
+        return registrarConsulta(tag(), visita);
+    } catch (const dao::Error &error) {
+        MODULE11::MuestraError(u"La consulta no se guardó.\n"_s + error.description());
+        return std::nullopt;
+    }
+}
+
+void panVisitas::irA(qint64 idConsulta)
 {
     Data2.refresh();
     Data2.change([&](dao::Recordset &visitas) {
-        bool hallada = false;
-        ignoringErrors([&] {
-            visitas.findFirst(u"[Fecha] = #%1# and [hora] = cdate('%2')"_s.arg(basic::sqlDate(fecha), hora));
-            hallada = !visitas.noMatch();
-        });
-        if (!hallada && !visitas.eof())
-            visitas.moveLast();
+        visitas.findFirst(u"idConsulta = "_s + QString::number(idConsulta));
     });
 }
 
 void panVisitas::quitar()
 {
-    if (!MODULE11::VerificaNivel(u"BorrarConsultas"_s) || !MODULE11::Pregunta(u"Borra esta consulta"_s))
+    if (!MODULE11::VerificaNivel(u"BorrarConsultas"_s) || !MODULE11::PreguntaSiBorra(u"Borra esta consulta"_s))
         return;
     Data2.updateControls(); // what was typed goes with the row
     dao::Recordset &consulta = Data2.recordset();
@@ -381,11 +383,11 @@ void panVisitas::abrirHistoria()
     const QString forma = settings::getSetting(u"Configuracion"_s, clave);
     MODULE11::RegistraEvento(u"EDICION DE HC.TEXTUAL"_s, u"PACIENTE : "_s + tag());
     if (!forma.isEmpty() && forma != u"STANDARD") {
-        screens::showChild(screens::oneOf(u"panEHC"_s, u"panEditHC"_s), tag());
+        screens::showChild(screens::oneOf("panEHC", "panEditHC"), tag());
         return;
     }
     settings::saveSetting(u"Configuracion"_s, clave, u"STANDARD"_s);
-    screens::showChild(u"panEditHC"_s, tag());
+    screens::showChild("panEditHC", tag());
 }
 
 bool panVisitas::queryUnload()

@@ -1,6 +1,7 @@
 #include "core/security/alarmas.h"
 
 #include "core/session/session.h"
+#include "platform/dao/sqltext.h"
 #include "platform/forms/colour.h"
 #include "platform/forms/tag.h"
 
@@ -37,8 +38,9 @@ dao::Recordset filasDe(qint64 idPaciente, const QString &especialidad, const QSt
                        const QString &objeto)
 {
     return BaseDatos.openRecordset(
-        u"Select * from Alarmas where idPaciente = %1 AND Especialidad = '%2' and Tema = '%3' and Objeto = '%4'"_s
-            .arg(QString::number(idPaciente), especialidad, tema, objeto));
+        u"Select * from Alarmas where idPaciente = %1 AND Especialidad = %2 and Tema = %3 and Objeto = %4"_s
+            .arg(QString::number(idPaciente), dao::quoted(especialidad), dao::quoted(tema),
+                 dao::quoted(objeto)));
 }
 
 } // namespace
@@ -79,8 +81,8 @@ void PintaAlarmas(QWidget &formulario, qint64 idPaciente)
         if (forms::tag(control) != u"ALARMA")
             continue;
         dao::Recordset alarmas =
-            BaseDatos.openRecordset(u"Select * from Alarmas where Objeto = '%1' and idPaciente = %2"_s.arg(
-                control->objectName(), QString::number(idPaciente)));
+            BaseDatos.openRecordset(u"Select * from Alarmas where Objeto = %1 and idPaciente = %2"_s.arg(
+                dao::quoted(control->objectName()), QString::number(idPaciente)));
         if (!alarmas.eof())
             forms::setBackColor(*control, forms::fromColourValue(marcaDe(alarmas[u"Color"].text()).color));
     }

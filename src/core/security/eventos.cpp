@@ -20,7 +20,7 @@ constexpr int largoDeSuceso = 255; // the names of diseases are long; an event i
 void RegistraEvento(const QString &proceso, const QString &usuario, basic::Date fecha, basic::Date hora,
                     const QString &suceso)
 {
-    basic::ignoringErrors([&] {
+    basic::ignoring(dao::fileTrouble, [&] {
         dao::Recordset eventos = BaseDatos.openRecordset(u"Eventos"_s);
         eventos.addNew();
         eventos[u"Proceso"] = proceso;

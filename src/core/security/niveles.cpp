@@ -30,15 +30,13 @@ bool VerificaNivel(const QString &clave)
                        u"INGRESO CORRECTO SIN USUARIOS"_s);
         return true;
     }
-    bool definido = false;
+    dao::Recordset niveles = BaseDatos.openRecordset(u"Niveles"_s);
+    niveles.setIndex(u"nivel");
+    niveles.seek(u"=", NivelActual);
+    const bool definido = !niveles.noMatch();
     bool permitido = false;
-    basic::ignoringErrors([&] {
-        dao::Recordset niveles = BaseDatos.openRecordset(u"Niveles"_s);
-        niveles.setIndex(u"nivel");
-        niveles.seek(u"=", NivelActual);
-        definido = !niveles.noMatch();
-        permitido = definido && niveles[clave].truth(); // an unknown key reads as a refusal
-    });
+    if (definido) // an unknown key reads as a refusal
+        basic::ignoring({dao::Error::ItemNotFound}, [&] { permitido = niveles[clave].truth(); });
     if (permitido)
         RegistraEvento(clave, u"INGRESO CORRECTO"_s);
     else if (definido)

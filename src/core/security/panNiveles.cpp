@@ -163,7 +163,7 @@ void panNiveles::command2Click()
                Icon::Critical, u"Acceso denegado"_s);
         return;
     }
-    if (!MODULE11::Pregunta(u"Está seguro de eliminar este nivel de acceso"_s))
+    if (!MODULE11::PreguntaSiBorra(u"Está seguro de eliminar este nivel de acceso"_s))
         return;
     Data1.updateControls(); // what was typed goes with the row
     Data1.recordset().deleteRow();

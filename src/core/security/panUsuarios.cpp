@@ -5,6 +5,7 @@
 #include "core/services/services.h"
 #include "core/session/session.h"
 #include "platform/basic/runtime.h"
+#include "platform/dao/sqltext.h"
 #include "platform/forms/layout.h"
 
 using namespace Qt::StringLiterals;
@@ -139,7 +140,7 @@ void panUsuarios::mostrarEventos(const QString &condicion)
     const QString nombre = Data1.hasRow() ? Data1.recordset()[u"Nombre"].text() : QString();
     Label1.setCaption(u"Eventos de "_s + nombre + u" :"_s);
     Data2.setRecordSource(
-        u"Select * from eventos where usuario = '%1'%2 order by fecha, hora"_s.arg(nombre, condicion));
+        u"Select * from eventos where usuario = "_s + dao::quoted(nombre) + condicion + u" order by fecha, hora"_s);
     Data2.refresh();
 }
 
@@ -176,7 +177,7 @@ void panUsuarios::command1Click()
 void panUsuarios::command2Click()
 {
     if (!MODULE11::VerificaNivel(u"BorrarUsuarios"_s) ||
-        !MODULE11::Pregunta(u"Está seguro de retirar este usuario del sistema"_s))
+        !MODULE11::PreguntaSiBorra(u"Está seguro de retirar este usuario del sistema"_s))
         return;
     Data1.updateControls(); // what was typed goes with the row
     Data1.recordset().deleteRow();
@@ -193,8 +194,7 @@ void panUsuarios::command4Click()
 
 void panUsuarios::command5Click()
 {
-    mostrarEventos(u" and Fecha >= cdate('%1') and Fecha <= cdate('%2')"_s.arg(basic::dateText(dt1.value()),
-                                                                               basic::dateText(dt2.value())));
+    mostrarEventos(u" and "_s + dao::period(u"Fecha"_s, dt1.value(), dt2.value()));
 }
 
 #include "moc_panUsuarios.cpp"

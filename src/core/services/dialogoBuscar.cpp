@@ -1,5 +1,6 @@
 #include "core/services/dialogoBuscar.h"
 
+#include "platform/dao/sqltext.h"
 #include "platform/forms/layout.h"
 
 using namespace Qt::StringLiterals;
@@ -28,19 +29,18 @@ void DialogoBuscar::activate()
     Text1.selectAll();
 }
 
-QString DialogoBuscar::patron() const
+bool DialogoBuscar::mover(dao::Recordset &recordset, const QString &campo) const
 {
-    return (check3d1.isChecked() ? u"*"_s : QString()) + Text1.text().trimmed() + u'*';
-}
-
-void DialogoBuscar::mover(dao::Recordset &recordset, const QString &criterio) const
-{
+    const auto lugar = check3d1.isChecked() ? dao::Match::Anywhere : dao::Match::Beginning;
+    const QString criterio = u"[%1] LIKE "_s.arg(campo) +
+                             dao::quoted(dao::typedPattern(Text1.text().trimmed(), lugar));
     if (option3d1(1).isChecked())
         recordset.findLast(criterio);
     else if (option3d1(2).isChecked())
         recordset.findNext(criterio);
     else
         recordset.findFirst(criterio);
+    return !recordset.noMatch();
 }
 
 #include "moc_dialogoBuscar.cpp"

@@ -11,10 +11,9 @@ class DialogoBuscar : public forms::Form
     Q_OBJECT
 public:
     QString texto() const { return Text1.text(); }
-    /// The trimmed text as a LIKE pattern; anything may follow it, and precede it on request.
-    QString patron() const;
-    /// Moves to the first row that meets the criterion, to the last one, or to the next one, as was chosen.
-    void mover(dao::Recordset &recordset, const QString &criterio) const;
+    /// Moves to the first row whose field begins with the text (or holds it), to the last one, or to the next
+    /// one, as was chosen; false when there is none.
+    bool mover(dao::Recordset &recordset, const QString &campo) const;
 
 protected:
     struct Textos {

@@ -7,8 +7,7 @@
 namespace MODULE11
 {
 
-/// A field of the professional with this name. Null for nobody of the name, and for a name with an
-/// apostrophe, which fails the statement.
+/// A field of the professional with this name; Null for nobody of the name. Throws dao::Error.
 basic::Value CampoDelProfesional(const QString &nombre, QStringView campo);
 
 } // namespace MODULE11

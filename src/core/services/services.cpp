@@ -52,6 +52,11 @@ bool Pregunta(const QString &texto)
     return forms::askBox(texto, u"Pregunta"_s);
 }
 
+bool PreguntaSiBorra(const QString &texto)
+{
+    return forms::askBox(texto, u"Pregunta"_s, forms::Answer::No);
+}
+
 void Aviso(const QString &texto)
 {
     forms::msgBox(texto, forms::Icon::Information, u"Mensaje / Aviso"_s);
@@ -86,14 +91,14 @@ void LlenaLista(QListWidget &lista, const QString &sql, QStringView campo)
     lista.addItems(valores(sql, campo));
 }
 
-void BuscaEnLista(dao::Recordset &recordset, const QString &campo)
+bool BuscaEnLista(dao::Recordset &recordset, const QString &campo)
 {
     buscaDato dialogo;
     dialogo.showModal();
     if (dialogo.tag() != u"SI")
-        return;
+        return true;
     QApplication::processEvents(); // the closing dialogue's place is painted before a long search
-    dialogo.mover(recordset, u"[%1] LIKE '%2'"_s.arg(campo, dialogo.patron()));
+    return dialogo.mover(recordset, campo);
 }
 
 void MuestraListado(const QString &sql, const QString &titulo)

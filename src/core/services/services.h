@@ -13,7 +13,9 @@ class QWidget;
 namespace MODULE11
 {
 
-bool Pregunta(const QString &texto);     ///< box "Pregunta" with Yes and No; true on Yes
+bool Pregunta(const QString &texto); ///< box "Pregunta" with Yes and No; true on Yes
+/// The same where a Yes deletes or throws away: Enter answers No.
+bool PreguntaSiBorra(const QString &texto);
 void Aviso(const QString &texto);        ///< box "Mensaje / Aviso"
 void MuestraError(const QString &texto); ///< box "E r r o r": the normal way of telling a refused action
 
@@ -26,7 +28,8 @@ void LlenaLista(QComboBox &lista, const QString &sql, QStringView campo);
 void LlenaLista(QListWidget &lista, const QString &sql, QStringView campo);
 
 /// Asks for a text with `buscaDato` and moves the recordset to a row whose field begins with (or holds) it.
-void BuscaEnLista(dao::Recordset &recordset, const QString &campo);
+/// False when there is no such row; where nothing was asked for, the row stays.
+bool BuscaEnLista(dao::Recordset &recordset, const QString &campo);
 
 /// Shows the query as a list in `panListados`, modally.
 void MuestraListado(const QString &sql, const QString &titulo);

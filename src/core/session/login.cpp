@@ -4,6 +4,7 @@
 #include "core/session/session.h"
 #include "core/windows/panIngresoUsuario.h"
 #include "platform/basic/errors.h"
+#include "platform/dao/sqltext.h"
 #include "platform/forms/boxes.h"
 
 using namespace Qt::StringLiterals;
@@ -34,12 +35,9 @@ Intento intentar(panIngresoUsuario &ventana)
         error(u"No podrá ingresar al sistema"_s, u"Error de ingreso"_s);
         return Intento::Rechazado;
     }
-    dao::Recordset usuarios;
-    const bool leido = basic::ignoringErrors([&] {
-        usuarios =
-            BaseDatos.openRecordset(u"Select * from usuarios where nombre = '%1'"_s.arg(ventana.usuario()));
-    });
-    if (!leido || usuarios.eof()) {
+    dao::Recordset usuarios =
+        BaseDatos.openRecordset(u"Select * from usuarios where nombre = "_s + dao::quoted(ventana.usuario()));
+    if (usuarios.eof()) {
         error(u"Usuario no registrado en el sistema."_s);
         return Intento::Repetir;
     }

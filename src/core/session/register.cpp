@@ -12,10 +12,10 @@ using namespace Qt::StringLiterals;
 
 void core::registerScreens()
 {
-    screens::add<panPersonaliza>(u"panPersonaliza"_s);
-    screens::add<asistente>(u"asistente"_s);
-    screens::add<acerca>(u"acerca"_s);
-    screens::add<panUsuarios>(u"panUsuarios"_s);
-    screens::add<panNiveles>(u"panNiveles"_s);
-    screens::add<panAdmAlarmas>(u"panAdmAlarmas"_s);
+    screens::add<panPersonaliza>("panPersonaliza");
+    screens::add<asistente>("asistente");
+    screens::add<acerca>("acerca");
+    screens::add<panUsuarios>("panUsuarios");
+    screens::add<panNiveles>("panNiveles");
+    screens::add<panAdmAlarmas>("panAdmAlarmas");
 }

@@ -14,42 +14,36 @@ std::map<QString, Factory> &factories()
     return all;
 }
 
-std::map<QString, Operation> &operations()
+std::map<QString, Operation> &registeredOperations()
 {
     static std::map<QString, Operation> all;
     return all;
 }
 
-std::map<QString, Query> &queries()
-{
-    static std::map<QString, Query> all;
-    return all;
-}
-
 } // namespace
 
-void add(const QString &window, Factory factory)
+void add(Window window, Factory factory)
 {
-    factories()[window] = std::move(factory);
+    factories()[window.text()] = std::move(factory);
 }
 
-bool has(const QString &window)
+bool has(Window window)
 {
-    return factories().count(window) != 0;
+    return factories().count(window.text()) != 0;
 }
 
-QString oneOf(const QString &window, const QString &substitute)
+Window oneOf(Window window, Window substitute)
 {
     return has(window) ? window : substitute;
 }
 
-std::unique_ptr<forms::Form> make(const QString &window)
+std::unique_ptr<forms::Form> make(Window window)
 {
-    const auto found = factories().find(window);
+    const auto found = factories().find(window.text());
     return found == factories().end() ? nullptr : found->second();
 }
 
-QString showModal(const QString &window, const QString &tag)
+QString showModal(Window window, const QString &tag)
 {
     const auto form = make(window);
     if (!form)
@@ -59,7 +53,7 @@ QString showModal(const QString &window, const QString &tag)
     return form->tag();
 }
 
-void showChild(const QString &window, const QString &tag, const QString &caption, bool maximised)
+void showChild(Window window, const QString &tag, const QString &caption, bool maximised)
 {
     auto form = make(window);
     if (!form)
@@ -70,31 +64,20 @@ void showChild(const QString &window, const QString &tag, const QString &caption
     form.release()->showChild(maximised); // from here on the main window's area owns it
 }
 
-void addOperation(const QString &name, Operation operation)
+void addOperation(Command command, Operation operation)
 {
-    operations()[name] = std::move(operation);
+    registeredOperations()[command.text()] = std::move(operation);
 }
 
-bool hasOperation(const QString &name)
+bool hasOperation(Command command)
 {
-    return operations().count(name) != 0;
+    return registeredOperations().count(command.text()) != 0;
 }
 
-void run(const QString &name)
+void run(Command command)
 {
-    if (const auto found = operations().find(name); found != operations().end())
+    if (const auto found = registeredOperations().find(command.text()); found != registeredOperations().end())
         found->second();
-}
-
-void addQuery(const QString &name, Query query)
-{
-    queries()[name] = std::move(query);
-}
-
-QString ask(const QString &name)
-{
-    const auto found = queries().find(name);
-    return found == queries().end() ? QString() : found->second();
 }
 
 } // namespace screens

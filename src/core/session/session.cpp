@@ -15,7 +15,7 @@ namespace
 // The engine ends with the process before static objects do: the connection must be closed with the
 // application.
 [[maybe_unused]] const bool closesWithTheApplication = [] {
-    qAddPostRoutine([] { basic::ignoringErrors([] { BaseDatos.close(); }); });
+    qAddPostRoutine([] { basic::ignoring(dao::fileTrouble, [] { BaseDatos.close(); }); });
     return true;
 }();
 

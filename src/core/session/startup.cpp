@@ -12,6 +12,7 @@
 #include "platform/basic/environment.h"
 #include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
+#include "platform/dao/sqltext.h"
 #include "platform/forms/boxes.h"
 #include "platform/forms/twips.h"
 #include "platform/settings/settings.h"
@@ -49,8 +50,8 @@ void abrirBase()
 
 void importar()
 {
-    if (screens::has(u"panImportAfiliados"_s))
-        screens::showModal(u"panImportAfiliados"_s, u"AUTO"_s);
+    if (screens::has("panImportAfiliados"))
+        screens::showModal("panImportAfiliados", u"AUTO"_s);
     else
         MuestraError(u"La importación de afiliados no está disponible en esta versión."_s);
     terminar();
@@ -80,7 +81,7 @@ void adoptarDoctor(const QString &nombre)
 /// bears exactly that name.
 void elegirDoctorDelEquipo()
 {
-    const QString consulta = u"Select * from profesionales where nombre = '%1'"_s.arg(DrActual);
+    const QString consulta = u"Select * from profesionales where nombre = "_s + dao::quoted(DrActual);
     basic::Value nombre; // a look-up that fails leaves it empty, which is not Null
     basic::ignoringErrors([&] { nombre = BuscaCampo(consulta, u"Nombre"); });
     if (!nombre.isNull())

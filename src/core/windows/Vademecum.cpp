@@ -9,6 +9,7 @@
 #include "core/windows/panInicial.h"
 #include "platform/basic/environment.h"
 #include "platform/basic/runtime.h"
+#include "platform/dao/sqltext.h"
 #include "platform/forms/boxes.h"
 #include "platform/forms/form.h"
 #include "platform/forms/twips.h"
@@ -209,8 +210,8 @@ void Vademecum::actualizarPacientesDeHoy()
     lblPac(0).hide();
 
     dao::Recordset turnos = MODULE11::BaseDatos.openRecordset(
-        u"SELECT * FROM turnos WHERE Fecha = cdate('%1') AND Dr = '%2' and idPaciente <> 0"_s.arg(
-            basic::dateText(basic::today()), MODULE11::DrActual));
+        u"SELECT * FROM turnos WHERE Fecha = %1 AND Dr = %2 and idPaciente <> 0"_s.arg(
+            dao::cdate(basic::today()), dao::quoted(MODULE11::DrActual)));
     auto *lista = qobject_cast<QVBoxLayout *>(listaPacientes_->layout());
     lista->setSpacing(static_cast<int>(0.6 * lblPac(0).sizeHint().height()));
     for (int i = 0; !turnos.eof(); turnos.moveNext(), ++i) {
@@ -231,7 +232,9 @@ void Vademecum::actualizarPacientesDeHoy()
             }
         });
         connect(&nombre, &forms::Label::clicked, this, [&nombre] {
-            screens::showChild(screens::oneOf(u"panEstadPaciente"_s, u"panVisitas"_s), forms::tag(&nombre));
+            if (!MODULE11::VerificaNivel(u"IngresarAPacientes"_s))
+                return;
+            screens::showChild(screens::oneOf("panEstadPaciente", "panVisitas"), forms::tag(&nombre));
         });
         nombre.show();
     }
@@ -251,12 +254,12 @@ void Vademecum::primeraActivacion()
     mostrarEstado();
     if (settings::getSetting(u"Configuracion"_s, u"Mostrar Asistente al empezar"_s).isEmpty() &&
         MostrarAsistente) {
-        screens::showModal(u"asistente"_s);
+        screens::showModal("asistente");
         MostrarAsistente = false;
     }
     if (settings::getSetting(u"Configuracion"_s, u"Pantalla Inicial"_s) != u"NO" && MostrarInicial) {
-        basic::ignoringErrors([this] { mostrarPantallaInicial(); });
         MostrarInicial = false;
+        mostrarPantallaInicial();
     }
 }
 
@@ -266,11 +269,11 @@ void Vademecum::mostrarPantallaInicial()
     inicio.showModal();
     const QString eleccion = inicio.tag();
     if (eleccion == u"NUEVO" && MODULE11::VerificaNivel(u"AgregarPacientes"_s))
-        screens::run(u"NuevaFicha"_s);
+        screens::run("NuevaFicha");
     else if (eleccion == u"ABRIR" && MODULE11::VerificaNivel(u"IngresarAPacientes"_s))
-        screens::run(u"AbreFicha"_s);
+        screens::run("AbreFicha");
     else if (eleccion == u"TURNOS" && MODULE11::VerificaNivel(u"IngresarATurnos"_s))
-        screens::showChild(u"panTurnos"_s);
+        screens::showChild("panTurnos");
     else if (eleccion == u"AYUDAS")
         menu::choose({0, "", "", menu::Kind::HelpKey});
     if (!inicio.mostrarCadaVez())

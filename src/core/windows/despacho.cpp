@@ -40,6 +40,16 @@ void sendKey(int key)
     QApplication::postEvent(receiver, new QKeyEvent(QEvent::KeyRelease, key, Qt::NoModifier));
 }
 
+screens::Window windowOf(const Entry &entry)
+{
+    return screens::Window::find(text(entry.target)).value();
+}
+
+screens::Command commandOf(const Entry &entry)
+{
+    return screens::Command::find(text(entry.target)).value();
+}
+
 QString webAddress(const Entry &entry)
 {
     return settings::getSetting(u"Miscelaneas"_s, text(entry.target));
@@ -60,10 +70,10 @@ void openPatientWindow(const Entry &entry, const QString &patient)
 {
     const QString caption = windowCaption(entry, patient);
     if (entry.kind != Kind::PatientModal) {
-        screens::showChild(text(entry.target), patient, caption);
+        screens::showChild(windowOf(entry), patient, caption);
         return;
     }
-    const auto form = screens::make(text(entry.target));
+    const auto form = screens::make(windowOf(entry));
     form->setTag(patient);
     if (!caption.isEmpty())
         form->setWindowTitle(caption);
@@ -84,7 +94,7 @@ void choosePatientBound(const Entry &entry)
     }
     for (int i = 0; i < entry.keysRight; ++i)
         sendKey(Qt::Key_Right);
-    screens::run(text(entry.target));
+    screens::run(commandOf(entry));
 }
 
 void exitAtOnce()
@@ -119,10 +129,10 @@ bool available(const Entry &entry)
     case Kind::PatientModal:
     case Kind::PatientChild:
     case Kind::PatientOrNothing:
-        return screens::has(text(entry.target));
+        return screens::has(windowOf(entry));
     case Kind::Operation:
     case Kind::PatientOperation:
-        return screens::hasOperation(text(entry.target));
+        return screens::hasOperation(commandOf(entry));
     case Kind::Document:
         return QFileInfo::exists(basic::programFile(text(entry.target)));
     case Kind::Web:
@@ -141,16 +151,16 @@ void choose(const Entry &entry)
     switch (entry.kind) {
     case Kind::Child:
     case Kind::ChildMaximised:
-        screens::showChild(text(entry.target), {}, {}, entry.kind == Kind::ChildMaximised);
+        screens::showChild(windowOf(entry), {}, {}, entry.kind == Kind::ChildMaximised);
         break;
     case Kind::Modal:
-        screens::showModal(text(entry.target));
+        screens::showModal(windowOf(entry));
         break;
     case Kind::ModalWithTag:
-        screens::showModal(text(entry.target), activePatient());
+        screens::showModal(windowOf(entry), activePatient());
         break;
     case Kind::Operation:
-        screens::run(text(entry.target));
+        screens::run(commandOf(entry));
         break;
     case Kind::PatientModal:
     case Kind::PatientChild:

@@ -1,5 +1,7 @@
 #include "core/windows/menu.h"
 
+#include "core/session/screennames.h"
+
 namespace menu
 {
 
@@ -152,6 +154,37 @@ constexpr Button buttons[] = {
     {"Profesionales", "profesionales", Modal, "panProfesionales", "IngresarAProfesionales"},
 };
 // clang-format on
+
+/// A window or a command that no subsystem can ever register is a slip of the pen in this file.
+template <class Item>
+constexpr bool leadsSomewhere(const Item &item)
+{
+    switch (item.kind) {
+    case Child:
+    case ChildMaximised:
+    case Modal:
+    case ModalWithTag:
+    case PatientModal:
+    case PatientChild:
+    case PatientOrNothing:
+        return screens::contains(screens::windows, item.target);
+    case Operation:
+    case PatientOperation:
+        return screens::contains(screens::operations, item.target);
+    default:
+        return true;
+    }
+}
+
+template <class Table>
+constexpr bool allLeadSomewhere(const Table &items)
+{
+    for (const auto &item : items)
+        if (!leadsSomewhere(item))
+            return false;
+    return true;
+}
+static_assert(allLeadSomewhere(entries) && allLeadSomewhere(buttons));
 
 } // namespace
 

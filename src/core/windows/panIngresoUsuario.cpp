@@ -1,6 +1,7 @@
 #include "core/windows/panIngresoUsuario.h"
 
 #include "core/services/services.h"
+#include "platform/dao/error.h"
 #include "platform/basic/environment.h"
 #include "platform/basic/errors.h"
 #include "platform/forms/layout.h"
@@ -42,7 +43,7 @@ void panIngresoUsuario::load()
         return;
     Frame1.show();
     dt1.setValue(basic::today());
-    basic::ignoringErrors(
+    basic::ignoring(dao::fileTrouble,
         [this] { MODULE11::LlenaLista(Combo2, u"Select * from Profesionales"_s, u"Nombre"); });
     setMinimumHeight(static_cast<int>(toPixels(altoConTurnos)));
 }

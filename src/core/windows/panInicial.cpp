@@ -1,6 +1,8 @@
 #include "core/windows/panInicial.h"
 
 #include "core/session/session.h"
+#include "platform/dao/sqltext.h"
+#include "platform/dao/error.h"
 #include "platform/basic/environment.h"
 #include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
@@ -59,9 +61,9 @@ panInicial::panInicial() : Form(u"panInicial"_s)
 
 void panInicial::load()
 {
-    basic::ignoringErrors([this] {
+    basic::ignoring(dao::fileTrouble, [this] {
         dao::Recordset turnos = MODULE11::BaseDatos.openRecordset(
-            u"Select * from turnos where fecha = cdate('%1')"_s.arg(basic::dateText(basic::today())));
+            u"Select * from turnos where fecha = "_s + dao::cdate(basic::today()));
         if (turnos.eof())
             return;
         turnos.moveLast();

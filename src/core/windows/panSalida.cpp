@@ -19,7 +19,7 @@ panSalida::panSalida() : Form(u"panSalida"_s)
 void panSalida::load()
 {
     setTag(u"NO"_s);
-    const bool hayBackup = screens::has(u"panBackup"_s);
+    const bool hayBackup = screens::has("panBackup");
     Check1.setEnabled(hayBackup);
     Check1.setChecked(hayBackup && settings::getSetting(u"Miscelaneas"_s, u"HacebackupAlSalir"_s) == u"SI");
 }
@@ -30,7 +30,7 @@ void panSalida::command1Click()
         settings::saveSetting(u"Miscelaneas"_s, u"HacebackupAlSalir"_s,
                               Check1.isChecked() ? u"SI"_s : u"NO"_s);
     if (Check1.isChecked())
-        screens::showModal(u"panBackup"_s);
+        screens::showModal("panBackup");
     answer(u"SI"_s);
 }
 

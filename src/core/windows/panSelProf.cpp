@@ -1,6 +1,7 @@
 #include "core/windows/panSelProf.h"
 
 #include "core/session/session.h"
+#include "platform/dao/error.h"
 #include "platform/basic/errors.h"
 #include "platform/forms/layout.h"
 
@@ -29,7 +30,7 @@ panSelProf::panSelProf() : Form(u"panSelProf"_s)
 void panSelProf::load()
 {
     Data1.setRecordSource(u"Select * from Profesionales order by Nombre"_s);
-    basic::ignoringErrors([this] { Data1.refresh(); });
+    basic::ignoring(dao::fileTrouble, [this] { Data1.refresh(); });
     Command1.setEnabled(Data1.hasRecordset() && !Data1.recordset().eof());
 }
 

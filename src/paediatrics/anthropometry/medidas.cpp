@@ -19,20 +19,21 @@ double CalcularIMC(const basic::Value &peso, const basic::Value &talla)
     return (gramos / 1000) / (metros * metros);
 }
 
-void TomarMedidas(const QString &paciente)
+bool TomarMedidas(qint64 paciente)
 {
     panMedidas ventana;
     ventana.showModal();
     if (ventana.tag() != u"SI")
-        return;
+        return false;
     dao::Recordset medidas = MODULE11::BaseDatos.openRecordset(u"Medidas"_s);
     medidas.addNew();
-    medidas[u"Paciente"] = basic::Value(paciente).integer();
+    medidas[u"Paciente"] = paciente;
     medidas[u"fecha"] = ventana.fecha();
     medidas[u"Peso"] = ventana.peso();
     medidas[u"Talla"] = ventana.talla();
     medidas[u"Pc"] = ventana.pc();
     medidas.update();
+    return true;
 }
 
 } // namespace paediatrics

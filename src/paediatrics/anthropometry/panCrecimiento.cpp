@@ -49,7 +49,7 @@ void panCrecimiento::command2Click()
 
 void panCrecimiento::command8Click()
 {
-    if (Data1.recordset().eof() || !MODULE11::Pregunta(u"Borra este registro de medidas??"_s))
+    if (Data1.recordset().eof() || !MODULE11::PreguntaSiBorra(u"Borra este registro de medidas??"_s))
         return;
     Data1.change([](dao::Recordset &medidas) {
         if (medidas.editMode() != dao::Recordset::EditMode::None)
@@ -66,7 +66,7 @@ void panCrecimiento::command10Click()
     const bool existe = !pacientes.eof();
     pacientes.close();
     if (existe)
-        screens::showModal(u"panMuesCurvas"_s, tag());
+        screens::showModal("panMuesCurvas", tag());
 }
 
 #include "moc_panCrecimiento.cpp"

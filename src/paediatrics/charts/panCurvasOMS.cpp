@@ -1,5 +1,6 @@
 #include "paediatrics/charts/panCurvasOMS.h"
 
+#include "core/services/paciente.h"
 #include "core/session/session.h"
 #include "paediatrics/anthropometry/medidas.h"
 #include "paediatrics/charts/mapping.h"
@@ -21,6 +22,18 @@ namespace
 
 constexpr int nitidez = 2; // pixels on paper for each of the screen
 
+/// Whose measures stand on the chart, and a warning where it is one of the other sex.
+QString advertencia(dao::Recordset &paciente, const charts::WhoChart &chart)
+{
+    const QString nombre = paciente[u"Apellido y Nombres"].text();
+    const QString sexo = paciente[u"Sexo"].text().left(1).toUpper();
+    if (sexo == u"V" && chart.sex == charts::Sex::Girls)
+        return nombre + u" — ATENCIÓN: es varón y la curva es de niñas."_s;
+    if (sexo == u"M" && chart.sex == charts::Sex::Boys)
+        return nombre + u" — ATENCIÓN: es mujer y la curva es de niños."_s;
+    return nombre;
+}
+
 QStringView columnaProbada(charts::Measure medida)
 {
     return medida == charts::Measure::Talla ? u"talla" : u"peso";
@@ -40,12 +53,18 @@ panCurvasOMS::panCurvasOMS() : Form(u"panCurvasOMS"_s), Image1(u"Image1"_s, char
         boton->setAutoDefault(false);
     setContents(this, Column{
                           Row{Fields{{Label1, Combo1}}, Check1, Stretch(), Command2, Command1},
+                          lblPaciente,
                           Image1,
                       });
     connect(&Combo1, &QComboBox::currentIndexChanged, this, &panCurvasOMS::combo1Click);
     connect(&Check1, &QCheckBox::toggled, this, &panCurvasOMS::combo1Click);
     connect(&Command1, &QPushButton::clicked, this, &panCurvasOMS::unload);
     connect(&Command2, &QPushButton::clicked, this, &panCurvasOMS::command2Click);
+}
+
+void panCurvasOMS::activate()
+{
+    lblPaciente.setCaption(services::nombreDePaciente(tag()));
 }
 
 void panCurvasOMS::combo1Click()
@@ -65,12 +84,12 @@ void panCurvasOMS::dibujar(const charts::WhoChart &chart)
     marcadores_.quitar();
     const QString seleccion = Check1.isChecked() ? u"true"_s : u"paciente = %1 order by fecha"_s.arg(tag());
     Image1.loadPicture(basic::programFile(u"curvas/oms/%1.jpg"_s.arg(chart.picture)));
-    dao::Recordset pacientes = MODULE11::BaseDatos.openRecordset(u"Pacientes"_s);
-    pacientes.setIndex(u"PrimaryKey");
-    pacientes.seek(u"=", tag());
-    if (pacientes.noMatch())
+    auto paciente = services::paciente(tag());
+    lblPaciente.setCaption(paciente ? advertencia(*paciente, chart)
+                                    : u"Sin un paciente elegido no hay medidas que ubicar en la curva."_s);
+    if (!paciente)
         return;
-    const basic::Value nacimiento = pacientes[u"Fecha de Nacimiento"];
+    const basic::Value nacimiento = (*paciente)[u"Fecha de Nacimiento"];
     dao::Recordset medidas = MODULE11::BaseDatos.openRecordset(u"select * from Medidas where "_s + seleccion);
     if (nacimiento.isNull())
         return;
@@ -106,13 +125,15 @@ void panCurvasOMS::command2Click()
     printing::Choice impresora;
     if (!printing::defaultChoice(impresora))
         return;
-    QImage imagen(size() * nitidez, QImage::Format_RGB32);
+    QImage imagen(Image1.size() * nitidez, QImage::Format_RGB32);
     imagen.setDevicePixelRatio(nitidez);
     QPainter painter(&imagen);
-    render(&painter);
+    Image1.render(&painter);
     painter.end();
-    printing::Document documento(impresora, windowTitle(), true);
-    documento.paintPage(imagen);
+    printing::Document documento(impresora, windowTitle() + u" "_s + services::nombreDePaciente(tag()), true);
+    documento.print(lblPaciente.caption());
+    documento.print(Combo1.value());
+    documento.paintPicture(imagen, Image1.sizeTwips().width(), Image1.sizeTwips().height());
     documento.endDoc();
 }
 

@@ -13,6 +13,9 @@ class panCurvasOMS : public forms::Form
 public:
     panCurvasOMS();
 
+protected:
+    void activate() override;
+
 private:
     void combo1Click();
     void dibujar(const charts::WhoChart &chart);
@@ -23,6 +26,7 @@ private:
     forms::ComboBox Combo1{QStringLiteral("Combo1")};
     forms::CheckBox Check1{QStringLiteral("Check1"),
                            QStringLiteral("&Incluye medidas de todos los pacientes?")};
+    forms::Label lblPaciente{QStringLiteral("lblPaciente")};
     forms::PictureBox Image1;
     charts::CapaDeMarcadores marcadores_{&Image1, charts::whoPictureBox.topLeft()};
     forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("Im&primir"),

@@ -1,5 +1,6 @@
 #include "paediatrics/charts/panMuesCurvas.h"
 
+#include "core/services/paciente.h"
 #include "core/services/services.h"
 #include "core/session/screens.h"
 #include "core/session/session.h"
@@ -18,7 +19,7 @@ namespace
 /// for both.
 struct Curva {
     const char *opcion;
-    const char *varonesHasta6, *mujeresHasta6, *varones, *mujeres;
+    screens::Window varonesHasta6, *mujeresHasta6, *varones, *mujeres;
 };
 constexpr Curva curvas[] = {
     {"&Peso", "panPerPesoninos6", "panPerPesoNenas6", "panPercenPeso", "panPerPesoNenas"},
@@ -41,7 +42,7 @@ panMuesCurvas::panMuesCurvas() : Form(u"panMuesCurvas"_s)
     int indice = 0;
     for (const Curva &curva : curvas) {
         OptionButton &opcion = Option1.add(indice++, QString::fromUtf8(curva.opcion));
-        opcion.setEnabled(screens::has(QString::fromUtf8(curva.varones)));
+        opcion.setEnabled(screens::has(curva.varones));
         connect(&opcion, &QRadioButton::toggled, this, &panMuesCurvas::habilitarEdades);
         opciones.push_back(opcion);
     }
@@ -72,7 +73,7 @@ panMuesCurvas::panMuesCurvas() : Form(u"panMuesCurvas"_s)
     connect(&Command1, &QPushButton::clicked, this, &panMuesCurvas::unload);
     connect(&Command2, &QPushButton::clicked, this, &panMuesCurvas::command2Click);
     connect(&Command4, &QPushButton::clicked, this,
-            [this] { screens::showModal(u"panCurvasOMS"_s, sujeto()); });
+            [this] { screens::showModal("panCurvasOMS", sujeto()); });
 }
 
 void panMuesCurvas::activate()
@@ -84,11 +85,8 @@ void panMuesCurvas::activate()
 void panMuesCurvas::tomarSexoDelPaciente()
 {
     forms::setTag(&Command3, {});
-    if (basic::isNumeric(tag())) {
-        dao::Recordset pacientes = MODULE11::BaseDatos.openRecordset(u"Pacientes"_s);
-        pacientes.setIndex(u"primarykey");
-        pacientes.seek(u"=", tag());
-        const QString letra = pacientes.noMatch() ? QString() : pacientes[u"Sexo"].text().left(1).toUpper();
+    if (auto paciente = services::paciente(tag())) {
+        const QString letra = (*paciente)[u"Sexo"].text().left(1).toUpper();
         if (letra == u"V") {
             forms::setTag(&Command3, u"VARON"_s);
             Option2(varones).setChecked(true);
@@ -118,7 +116,7 @@ void panMuesCurvas::habilitarEdades()
     Option2(hasta19).setEnabled(!sinEdades);
 }
 
-QString panMuesCurvas::destino() const
+screens::Window panMuesCurvas::destino() const
 {
     int elegida = 0;
     while (!Option1(elegida).isChecked())
@@ -126,8 +124,8 @@ QString panMuesCurvas::destino() const
     const Curva &curva = curvas[elegida];
     const bool varon = sexo() == u"VARON";
     if (Option2(hasta6).isChecked())
-        return QString::fromUtf8(varon ? curva.varonesHasta6 : curva.mujeresHasta6);
-    return QString::fromUtf8(varon ? curva.varones : curva.mujeres);
+        return varon ? curva.varonesHasta6 : curva.mujeresHasta6;
+    return varon ? curva.varones : curva.mujeres;
 }
 
 QString panMuesCurvas::sujeto() const

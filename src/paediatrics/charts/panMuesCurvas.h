@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/session/screens.h"
 #include "platform/forms/controlarray.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
@@ -19,7 +20,7 @@ private:
     void check1Click();
     void habilitarEdades();
     QString sexo() const { return forms::tag(&Command3); }
-    QString destino() const;
+    screens::Window destino() const;
     QString sujeto() const;
     void command2Click();
 

@@ -1,9 +1,9 @@
 #include "paediatrics/charts/panPercentil.h"
 
+#include "core/services/paciente.h"
 #include "core/session/session.h"
 #include "paediatrics/charts/mapping.h"
 #include "platform/basic/environment.h"
-#include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
 #include "platform/forms/layout.h"
 #include "platform/printing/printer.h"
@@ -66,13 +66,11 @@ void panPercentil::activate()
 
 void panPercentil::dibujarPaciente()
 {
-    dao::Recordset pacientes = MODULE11::BaseDatos.openRecordset(u"Pacientes"_s);
-    pacientes.setIndex(u"PrimaryKey");
-    pacientes.seek(u"=", tag());
-    if (pacientes.noMatch())
+    auto paciente = services::paciente(tag());
+    if (!paciente)
         return;
-    setWindowTitle(chart_.captionOfPatient.toString() + pacientes[u"Apellido y Nombres"].text());
-    const basic::Value nacimiento = pacientes[u"Fecha de Nacimiento"];
+    setWindowTitle(chart_.captionOfPatient.toString() + (*paciente)[u"Apellido y Nombres"].text());
+    const basic::Value nacimiento = (*paciente)[u"Fecha de Nacimiento"];
     dao::Recordset medidas = MODULE11::BaseDatos.openRecordset(
         u"select * from Medidas where paciente = %1 order by fecha"_s.arg(tag()));
     if (medidas.eof() || nacimiento.isNull())
@@ -136,19 +134,17 @@ void panPercentil::dibujarTodos()
 
 void panPercentil::command1Click()
 {
-    basic::ignoringErrors([this] {
-        printing::Choice impresora;
-        if (!printing::chooserDialog(impresora, u"Imprimir"_s))
-            return;
-        printing::Document documento(impresora, windowTitle());
-        documento.setFont(QFont(u"Arial"_s, 15));
-        documento.print((chart_.printsDoctor ? u"Dr. "_s : QString()) + MODULE11::DrActual);
-        documento.setFont(QFont(u"Arial"_s, 10));
-        documento.print(windowTitle());
-        documento.paintPicture(Picture1.image(), Picture1.sizeTwips().width(), Picture1.sizeTwips().height());
-        documento.print(u"Impresión realizada el "_s + basic::format(basic::today(), u"dddd d  mmmm, yyyy"));
-        documento.endDoc();
-    });
+    printing::Choice impresora;
+    if (!printing::chooserDialog(impresora, u"Imprimir"_s))
+        return;
+    printing::Document documento(impresora, windowTitle());
+    documento.setFont(QFont(u"Arial"_s, 15));
+    documento.print((chart_.printsDoctor ? u"Dr. "_s : QString()) + MODULE11::DrActual);
+    documento.setFont(QFont(u"Arial"_s, 10));
+    documento.print(windowTitle());
+    documento.paintPicture(Picture1.image(), Picture1.sizeTwips().width(), Picture1.sizeTwips().height());
+    documento.print(u"Impresión realizada el "_s + basic::format(basic::today(), u"dddd d  mmmm, yyyy"));
+    documento.endDoc();
 }
 
 #include "moc_panPercentil.cpp"

@@ -3,7 +3,6 @@
 #include "core/security/niveles.h"
 #include "core/services/services.h"
 #include "core/session/session.h"
-#include "core/windows/despacho.h"
 #include "platform/basic/environment.h"
 #include "platform/basic/runtime.h"
 #include "platform/forms/boxes.h"
@@ -30,12 +29,13 @@ dao::Recordset lugarLibre(basic::Date fecha, const QString &hora)
 
 } // namespace
 
-void OtorgaTurno()
+void OtorgaTurno(std::optional<qint64> paciente)
 {
     if (!MODULE11::VerificaNivel(u"AgregarTurnos"_s))
         return;
     panNueTurno dialogo;
-    dialogo.setPaciente(menu::activePatient());
+    if (paciente)
+        dialogo.setPaciente(QString::number(*paciente));
     dialogo.setFecha(basic::today());
     dialogo.proponer({}, MODULE11::DrActual);
     dialogo.showModal();

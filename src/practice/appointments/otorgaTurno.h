@@ -1,5 +1,9 @@
 #pragma once
 
-/// Books the next appointment of the patient whose window is the active one, from today on, in whatever free
-/// place of the book has the day and hour chosen.
-void OtorgaTurno();
+#include <QtGlobal>
+
+#include <optional>
+
+/// Books the next appointment of a patient, from today on, in whatever free place of the book has the day and
+/// hour chosen. Without a patient the dialogue asks for one.
+void OtorgaTurno(std::optional<qint64> paciente);

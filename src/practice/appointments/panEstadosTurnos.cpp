@@ -46,7 +46,7 @@ void panEstadosTurnos::command1Click()
 
 void panEstadosTurnos::command2Click()
 {
-    if (!MODULE11::Pregunta(u"ATENCION: Desea eliminar éste registro?"_s))
+    if (!MODULE11::PreguntaSiBorra(u"ATENCION: Desea eliminar éste registro?"_s))
         return;
     Data1.change([](dao::Recordset &estados) { estados.deleteRow(); });
     Data1.refresh();

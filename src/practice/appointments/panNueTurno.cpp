@@ -2,7 +2,7 @@
 
 #include "core/security/permisos.h"
 #include "core/services/services.h"
-#include "core/session/screens.h"
+#include "core/session/ports.h"
 #include "core/session/session.h"
 #include "platform/basic/environment.h"
 #include "platform/basic/runtime.h"
@@ -340,7 +340,7 @@ void panNueTurno::command3Click()
 
 void panNueTurno::command4Click()
 {
-    const QString nombre = screens::ask(u"PideNombreDePaciente"_s);
+    const QString nombre = ports::pideNombreDePaciente();
     if (nombre.isEmpty())
         return;
     bool hallado = true;

@@ -183,7 +183,7 @@ void panTurnos::mostrarCuentas()
     const bool hay = enLugar();
     Command3.setEnabled(hay);
     Command6.setEnabled(hay);
-    Command1.setEnabled(hay && screens::has(u"panInfTurnos"_s));
+    Command1.setEnabled(hay && screens::has("panInfTurnos"));
     if (!hay) {
         Text1(0).setText(u"0"_s);
         Text1(1).setText(u"0"_s);
@@ -261,7 +261,7 @@ void panTurnos::editar()
 void panTurnos::borrar()
 {
     if (!enLugar() || !MODULE11::VerificaNivel(u"BorrarTurnos"_s) ||
-        !MODULE11::Pregunta(u"Borra el turno Seleccionado"_s))
+        !MODULE11::PreguntaSiBorra(u"Borra el turno Seleccionado"_s))
         return;
     const qint64 idTurno = turnoActual();
     turnos::liberar(Data1.recordset());
@@ -284,7 +284,7 @@ void panTurnos::cambiarEstado()
 void panTurnos::informe()
 {
     if (MODULE11::VerificaNivel(u"IngresarAInformes"_s))
-        screens::showModal(u"panInfTurnos"_s);
+        screens::showModal("panInfTurnos");
 }
 
 #include "moc_panTurnos.cpp"

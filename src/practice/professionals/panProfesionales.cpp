@@ -201,7 +201,7 @@ void panProfesionales::eliminarClick()
         MODULE11::MuestraError(u"Error, no puede eliminar éste registro!!"_s);
         return;
     }
-    if (!MODULE11::Pregunta(u"Borra este profesional de la lista"_s))
+    if (!MODULE11::PreguntaSiBorra(u"Borra este profesional de la lista"_s))
         return;
     Data1.updateControls(); // what was typed goes with the row
     MODULE11::BaseDatos.execute(u"Delete * from DisTurnos where idProfesional = "_s +

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "core/session/eleccion.h"
+
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+/// What one subsystem asks of another with arguments and an answer. The subsystem that has it provides it at
+/// start; a port that nobody provides is false, and what would call it is disabled.
+namespace ports
+{
+
+template <class Signature>
+class Port;
+
+template <class Answer, class... Arguments>
+class Port<Answer(Arguments...)>
+{
+public:
+    void provide(std::function<Answer(Arguments...)> function) { function_ = std::move(function); }
+    explicit operator bool() const { return function_ != nullptr; }
+    Answer operator()(Arguments... arguments) const { return function_(arguments...); }
+
+private:
+    std::function<Answer(Arguments...)> function_;
+};
+
+/// Lets a person choose a patient: the number; nothing when none was chosen.
+inline Port<std::optional<qint64>()> eligePaciente;
+/// Asks for the name, or its beginning, of a patient to look for; empty when it was cancelled.
+inline Port<QString()> pideNombreDePaciente;
+/// Opens a patient's record in the window of the practice's choice.
+inline Port<void(qint64 paciente)> abreFicha;
+/// Books the next appointment of a patient; without one the patient is chosen in the dialogue.
+inline Port<void(std::optional<qint64> paciente)> otorgaTurno;
+/// Takes a patient's measures and stores them; true when they were.
+inline Port<bool(qint64 paciente)> tomarMedidas;
+/// Lets a person choose a diagnosis from the practice's classifier.
+inline Port<std::optional<Renglon>()> eligeDiagnostico;
+
+} // namespace ports
