@@ -1,13 +1,16 @@
 #include "clinical/register.h"
 
+#include "clinical/catalogues/eleccion.h"
 #include "clinical/catalogues/panCIE10.h"
 #include "clinical/catalogues/panDiagnosticos.h"
 #include "clinical/catalogues/panSintomas.h"
 #include "clinical/catalogues/panTratamientos.h"
 #include "clinical/history/panEditHC.h"
+#include "clinical/patients/eligePaciente.h"
 #include "clinical/patients/fichas.h"
 #include "clinical/patients/hc.h"
 #include "clinical/visits/panVisitas.h"
+#include "core/session/ports.h"
 #include "core/session/screens.h"
 
 using namespace Qt::StringLiterals;
@@ -37,6 +40,7 @@ void clinical::registerScreens()
     screens::addOperation("NuevaFicha", NuevaFicha);
     screens::addOperation("AbreFicha", AbreFicha);
     screens::addOperation("BorraFicha", BorraFicha);
-    screens::addQuery("EligePaciente", EligePaciente);
-    screens::addQuery("PideNombreDePaciente", PideNombreDePaciente);
+    ports::eligePaciente.provide(EligePaciente);
+    ports::pideNombreDePaciente.provide(PideNombreDePaciente);
+    ports::eligeDiagnostico.provide(catalogos::eligeDiagnostico);
 }

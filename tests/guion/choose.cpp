@@ -2,18 +2,19 @@
 
 #include "guion/gestures.h"
 #include "guion/windows.h"
+#include "platform/forms/dtpicker.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QComboBox>
-#include <QDateTimeEdit>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
+#include <QTimeEdit>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 #include <QtTest/qtestkeyboard.h>
@@ -208,7 +209,7 @@ void setDate(QWidget *control, QDate date)
     bringForward(control);
     if (auto *calendar = qobject_cast<QCalendarWidget *>(control)) {
         clickDay(calendar, date);
-    } else if (auto *field = qobject_cast<QDateTimeEdit *>(control)) {
+    } else if (auto *field = qobject_cast<forms::DTPicker *>(control)) {
         field->setFocus(Qt::MouseFocusReason);
         field->setDate(date);
     } else {
@@ -218,7 +219,7 @@ void setDate(QWidget *control, QDate date)
 
 void setTime(QWidget *control, QTime time)
 {
-    auto *field = qobject_cast<QDateTimeEdit *>(control);
+    auto *field = qobject_cast<QTimeEdit *>(control);
     if (!field || !time.isValid())
         throw Failure(QStringLiteral("%1 is no time control, or the time does not stand as 10:30")
                           .arg(control->objectName()));

@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDateTimeEdit>
 #include <QKeySequence>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -17,6 +16,7 @@
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QTextEdit>
+#include <QTimeEdit>
 #include <QtTest/qtestkeyboard.h>
 #include <QtTest/qtestmouse.h>
 #include <QtTest/qtestspontaneevent.h>
@@ -112,7 +112,7 @@ void click(QWidget *widget, Click kind)
         widget->setFocus(Qt::MouseFocusReason);
     if (auto *view = qobject_cast<QAbstractItemView *>(widget))
         clickAt(view->viewport(), rowPlace(view), kind);
-    else if (qobject_cast<QDateTimeEdit *>(widget)) // its text covers its middle
+    else if (qobject_cast<QTimeEdit *>(widget)) // its text covers its middle
         clickAt(typingPart(widget), naturalPlace(typingPart(widget)), kind);
     else
         clickAt(widget, naturalPlace(widget), kind);
@@ -155,13 +155,13 @@ void typeInto(QWidget *widget, const QString &text)
 
 void replaceText(QWidget *control, const QString &text)
 {
-    if (auto *date = qobject_cast<QDateTimeEdit *>(control)) {
+    if (auto *date = qobject_cast<QTimeEdit *>(control)) {
         // Its parts are typed one by one and correct each other on the way; the whole is what is meant.
-        const QDateTime moment = QDateTime::fromString(text, date->displayFormat());
+        const QTime moment = QTime::fromString(text, date->displayFormat());
         if (!moment.isValid())
             throw Failure(QStringLiteral("%1 takes no such text").arg(control->objectName()));
         focus(control);
-        date->setDateTime(moment);
+        date->setTime(moment);
         return;
     }
     QWidget *field = typingPart(control);

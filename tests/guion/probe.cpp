@@ -3,6 +3,7 @@
 #include "guion/compare.h"
 #include "guion/windows.h"
 #include "platform/forms/colour.h"
+#include "platform/forms/dtpicker.h"
 #include "platform/forms/tag.h"
 #include "platform/forms/twips.h"
 
@@ -11,7 +12,6 @@
 #include <QAction>
 #include <QCalendarWidget>
 #include <QComboBox>
-#include <QDateTimeEdit>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -25,6 +25,7 @@
 #include <QTabWidget>
 #include <QTableView>
 #include <QTextEdit>
+#include <QTimeEdit>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 
@@ -135,10 +136,10 @@ std::optional<QString> value(const QObject &object, const Arguments &)
         return scriptForm(action->isChecked());
     if (const auto *calendar = as<QCalendarWidget>(object))
         return calendar->selectedDate().toString(Qt::ISODate);
-    if (const auto *date = as<QDateTimeEdit>(object)) {
-        const bool showsDay = date->displayedSections() & QDateTimeEdit::DaySection;
-        return showsDay ? date->date().toString(Qt::ISODate) : date->time().toString(u"HH:mm:ss");
-    }
+    if (const auto *date = as<forms::DTPicker>(object))
+        return date->readable() ? scriptForm(date->fieldValue()) : date->text();
+    if (const auto *time = as<QTimeEdit>(object))
+        return time->time().toString(u"HH:mm:ss");
     if (const auto *number = as<QSpinBox>(object))
         return QString::number(number->value());
     if (const auto *bar = as<QProgressBar>(object))

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "clinical/catalogues/catalogo.h"
+#include "core/records/catalogo.h"
 
 /// A catalogue whose rows have a classification, by which the list can be narrowed. The classifications are a
 /// table of their own that grows from the filter's text.
-class CatalogoClasificado : public Catalogo
+class CatalogoClasificado : public records::Catalogo
 {
     Q_OBJECT
 protected:

@@ -11,11 +11,13 @@
 
 using namespace Qt::StringLiterals;
 
+using catalogos::Renglon;
+
 namespace
 {
 
 /// The name that the window answered with the key of the list's row. Without a name there is no entry.
-Renglon renglonDe(const Catalogo &catalogo)
+Renglon renglonDe(const records::Catalogo &catalogo)
 {
     const std::vector<Renglon> elegidos = catalogo.elegidos();
     if (catalogo.tag().isEmpty() || elegidos.empty())

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "clinical/catalogues/catalogo.h"
+#include "core/records/catalogo.h"
 
 /// "Pantalla de Síntomas": the symptoms that the visits take their names from; several can be chosen at once.
-class panSintomas : public Catalogo
+class panSintomas : public records::Catalogo
 {
     Q_OBJECT
 public:

@@ -52,9 +52,6 @@ panEditHC::panEditHC() : Form(u"panEditHC"_s)
         Combo1.addItem(QString::number(puntos));
     Combo2.addItems(QFontDatabase::families());
     Command9.setEnabled(false); // until the history can be told as text
-    for (CommandButton *boton :
-         {&Command1, &Command2, &Command3, &Command4, &Command5, &Command6, &Command7, &Command8, &Command9})
-        boton->setAutoDefault(false);
 
     setContents(this, Column{
                           Row{Command3, Command1, Command2, Stretch(), Command9},

@@ -89,8 +89,6 @@ void PanelDePruebas::mostrar(dao::Recordset &registro, const QStringList &column
 hc::hc() : Form(u"hc"_s)
 {
     setWindowTitle(u"Gestión Alergias"_s);
-    Data1.setDatabase(&MODULE11::BaseDatos);
-    Command3.setAutoDefault(false);
     setContents(this, Column{
                           Expanding(Tabs(SSTab1, {{u"&Antecedentes"_s, armarAntecedentes()},
                                                   {u"A&mbiente"_s, armarAmbiente()},

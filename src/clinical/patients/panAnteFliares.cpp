@@ -12,7 +12,6 @@ panAnteFliares::panAnteFliares() : Form(u"panAnteFliares"_s)
     setWindowTitle(u"Seleccione el antecedente familiar"_s);
     Label1.setWordWrap(true);
     Command1.setDefault(true);
-    Command3.setAutoDefault(false);
     setContents(this, Column{Label1, Expanding(List1), Row{Command3, Stretch(), Command1, Command2}});
     resize(440, 380);
     connect(&Command1, &QPushButton::clicked, this, &panAnteFliares::command1Click);

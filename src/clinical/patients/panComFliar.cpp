@@ -35,8 +35,6 @@ panComFliar::panComFliar() : Form(u"panComFliar"_s)
     Command7.setToolTip(u"Agrega una patologia familiar a la lista"_s);
     Command8.setToolTip(u"Borra la patologia seleccionada"_s);
     Command1.setDefault(true);
-    Command7.setAutoDefault(false);
-    Command8.setAutoDefault(false);
 
     const auto progenitor = [this](const QString &titulo, const QString &nombre, Progenitor quien) {
         return Group(titulo, Fields{{nombre, Text1(quien)},

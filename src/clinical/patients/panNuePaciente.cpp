@@ -4,7 +4,9 @@
 #include "core/session/session.h"
 #include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
+#include "platform/forms/boxes.h"
 #include "platform/forms/layout.h"
+#include "platform/forms/wrong.h"
 #include "platform/printing/printer.h"
 #include "platform/settings/settings.h"
 
@@ -31,8 +33,6 @@ panNuePaciente::panNuePaciente() : Form(u"panNuePaciente"_s)
         Text1.add(campo, largos[campo]);
     Combo4.addItems(situaciones);
     Command1.setDefault(true);
-    for (CommandButton *boton : {&Command4, &Command5})
-        boton->setAutoDefault(false);
 
     setContents(this, Column{
                           Group(u"Paciente"_s, Row{Fields{{u"&Nº Historia Clínica :"_s, Text1(cNumero)},

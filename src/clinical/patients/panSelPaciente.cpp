@@ -1,10 +1,11 @@
 #include "clinical/patients/panSelPaciente.h"
 
-#include "clinical/patients/fichas.h"
+#include "clinical/patients/buscaPaciente.h"
 #include "core/security/permisos.h"
+#include "core/services/paciente.h"
 #include "core/services/services.h"
 #include "core/session/session.h"
-#include "platform/basic/errors.h"
+#include "platform/dao/sqltext.h"
 #include "platform/forms/boxes.h"
 #include "platform/forms/layout.h"
 #include "platform/settings/settings.h"
@@ -34,6 +35,11 @@ constexpr Dato datos[] = {
     {"E-mail :", "email"},
 };
 
+QString nombreComo(const QString &texto, dao::Match lugar)
+{
+    return u"[Apellido y Nombres] LIKE "_s + dao::quoted(dao::typedPattern(texto, lugar));
+}
+
 } // namespace
 
 panSelPaciente::panSelPaciente() : Form(u"panSelPaciente"_s)
@@ -47,11 +53,9 @@ panSelPaciente::panSelPaciente() : Form(u"panSelPaciente"_s)
     SSTab1.tabBar()->setExpanding(true);
     SSTab1.setFixedHeight(SSTab1.tabBar()->sizeHint().height() + 2);
     Command2.setDefault(true);
-    Command1.setAutoDefault(false);
     Text2.setPlaceholderText(u"Apellido y nombres"_s);
     Text1.setPlaceholderText(u"Nº Historia Clínica"_s);
 
-    Data1.setDatabase(&MODULE11::BaseDatos);
     DBGrid1.setSource(Data1, {{u"Nº H.C."_s, u"Numero"_s, {}, 90},
                               {u"Apellido y Nombres"_s, u"Apellido y Nombres"_s, {}, 330},
                               {u"F. Nacimiento"_s, u"Fecha de Nacimiento"_s, u"dd/mm/yyyy"_s, 110},
@@ -82,16 +86,9 @@ panSelPaciente::panSelPaciente() : Form(u"panSelPaciente"_s)
         SSTab1.setCurrentIndex(ficha);
         irALetra();
     });
-    connect(&Text1, &QLineEdit::textChanged, this, [this](const QString &texto) {
-        if (!texto.isEmpty())
-            buscar(u"Numero = "_s + texto);
-    });
-    connect(&Text2, &QLineEdit::textChanged, this, [this](const QString &texto) {
-        if (!texto.isEmpty())
-            buscar(u"[Apellido y Nombres] LIKE '*%1*'"_s.arg(texto));
-    });
-    connect(&Data1, &Data::reposition, this,
-            [this] { numero_ = Data1.hasRow() ? Data1.recordset()[u"Numero"].text() : QString(); });
+    connect(&Text1, &QLineEdit::textChanged, this, &panSelPaciente::buscarNumero);
+    connect(&Text2, &QLineEdit::textChanged, this, &panSelPaciente::buscarNombre);
+    connect(&Data1, &Data::reposition, this, &panSelPaciente::mostrarElegido);
     connect(&DBGrid1, &DBGrid::accepted, this, &panSelPaciente::command2Click);
     connect(&Command1, &QPushButton::clicked, this, &panSelPaciente::command1Click);
     connect(&Command2, &QPushButton::clicked, this, &panSelPaciente::command2Click);
@@ -129,7 +126,7 @@ void panSelPaciente::armarLista()
     letraDeLaLista_ = SSTab1.tabText(SSTab1.currentIndex());
     const QString porLetra = letraDeLaLista_ == todas
                                  ? QString()
-                                 : u" AND left([apellido y nombres],1) = '%1'"_s.arg(letraDeLaLista_);
+                                 : u" AND left([apellido y nombres],1) = "_s + dao::quoted(letraDeLaLista_);
     Data1.setRecordSource(u"Select * from pacientes where ( idProfesional = 0 OR "_s + filtro_ + u") AND "_s +
                           bajas + porLetra + u" order by [apellido y nombres]"_s);
     Data1.refresh();
@@ -143,18 +140,52 @@ void panSelPaciente::irALetra()
     const QString letra = SSTab1.tabText(SSTab1.currentIndex());
     if (letraDeLaLista_ != todas && letraDeLaLista_ != letra)
         armarLista();
-    buscar(u"[apellido y nombres] LIKE '%1*'"_s.arg(letra.toUpper()));
+    if (letra != todas && Data1.hasRecordset())
+        Data1.find(nombreComo(letra, dao::Match::Beginning));
 }
 
-void panSelPaciente::buscar(const QString &criterio)
+/// While nobody is found nobody is chosen: the patient met before must not be taken for the one looked for.
+void panSelPaciente::buscar(SearchBox &casilla, const QString &criterio)
 {
-    basic::ignoringErrors(
-        [&] { Data1.change([&](dao::Recordset &pacientes) { pacientes.findFirst(criterio); }); });
+    casilla.setFound(!criterio.isEmpty() && Data1.find(criterio));
+    if (!casilla.found())
+        Data1.chooseNone();
+}
+
+void panSelPaciente::buscarNumero(const QString &texto)
+{
+    if (texto.isEmpty())
+        return;
+    const auto numero = services::numeroDePaciente(texto);
+    buscar(Text1, numero ? u"Numero = "_s + QString::number(*numero) : QString());
+}
+
+void panSelPaciente::buscarNombre(const QString &texto)
+{
+    if (!texto.isEmpty())
+        buscar(Text2, nombreComo(texto, dao::Match::Anywhere));
+}
+
+/// A row gone to is a choice, whatever was typed before.
+void panSelPaciente::mostrarElegido()
+{
+    const bool hay = Data1.hasRow();
+    numero_ = hay ? Data1.recordset()[u"Numero"].text() : QString();
+    Command2.setEnabled(hay);
+    if (!hay)
+        return;
+    Text1.setFound(true);
+    Text2.setFound(true);
 }
 
 void panSelPaciente::command1Click()
 {
-    Data1.change([](dao::Recordset &pacientes) { BuscaEnPacientes(pacientes); });
+    bool hallado = true;
+    Data1.change([&](dao::Recordset &pacientes) { hallado = BuscaEnPacientes(pacientes); });
+    if (hallado)
+        return;
+    Data1.chooseNone();
+    MODULE11::Aviso(u"Sin coincidencias"_s);
 }
 
 void panSelPaciente::command2Click()

@@ -22,15 +22,18 @@ protected:
 private:
     void armarLista();
     void irALetra();
-    void buscar(const QString &criterio);
+    void buscar(forms::SearchBox &casilla, const QString &criterio);
+    void buscarNumero(const QString &texto);
+    void buscarNombre(const QString &texto);
+    void mostrarElegido();
     void command1Click();
     void command2Click();
 
     forms::SSTab SSTab1{QStringLiteral("SSTab1")};
     forms::Data Data1{QStringLiteral("Data1")};
     forms::DBGrid DBGrid1{QStringLiteral("DBGrid1")};
-    forms::TextBox Text1{QStringLiteral("Text1"), 9};
-    forms::TextBox Text2{QStringLiteral("Text2"), 100};
+    forms::SearchBox Text1{QStringLiteral("Text1"), 9};
+    forms::SearchBox Text2{QStringLiteral("Text2"), 100};
     forms::CheckBox checkBajas{QStringLiteral("checkBajas"),
                                QStringLiteral("&Ocultar pacientes con fecha de baja")};
     forms::Label Label5{QStringLiteral("Label5"), QStringLiteral("Cant. Pacientes :")};

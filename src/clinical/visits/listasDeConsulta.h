@@ -22,8 +22,8 @@ public:
     void setEnabled(bool enabled);
 
     void vaciar();
-    void agregarRenglon(consultas::Grupo grupo, const Renglon &renglon);
-    std::vector<Renglon> renglones(consultas::Grupo grupo) const;
+    void agregarRenglon(consultas::Grupo grupo, const consultas::Renglon &renglon);
+    std::vector<consultas::Renglon> renglones(consultas::Grupo grupo) const;
 
     /// Adds to the list with this index from its catalogue, as its command does; another index is refused
     /// with a message.
@@ -37,7 +37,7 @@ signals:
     void quitado(int grupo, const QString &nombre);
 
 private:
-    std::vector<Renglon> elegidos(consultas::Grupo grupo) const;
+    std::vector<consultas::Renglon> elegidos(consultas::Grupo grupo) const;
     void quitar(consultas::Grupo grupo);
     bool eventFilter(QObject *receptor, QEvent *evento) override;
 

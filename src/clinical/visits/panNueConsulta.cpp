@@ -1,5 +1,6 @@
 #include "clinical/visits/panNueConsulta.h"
 
+#include "core/services/paciente.h"
 #include "core/services/profesional.h"
 #include "core/services/services.h"
 #include "core/session/session.h"
@@ -8,6 +9,7 @@
 #include "platform/basic/runtime.h"
 #include "platform/forms/boxes.h"
 #include "platform/forms/colour.h"
+#include "platform/forms/wrong.h"
 
 #include <QApplication>
 #include <QKeyEvent>

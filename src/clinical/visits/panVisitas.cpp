@@ -61,8 +61,6 @@ void abrirConPermiso(const QString &clave, screens::Window ventana, const QStrin
 panVisitas::panVisitas() : Form(u"panVisitas"_s)
 {
     setWindowTitle(u"Pantalla de Visitas y Examenes clínicos"_s);
-    for (Data *datos : {&Data1, &Data2, &Data3})
-        datos->setDatabase(&MODULE11::BaseDatos);
     DBGrid1.setSource(Data2, {{u"Fecha"_s, u"Fecha"_s, u"dd/mm/yyyy"_s, 84},
                               {u"Hora"_s, u"Hora"_s, u"HH:MM"_s, 50},
                               {u"Motivo"_s, u"Motivo"_s, {}, 110},
@@ -360,7 +358,8 @@ void panVisitas::irA(qint64 idConsulta)
 
 void panVisitas::quitar()
 {
-    if (!MODULE11::VerificaNivel(u"BorrarConsultas"_s) || !MODULE11::PreguntaSiBorra(u"Borra esta consulta"_s))
+    if (!MODULE11::VerificaNivel(u"BorrarConsultas"_s) ||
+        !MODULE11::PreguntaSiBorra(u"Borra esta consulta"_s))
         return;
     Data2.updateControls(); // what was typed goes with the row
     dao::Recordset &consulta = Data2.recordset();

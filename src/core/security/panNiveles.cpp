@@ -1,10 +1,8 @@
 #include "core/security/panNiveles.h"
 
-#include "core/services/services.h"
 #include "core/session/session.h"
 #include "platform/basic/runtime.h"
 #include "platform/forms/boxes.h"
-#include "platform/forms/layout.h"
 
 using namespace Qt::StringLiterals;
 using namespace forms;
@@ -70,12 +68,11 @@ constexpr Derecho derechos[] = {
 
 } // namespace
 
-panNiveles::panNiveles() : Form(u"panNiveles"_s)
+panNiveles::panNiveles()
+    : Tabla(u"panNiveles"_s, u"Administración de Niveles de Acceso"_s,
+            {{u"Nivel"_s, u"Nivel"_s, {}, 80}, {u"Descripción"_s, u"Descripcion"_s, {}, 300}})
 {
-    setWindowTitle(u"Administración de Niveles de Acceso"_s);
-    Data1.setDatabase(&MODULE11::BaseDatos);
-    DBGrid1.setSource(Data1,
-                      {{u"Nivel"_s, u"Nivel"_s, {}, 80}, {u"Descripción"_s, u"Descripcion"_s, {}, 300}});
+    setSource(u"Select * from Niveles order by Nivel"_s);
     Data1.bind(Text1, u"Descripcion"_s);
     agregarDerechos();
     setContents(this, Column{
@@ -85,13 +82,12 @@ panNiveles::panNiveles() : Form(u"panNiveles"_s)
                                         {u"E&studios y laboratorio"_s, casillas(Estudios)},
                                         {u"&Administración"_s, casillas(Administracion)},
                                         {u"&Usuarios y sistema"_s, casillas(Sistema)}}),
-                          Row{Command1, Command2, Stretch(), Command3},
+                          Row{command(u"Command1"_s, u"&Nuevo"_s, u"nuevo"_s, [this] { agregar(); }),
+                              deletes(u"Command2"_s, u"&Eliminar"_s,
+                                      {.question = u"Está seguro de eliminar este nivel de acceso"_s}),
+                              Stretch(), closes(u"Command3"_s, u"&Cerrar"_s)},
                       });
     resize(900, 580);
-    connect(&Data1, &Data::reposition, this, &panNiveles::mostrarFila);
-    connect(&Command1, &QPushButton::clicked, this, &panNiveles::command1Click);
-    connect(&Command2, &QPushButton::clicked, this, &panNiveles::command2Click);
-    connect(&Command3, &QPushButton::clicked, this, &panNiveles::unload);
 }
 
 /// A right that is changed holds at once, in the sessions that are open too.
@@ -117,57 +113,37 @@ Item panNiveles::casillas(int ficha)
     return Column{Grid(columnas, std::move(items)), Stretch()};
 }
 
-void panNiveles::load()
-{
-    Data1.setRecordSource(u"Select * from Niveles order by Nivel"_s);
-    Data1.refresh();
-}
-
-bool panNiveles::queryUnload()
-{
-    Data1.updateRecord();
-    return true;
-}
-
-void panNiveles::mostrarFila()
+void panNiveles::rowShown()
 {
     const bool hay = Data1.hasRow();
     const bool supervisor = hay && Data1.recordset()[u"Nivel"].integer() == nivelSupervisor;
     for (auto &[indice, casilla] : Check1)
         casilla->setEnabled(hay && !supervisor);
     Text1.setEnabled(hay);
-    Command2.setEnabled(hay);
 }
 
-void panNiveles::command1Click()
+void panNiveles::agregar()
 {
-    Data1.change([](dao::Recordset &niveles) {
-        qint64 numero = 1;
-        if (niveles.rowCount() > 0) {
-            niveles.moveLast();
-            numero = niveles[u"Nivel"].integer() + 1;
-        }
-        niveles.addNew();
-        niveles[u"Nivel"] = numero;
-        niveles[u"Descripcion"] = u"Nivel "_s + basic::format(numero, u"###0");
-        niveles.update();
-        niveles.setBookmark(niveles.lastModified());
+    dao::Recordset niveles = MODULE11::BaseDatos.openRecordset(Data1.recordSource());
+    qint64 numero = 1;
+    if (!niveles.eof()) {
+        niveles.moveLast();
+        numero = niveles[u"Nivel"].integer() + 1;
+    }
+    addRow([numero](dao::Recordset &nuevo) {
+        nuevo[u"Nivel"] = numero;
+        nuevo[u"Descripcion"] = u"Nivel "_s + basic::format(numero, u"###0");
     });
 }
 
-void panNiveles::command2Click()
+bool panNiveles::mayDelete()
 {
     Data1.updateRecord();
-    if (Data1.recordset()[u"Descripcion"].text() == u"Supervisor") {
-        msgBox(u"No se puede borrar el nivel 'SUPERVISOR', debe estar presente en el sistema."_s,
-               Icon::Critical, u"Acceso denegado"_s);
-        return;
-    }
-    if (!MODULE11::PreguntaSiBorra(u"Está seguro de eliminar este nivel de acceso"_s))
-        return;
-    Data1.updateControls(); // what was typed goes with the row
-    Data1.recordset().deleteRow();
-    Data1.refresh();
+    if (Data1.recordset()[u"Descripcion"].text() != u"Supervisor")
+        return true;
+    msgBox(u"No se puede borrar el nivel 'SUPERVISOR', debe estar presente en el sistema."_s, Icon::Critical,
+           u"Acceso denegado"_s);
+    return false;
 }
 
 #include "moc_panNiveles.cpp"

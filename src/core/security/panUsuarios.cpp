@@ -21,8 +21,6 @@ constexpr int paginaEventos = 1;
 panUsuarios::panUsuarios() : Form(u"panUsuarios"_s)
 {
     setWindowTitle(u"Usuarios del sistema"_s);
-    for (Data *datos : {&Data1, &Data2})
-        datos->setDatabase(&MODULE11::BaseDatos);
     DBGrid1.setSource(Data1, {{u"Nombre"_s, u"Nombre"_s, {}, 240},
                               {u"Clave"_s, u"Clave"_s, {}, 180},
                               {u"Nivel"_s, u"Nivel"_s, {}, 80},
@@ -139,8 +137,8 @@ void panUsuarios::mostrarEventos(const QString &condicion)
         return;
     const QString nombre = Data1.hasRow() ? Data1.recordset()[u"Nombre"].text() : QString();
     Label1.setCaption(u"Eventos de "_s + nombre + u" :"_s);
-    Data2.setRecordSource(
-        u"Select * from eventos where usuario = "_s + dao::quoted(nombre) + condicion + u" order by fecha, hora"_s);
+    Data2.setRecordSource(u"Select * from eventos where usuario = "_s + dao::quoted(nombre) + condicion +
+                          u" order by fecha, hora"_s);
     Data2.refresh();
 }
 

@@ -44,7 +44,6 @@ panListados::panListados(const QString &sql, const QString &titulo) : Form(u"pan
     setWindowTitle(titulo);
     setTag(titulo);
     forms::setTag(&Data1, titulo);
-    Data1.setDatabase(&MODULE11::BaseDatos);
     Data1.setRecordSource(sql);
     Data1.refresh();
     std::vector<GridColumn> columnas;
@@ -55,7 +54,6 @@ panListados::panListados(const QString &sql, const QString &titulo) : Form(u"pan
     DBGrid1.setSource(Data1, columnas);
     for (const Formula &formula : formulas)
         Combo1.addItem(QString::fromUtf8(formula.nombre));
-    Command1.setAutoDefault(false);
     setContents(this, Column{
                           Expanding(DBGrid1),
                           Row{Fields{{u"&Fórmula :"_s, Combo1}}, Fields{{u"C&olumna :"_s, Combo2}}, Command1,

@@ -30,6 +30,8 @@ inline constexpr std::string_view windows[] = {
     "panCIE10",
     "panControlSano",
     "panCrecimiento",
+    "panCurvasOMS",
+    "panDiagnosticos",
     "panDiario",
     "panEditHC",
     "panEditorMMedia",
@@ -52,6 +54,7 @@ inline constexpr std::string_view windows[] = {
     "panImportAfiliados",
     "panInformes",
     "panInfTurnos",
+    "panMuesCurvas",
     "panMadNeurol",
     "panNiveles",
     "panObras",
@@ -90,11 +93,7 @@ inline constexpr std::string_view windows[] = {
 
 /// Commands that are no window of their own.
 inline constexpr std::string_view operations[] = {
-    "AbreFicha",
-    "AbrePerinatal",
-    "BorraFicha",
-    "NuevaFicha",
-    "TablaDiagnosticos",
+    "AbreFicha", "AbrePerinatal", "BorraFicha", "NuevaFicha", "TablaDiagnosticos",
 };
 
 template <class Table>

@@ -1,6 +1,7 @@
 #include "core/session/session.h"
 
 #include "platform/basic/errors.h"
+#include "platform/forms/data.h"
 
 #include <QCoreApplication>
 
@@ -37,6 +38,7 @@ QString TablaRecetario;
 
 void valoresIniciales()
 {
+    forms::Data::setDefaultDatabase(&BaseDatos);
     DrActual = u"Dr <Su Nombre>"_s;
     MatriculaDr = u"<xxxxxxx>"_s;
     EspecialidadDr = u"Espec. <No Registra>"_s;

@@ -14,7 +14,6 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QKeyEvent>
-#include <QMdiArea>
 
 using namespace Qt::StringLiterals;
 
@@ -190,10 +189,10 @@ void choose(const Entry &entry)
         exitDialogue();
         break;
     case Kind::Cascade:
-        forms::childArea()->cascadeSubWindows();
+        forms::cascade();
         break;
     case Kind::Tile:
-        forms::childArea()->tileSubWindows();
+        forms::tile();
         break;
     case Kind::HelpKey:
         sendKey(Qt::Key_F1);

@@ -1,8 +1,8 @@
 #include "core/windows/panSelProf.h"
 
 #include "core/session/session.h"
-#include "platform/dao/error.h"
 #include "platform/basic/errors.h"
+#include "platform/dao/error.h"
 #include "platform/forms/layout.h"
 
 using namespace Qt::StringLiterals;
@@ -19,7 +19,6 @@ panSelProf::panSelProf() : Form(u"panSelProf"_s)
                           Row{Stretch(), Command1, Command2},
                       });
     resize(560, 380);
-    Data1.setDatabase(&MODULE11::BaseDatos);
     DBGrid1.setSource(Data1,
                       {{u"Nombre"_s, u"Nombre"_s, {}, 280}, {u"Especialidad"_s, u"Especialidad"_s, {}, 200}});
     connect(&DBGrid1, &DBGrid::accepted, &Command1, &QPushButton::click);

@@ -19,7 +19,6 @@ panMedidas::panMedidas() : Form(u"panMedidas"_s)
     };
     for (const Medida &medida : medidas_) {
         Text1.add(medida.indice, 12);
-        medida.unidad->setAutoDefault(false);
         medida.unidad->setFixedWidth(56);
         medida.unidad->setToolTip(u"Cambiar la unidad"_s);
         mostrarUnidad(medida, u"1"_s);

@@ -49,8 +49,6 @@ panCurvasOMS::panCurvasOMS() : Form(u"panCurvasOMS"_s), Image1(u"Image1"_s, char
     Combo1.setCurrentIndex(-1);
     Combo1.setMaxVisibleItems(30);
     marcadores_.resize(toPixels(charts::whoPictureBox.size()).toSize());
-    for (CommandButton *boton : {&Command1, &Command2})
-        boton->setAutoDefault(false);
     setContents(this, Column{
                           Row{Fields{{Label1, Combo1}}, Check1, Stretch(), Command2, Command1},
                           lblPaciente,

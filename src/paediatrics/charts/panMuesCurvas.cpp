@@ -19,7 +19,7 @@ namespace
 /// for both.
 struct Curva {
     const char *opcion;
-    screens::Window varonesHasta6, *mujeresHasta6, *varones, *mujeres;
+    screens::Window varonesHasta6, mujeresHasta6, varones, mujeres;
 };
 constexpr Curva curvas[] = {
     {"&Peso", "panPerPesoninos6", "panPerPesoNenas6", "panPercenPeso", "panPerPesoNenas"},
@@ -72,8 +72,7 @@ panMuesCurvas::panMuesCurvas() : Form(u"panMuesCurvas"_s)
     connect(&Check1, &QCheckBox::toggled, this, &panMuesCurvas::check1Click);
     connect(&Command1, &QPushButton::clicked, this, &panMuesCurvas::unload);
     connect(&Command2, &QPushButton::clicked, this, &panMuesCurvas::command2Click);
-    connect(&Command4, &QPushButton::clicked, this,
-            [this] { screens::showModal("panCurvasOMS", sujeto()); });
+    connect(&Command4, &QPushButton::clicked, this, [this] { screens::showModal("panCurvasOMS", sujeto()); });
 }
 
 void panMuesCurvas::activate()

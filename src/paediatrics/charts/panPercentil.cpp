@@ -44,8 +44,6 @@ panPercentil::panPercentil(const charts::ClassicalChart &chart)
     : Form(chart.form.toString()), chart_(chart), Picture1(u"Picture1"_s, chart.pictureBox.size())
 {
     setWindowTitle(chart.captionOfPatient.toString());
-    Command1.setAutoDefault(false);
-    Command2.setAutoDefault(false);
     setContents(this, Column{Picture1, Row{Stretch(), Command1, Command2}});
     connect(&Command1, &QPushButton::clicked, this, &panPercentil::command1Click);
     connect(&Command2, &QPushButton::clicked, this, &panPercentil::unload);

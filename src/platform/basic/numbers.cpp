@@ -110,12 +110,12 @@ QString str(double number)
 
 qint64 intPart(double number)
 {
-    return static_cast<qint64>(std::floor(number));
+    return nearestWhole(std::floor(number));
 }
 
 qint64 fixPart(double number)
 {
-    return static_cast<qint64>(std::trunc(number));
+    return nearestWhole(std::trunc(number));
 }
 
 QString sqlNumber(double number)

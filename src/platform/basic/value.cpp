@@ -28,9 +28,24 @@ Date::Date(QDate date, QTime time)
 {
 }
 
+qint64 nearestWhole(double number)
+{
+    constexpr double beyond = 9223372036854775808.0; // 2^63
+    if (std::isnan(number))
+        return 0;
+    const double rounded = std::nearbyint(number);
+    if (rounded >= beyond)
+        return std::numeric_limits<qint64>::max();
+    return rounded < -beyond ? std::numeric_limits<qint64>::min() : static_cast<qint64>(rounded);
+}
+
 Date Date::fromSerial(double serial)
 {
+    // The calendar of the practice: years 100 to 9999. What lies beyond stands at its edge.
+    constexpr double firstDay = -657434;
+    constexpr double lastDay = 2958465;
     Date date;
+    serial = std::isnan(serial) ? 0 : std::clamp(serial, firstDay, lastDay);
     double days = std::floor(serial);
     auto seconds = static_cast<int>(std::lround((serial - days) * secondsPerDay));
     if (seconds == secondsPerDay) {
@@ -66,7 +81,7 @@ Currency Currency::fromUnits(qint64 tenThousandths)
 
 Currency Currency::fromDouble(double amount)
 {
-    return fromUnits(static_cast<qint64>(std::nearbyint(amount * 10000.0)));
+    return fromUnits(nearestWhole(amount * 10000.0));
 }
 
 bool Value::isBlank() const
@@ -123,7 +138,7 @@ qint64 Value::integer() const
 {
     if (const auto *n = as<qint64>())
         return *n;
-    return static_cast<qint64>(std::nearbyint(number()));
+    return nearestWhole(number());
 }
 
 bool Value::truth() const

@@ -59,6 +59,9 @@ struct Null {
     bool operator==(const Null &) const = default;
 };
 
+/// The nearest whole number; the largest there is for what lies beyond it, 0 for what is no number.
+qint64 nearestWhole(double number);
+
 /// One value of a field, a control or a setting. Empty (nothing assigned yet), Null (the database's
 /// "not known") and an empty text are three different values.
 class Value

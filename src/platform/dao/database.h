@@ -66,6 +66,27 @@ private:
     std::unique_ptr<DatabasePrivate> d_;
 };
 
+/// Several writes as one: they reach the disk together, at commit(). A write that fails inside is undone
+/// alone; what was written before it stays, also when the batch is left by an exception. Batches nest: the
+/// outermost one commits.
+class Batch
+{
+public:
+    /// One stroke for the rows of one thing recorded, or a commit every thousand rows for a long job, so that
+    /// other stations are let in.
+    enum Kind { Stroke, Long };
+    explicit Batch(Database &database, Kind kind = Stroke);
+    ~Batch();
+    Batch(const Batch &) = delete;
+    Batch &operator=(const Batch &) = delete;
+
+    void commit(); ///< throws Error
+
+private:
+    Database &database_;
+    bool open_ = true;
+};
+
 /// Copies a closed database into a new file without its free space, under the password of
 /// `destinationLocale` (";LANGID=...;pwd=...") when it names one, else the source's. Throws Error.
 void compactDatabase(const QString &source, const QString &destination, const QString &destinationLocale,

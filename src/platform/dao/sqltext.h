@@ -16,4 +16,9 @@ QString cdate(basic::Date day);
 /// The rows whose `column` lies between the two days, both included.
 QString period(const QString &column, basic::Date from, basic::Date to);
 
+enum class Match { Beginning, Anywhere };
+/// The pattern of LIKE for what a person typed to find something, by the rules of basic::containsTyped():
+/// accents and case do not count, and the signs of a pattern mean themselves.
+QString typedPattern(const QString &typed, Match where);
+
 } // namespace dao

@@ -94,8 +94,8 @@ bool Application::notify(QObject *receiver, QEvent *event)
 {
     try {
         return QApplication::notify(receiver, event);
-    } catch (const basic::Error &error) {
-        showUnhandled(error.description());
+    } catch (const std::exception &error) {
+        showUnhandled(error);
     }
     return true;
 }

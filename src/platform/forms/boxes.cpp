@@ -1,5 +1,8 @@
 #include "platform/forms/boxes.h"
 
+#include "platform/basic/errors.h"
+#include "platform/forms/controls.h"
+
 #include <QApplication>
 #include <QColorDialog>
 #include <QDialogButtonBox>
@@ -87,13 +90,13 @@ void msgBox(const QString &text, Icon icon, const QString &title)
     box.exec();
 }
 
-bool askBox(const QString &text, const QString &title, Icon icon)
+bool askBox(const QString &text, const QString &title, Answer fallback, Icon icon)
 {
     QMessageBox box(owner());
     dressMessage(box, text, icon, title);
     QPushButton *yes = box.addButton(QStringLiteral("&Sí"), QMessageBox::YesRole);
     QPushButton *no = box.addButton(QStringLiteral("&No"), QMessageBox::NoRole);
-    box.setDefaultButton(yes);
+    box.setDefaultButton(fallback == Answer::Yes ? yes : no);
     box.setEscapeButton(no);
     box.exec();
     return box.clickedButton() == yes;
@@ -124,7 +127,8 @@ std::optional<QString> inputBox(const QString &prompt, const QString &title, con
     auto *label = new QLabel(prompt);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
-    auto *field = new QLineEdit(initial);
+    auto *field = new TextBox(QStringLiteral("texto"));
+    field->setText(initial);
     field->setMinimumWidth(360);
     field->selectAll();
     auto *buttons = new QDialogButtonBox;
@@ -200,6 +204,14 @@ std::optional<Box> describeBox(const QWidget *window)
 void markAsBox(QWidget &dialogue, const QString &text)
 {
     dialogue.setProperty(boxTextProperty, text.isNull() ? QStringLiteral("") : text);
+}
+
+void showUnhandled(const std::exception &error)
+{
+    const auto *known = dynamic_cast<const basic::Error *>(&error);
+    showUnhandled(
+        known ? known->description()
+              : QStringLiteral("Error interno del programa: %1").arg(QString::fromUtf8(error.what())));
 }
 
 void showUnhandled(const QString &description)

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <exception>
 #include <optional>
 
 class QWidget;
@@ -15,9 +16,12 @@ namespace forms
 enum class Icon { None, Critical, Question, Exclamation, Information };
 
 void msgBox(const QString &text, Icon icon, const QString &title);
-bool askBox(const QString &text, const QString &title,
-            Icon icon = Icon::Question); ///< "Sí" and "No"; true on "Sí"
+/// What Enter answers: No where a Yes deletes or throws away.
+enum class Answer { Yes, No };
 
+/// "Sí" and "No"; true on "Sí".
+bool askBox(const QString &text, const QString &title, Answer fallback = Answer::Yes,
+            Icon icon = Icon::Question);
 /// "Sí", "No" and "Cancelar"; empty when cancelled.
 std::optional<bool> askOrCancelBox(const QString &text, const QString &title, Icon icon = Icon::Exclamation);
 /// A prompt for one text with "Aceptar" and "Cancelar"; empty when cancelled.
@@ -40,5 +44,6 @@ void markAsBox(QWidget &dialogue, const QString &text);
 
 /// The error that reached nobody: shown in a box, after which the program goes on.
 void showUnhandled(const QString &description);
+void showUnhandled(const std::exception &error);
 
 } // namespace forms

@@ -1,11 +1,19 @@
 #include "platform/forms/controls.h"
 
+#include "platform/basic/cleantext.h"
 #include "platform/basic/environment.h"
+#include "platform/forms/wrong.h"
 
+#include <QAction>
+#include <QApplication>
+#include <QCompleter>
 #include <QFile>
 #include <QIcon>
 #include <QKeyEvent>
+#include <QListView>
+#include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QStackedWidget>
 
 namespace forms
@@ -18,6 +26,23 @@ QLocale argentina()
 {
     return QLocale(QLocale::Spanish, QLocale::Argentina);
 }
+
+constexpr int longestText = 255; // of a column of text
+const QString noneFound = QStringLiteral("Sin coincidencias");
+
+/// The entries of a combo, whose letters are read as those of a list.
+class ChoiceView : public QListView
+{
+public:
+    void keyboardSearch(const QString &letter) override
+    {
+        if (const int row = typeAhead_.rowFor(letter, *model(), currentIndex().row()); row >= 0)
+            setCurrentIndex(model()->index(row, 0));
+    }
+
+private:
+    TypeAhead typeAhead_;
+};
 
 /// Members of a form are not their container's to delete.
 void releaseChildren(QWidget &container)
@@ -52,11 +77,28 @@ void Label::enterEvent(QEnterEvent *event)
     emit hovered();
 }
 
-TextBox::TextBox(const QString &name, int maxLength)
+TextBox::TextBox(const QString &name, int maxLength) : ownLength_(maxLength > 0)
 {
     setObjectName(name);
-    if (maxLength > 0)
-        setMaxLength(maxLength);
+    setMaxLength(maxLength > 0 ? maxLength : longestText);
+    connect(this, &QLineEdit::textEdited, this, [this](const QString &text) {
+        const QString clean = basic::cleanText(text);
+        if (clean == text)
+            return;
+        const int left = cursorPosition() - static_cast<int>(text.size() - clean.size());
+        setText(clean);
+        setCursorPosition(qMax(0, left));
+    });
+}
+
+void TextBox::setSecret()
+{
+    setEchoMode(QLineEdit::Password);
+    QAction *see = addAction(QIcon(QStringLiteral(":/icons/ver.svg")), TrailingPosition);
+    see->setCheckable(true);
+    see->setToolTip(QStringLiteral("Ver lo escrito"));
+    connect(see, &QAction::toggled, this,
+            [this](bool shown) { setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password); });
 }
 
 void TextBox::focusInEvent(QFocusEvent *event)
@@ -67,20 +109,68 @@ void TextBox::focusInEvent(QFocusEvent *event)
         selectAll();
 }
 
+SearchBox::SearchBox(const QString &name, int maxLength) : TextBox(name, maxLength)
+{
+    connect(this, &QLineEdit::textChanged, this, [this](const QString &text) {
+        if (text.isEmpty())
+            setFound(true);
+    });
+}
+
+void SearchBox::setFound(bool found)
+{
+    found_ = found;
+    QPalette colours;
+    if (!found)
+        colours.setColor(QPalette::Text, QColor(wrongInk));
+    setPalette(colours);
+    setToolTip(found ? QString() : noneFound);
+    update();
+}
+
+void SearchBox::paintEvent(QPaintEvent *event)
+{
+    TextBox::paintEvent(event);
+    if (found_)
+        return;
+    QPainter painter(this);
+    painter.setPen(QColor(wrongInk));
+    QFont small = font();
+    small.setItalic(true);
+    painter.setFont(small);
+    const QRect room = rect().adjusted(8, 0, -8, 0);
+    const int taken =
+        fontMetrics().horizontalAdvance(text()) + fontMetrics().horizontalAdvance(noneFound) + 16;
+    if (taken <= room.width())
+        painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter, noneFound);
+}
+
 MemoBox::MemoBox(const QString &name)
 {
     setObjectName(name);
     setTabChangesFocus(true);
 }
 
+void MemoBox::insertFromMimeData(const QMimeData *source)
+{
+    if (source->hasText())
+        insertPlainText(basic::cleanText(source->text()));
+}
+
 ComboBox::ComboBox(const QString &name, const QStringList &entries, bool editable)
 {
     setObjectName(name);
+    setPlaceholderText(QStringLiteral(" ")); // without one the toolkit chooses the first entry by itself
+    setView(new ChoiceView);
     addItems(entries);
     if (editable) {
         setEditable(true);
         setInsertPolicy(QComboBox::NoInsert);
-        setCompleter(nullptr); // what is typed is what is stored
+        lineEdit()->setMaxLength(longestText);
+        auto *completer = new QCompleter(model(), this); // it offers; what is typed is what is stored
+        completer->setCaseSensitivity(Qt::CaseInsensitive);
+        completer->setCompletionMode(QCompleter::PopupCompletion);
+        setCompleter(completer);
         setEditText({});
     }
     setSizeAdjustPolicy(QComboBox::AdjustToContents);
@@ -98,6 +188,15 @@ ListBox::ListBox(const QString &name)
 {
     setObjectName(name);
     setUniformItemSizes(true);
+}
+
+void ListBox::keyboardSearch(const QString &letter)
+{
+    const int row = typeAhead_.rowFor(letter, *model(), currentRow());
+    if (row < 0)
+        return;
+    const bool several = selectionMode() == ExtendedSelection || selectionMode() == MultiSelection;
+    setCurrentRow(row, several ? QItemSelectionModel::NoUpdate : QItemSelectionModel::ClearAndSelect);
 }
 
 QStringList ListBox::lines() const
@@ -140,27 +239,6 @@ void CommandButton::keyPressEvent(QKeyEvent *event)
         click();
     else
         QPushButton::keyPressEvent(event);
-}
-
-DTPicker::DTPicker(const QString &name) : QDateEdit(basic::today().date())
-{
-    setObjectName(name);
-    setLocale(argentina());
-    setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
-    setCalendarPopup(true);
-    calendarWidget()->setLocale(argentina());
-    calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
-
-basic::Date DTPicker::value() const
-{
-    return basic::Date(date());
-}
-
-void DTPicker::setValue(basic::Date value)
-{
-    setDate(value.date());
 }
 
 TimePicker::TimePicker(const QString &name) : QTimeEdit(QTime(0, 0))

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "platform/basic/value.h"
+#include "platform/forms/dtpicker.h"
 #include "platform/forms/tag.h"
+#include "platform/forms/typeahead.h"
 
 #include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -15,6 +16,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QTimeEdit>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -42,14 +44,38 @@ protected:
     void enterEvent(QEnterEvent *event) override;
 };
 
+/// A text field of one line. What does not fit its length is cut while it is typed or pasted, and characters
+/// that nobody sees do not enter.
 class TextBox : public QLineEdit
 {
     Q_OBJECT
 public:
     explicit TextBox(const QString &name, int maxLength = 0);
+    bool hasOwnLength() const { return ownLength_; } ///< a length was given, not left to the column
+    /// Hides what is typed behind dots, with a button to see it.
+    void setSecret();
 
 protected:
     void focusInEvent(QFocusEvent *event) override; // selects all when reached by keyboard
+
+private:
+    bool ownLength_;
+};
+
+/// A field where a person types to find a row. While nothing is found its text is red and it says so.
+class SearchBox : public TextBox
+{
+    Q_OBJECT
+public:
+    explicit SearchBox(const QString &name, int maxLength = 0);
+    void setFound(bool found);
+    bool found() const { return found_; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    bool found_ = true;
 };
 
 /// A text field of several lines, for memos.
@@ -58,8 +84,13 @@ class MemoBox : public QPlainTextEdit
     Q_OBJECT
 public:
     explicit MemoBox(const QString &name);
+
+protected:
+    void insertFromMimeData(const QMimeData *source) override;
 };
 
+/// Nothing is chosen until somebody chooses. Letters typed go to the first entry that begins so, whatever its
+/// accents; in an editable one they are completed.
 class ComboBox : public QComboBox
 {
     Q_OBJECT
@@ -78,6 +109,13 @@ public:
     explicit ListBox(const QString &name);
     void addLine(const QString &text) { addItem(text); }
     QStringList lines() const;
+
+    /// Goes to the first line from the current one on that begins with what is typed, whatever its accents.
+    /// Where several lines can be chosen, what is chosen stays so.
+    void keyboardSearch(const QString &letter) override;
+
+private:
+    TypeAhead typeAhead_;
 };
 
 class CheckBox : public QCheckBox
@@ -104,16 +142,6 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override; // Enter presses the focused button
-};
-
-/// A date field "dd/mm/yyyy" with a drop-down calendar; starts at today.
-class DTPicker : public QDateEdit
-{
-    Q_OBJECT
-public:
-    explicit DTPicker(const QString &name);
-    basic::Date value() const;
-    void setValue(basic::Date date);
 };
 
 /// A time field "hh:mm"; starts at midnight.

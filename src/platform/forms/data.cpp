@@ -38,53 +38,74 @@ basic::Value typedValue(const QString &text, FieldType type)
     return text;
 }
 
+/// How a kind of control shows a value, gives the one it shows, and tells of a change.
+template <class Control>
+struct Access;
+
+template <>
+struct Access<DTPicker> {
+    static void show(DTPicker &c, const basic::Value &v) { c.setFieldValue(v); }
+    static basic::Value shown(const DTPicker &c, FieldType) { return c.fieldValue(); }
+    static constexpr auto changed = &QLineEdit::textChanged;
+};
+template <>
+struct Access<QLineEdit> {
+    static void show(QLineEdit &c, const basic::Value &v) { c.setText(v.text()); }
+    static basic::Value shown(const QLineEdit &c, FieldType type) { return typedValue(c.text(), type); }
+    static constexpr auto changed = &QLineEdit::textChanged;
+};
+template <>
+struct Access<QPlainTextEdit> {
+    static void show(QPlainTextEdit &c, const basic::Value &v) { c.setPlainText(v.text()); }
+    static basic::Value shown(const QPlainTextEdit &c, FieldType type)
+    {
+        return typedValue(c.toPlainText(), type);
+    }
+    static constexpr auto changed = &QPlainTextEdit::textChanged;
+};
+template <>
+struct Access<ComboBox> {
+    static void show(ComboBox &c, const basic::Value &v) { c.setValue(v.text()); }
+    static basic::Value shown(const ComboBox &c, FieldType type) { return typedValue(c.currentText(), type); }
+    static constexpr auto changed = &QComboBox::currentTextChanged;
+};
+template <>
+struct Access<QAbstractButton> {
+    static void show(QAbstractButton &c, const basic::Value &v) { c.setChecked(v.truth()); }
+    static basic::Value shown(const QAbstractButton &c, FieldType) { return c.isChecked(); }
+    static constexpr auto changed = &QAbstractButton::toggled;
+};
+
+/// Does `work` with the control as what it is; false for one that only shows.
+template <class Work>
+bool withControl(QWidget &control, Work &&work)
+{
+    const auto as = [&](auto *kind) {
+        auto *is = qobject_cast<decltype(kind)>(&control);
+        if (is)
+            work(*is);
+        return is != nullptr;
+    };
+    return as(static_cast<DTPicker *>(nullptr)) || as(static_cast<QLineEdit *>(nullptr)) ||
+           as(static_cast<QPlainTextEdit *>(nullptr)) || as(static_cast<ComboBox *>(nullptr)) ||
+           as(static_cast<QAbstractButton *>(nullptr));
+}
+
+template <class Control>
+using AccessOf = Access<std::remove_cvref_t<Control>>;
+
 void showValue(QWidget &control, const basic::Value &value)
 {
-    if (auto *text = qobject_cast<QLineEdit *>(&control))
-        text->setText(value.text());
-    else if (auto *memo = qobject_cast<QPlainTextEdit *>(&control))
-        memo->setPlainText(value.text());
-    else if (auto *combo = qobject_cast<ComboBox *>(&control))
-        combo->setValue(value.text());
-    else if (auto *check = qobject_cast<QAbstractButton *>(&control))
-        check->setChecked(value.truth());
-    else if (auto *date = qobject_cast<QDateEdit *>(&control))
-        date->setDate(value.isBlank() ? basic::today().date() : value.date().date());
-    else if (auto *label = qobject_cast<QLabel *>(&control))
+    const bool holds = withControl(control, [&](auto &c) { AccessOf<decltype(c)>::show(c, value); });
+    if (auto *label = qobject_cast<QLabel *>(&control); !holds && label)
         label->setText(value.text());
 }
 
-basic::Value shownValue(const QWidget &control, FieldType type)
+basic::Value shownValue(QWidget &control, FieldType type)
 {
-    if (const auto *text = qobject_cast<const QLineEdit *>(&control))
-        return typedValue(text->text(), type);
-    if (const auto *memo = qobject_cast<const QPlainTextEdit *>(&control))
-        return typedValue(memo->toPlainText(), type);
-    if (const auto *combo = qobject_cast<const QComboBox *>(&control))
-        return typedValue(combo->currentText(), type);
-    if (const auto *check = qobject_cast<const QAbstractButton *>(&control))
-        return check->isChecked();
-    if (const auto *date = qobject_cast<const QDateEdit *>(&control))
-        return date->date();
-    return {};
-}
-
-/// Tells `changed` of every change of what the control shows; false for a control that only shows.
-bool watch(QWidget &control, Data *data, const std::function<void()> &changed)
-{
-    if (auto *text = qobject_cast<QLineEdit *>(&control))
-        QObject::connect(text, &QLineEdit::textChanged, data, changed);
-    else if (auto *memo = qobject_cast<QPlainTextEdit *>(&control))
-        QObject::connect(memo, &QPlainTextEdit::textChanged, data, changed);
-    else if (auto *combo = qobject_cast<QComboBox *>(&control))
-        QObject::connect(combo, &QComboBox::currentTextChanged, data, changed);
-    else if (auto *check = qobject_cast<QAbstractButton *>(&control))
-        QObject::connect(check, &QAbstractButton::toggled, data, changed);
-    else if (auto *date = qobject_cast<QDateEdit *>(&control))
-        QObject::connect(date, &QDateEdit::dateChanged, data, changed);
-    else
-        return false;
-    return true;
+    basic::Value value;
+    withControl(control, [&](auto &c) { value = AccessOf<decltype(c)>::shown(c, type); });
+    return value;
 }
 
 } // namespace
@@ -99,6 +120,7 @@ Data::~Data() = default;
 void Data::refresh()
 {
     leaveRow();
+    noneChosen_ = false;
     recordset_ = dao::Recordset();
     if (!database_)
         throw dao::Error(dao::Error::Closed, QStringLiteral("No hay una base de datos abierta."));
@@ -109,20 +131,38 @@ void Data::refresh()
         emit refreshed();
         throw;
     }
+    adoptLengths();
     updateControls();
     emit refreshed();
     emit reposition();
+}
+
+/// What is typed in a field without a length of its own is as long as its column at most.
+void Data::adoptLengths()
+{
+    for (const Binding &binding : bindings_) {
+        const int ordinal = recordset_.ordinal(binding.field);
+        const int size = ordinal < 0 ? 0 : recordset_.fields()[static_cast<std::size_t>(ordinal)].size;
+        if (size <= 0 || recordset_.fields()[static_cast<std::size_t>(ordinal)].type != FieldType::Text)
+            continue;
+        if (auto *text = qobject_cast<TextBox *>(binding.control); text && !text->hasOwnLength())
+            text->setMaxLength(size);
+        else if (auto *combo = qobject_cast<ComboBox *>(binding.control); combo && combo->lineEdit())
+            combo->lineEdit()->setMaxLength(size);
+    }
 }
 
 void Data::bind(QWidget &control, const QString &field, const QString &pattern)
 {
     const std::size_t index = bindings_.size();
     bindings_.push_back({&control, field, pattern, false});
-    watch(control, this, [this, index] {
-        if (showing_)
-            return;
-        bindings_[index].changed = true;
-        dirty_ = true;
+    withControl(control, [&](auto &c) {
+        connect(&c, AccessOf<decltype(c)>::changed, this, [this, index] {
+            if (showing_)
+                return;
+            bindings_[index].changed = true;
+            dirty_ = true;
+        });
     });
     if (hasRecordset())
         updateControls();
@@ -130,8 +170,9 @@ void Data::bind(QWidget &control, const QString &field, const QString &pattern)
 
 bool Data::hasRow() const
 {
-    return hasRecordset() && (recordset_.editMode() == dao::Recordset::EditMode::Add ||
-                              (!recordset_.bof() && !recordset_.eof()));
+    return hasRecordset() && !noneChosen_ &&
+           (recordset_.editMode() == dao::Recordset::EditMode::Add ||
+            (!recordset_.bof() && !recordset_.eof()));
 }
 
 void Data::leaveRow()
@@ -223,9 +264,43 @@ void Data::updateControls()
     forgetChanges();
 }
 
+bool Data::find(const QString &criterion)
+{
+    bool found = false;
+    change([&](dao::Recordset &rows) {
+        if (!rows.bof() || !rows.eof()) {
+            rows.findFirst(criterion);
+            found = !rows.noMatch();
+        }
+        noneChosen_ = !found;
+    });
+    return found;
+}
+
+void Data::chooseNone()
+{
+    leaveRow();
+    noneChosen_ = true;
+    updateControls();
+    emit reposition();
+}
+
+void Data::set(const QString &field, const basic::Value &value)
+{
+    change([&](dao::Recordset &rows) { rows.edit([&] { rows[field] = value; }); });
+}
+
+void Data::deleteRow()
+{
+    updateControls();
+    recordset_.deleteRow();
+    refresh();
+}
+
 void Data::change(const std::function<void(dao::Recordset &)> &work)
 {
     leaveRow();
+    noneChosen_ = false;
     work(recordset_);
     updateControls();
     emit reposition();

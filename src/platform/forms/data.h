@@ -21,6 +21,8 @@ public:
     explicit Data(const QString &name);
     ~Data() override;
 
+    /// The database of every Data that is given no other; the session's.
+    static void setDefaultDatabase(dao::Database *database) { defaultDatabase_ = database; }
     void setDatabase(dao::Database *database) { database_ = database; }
     void setRecordSource(const QString &sql) { source_ = sql; }
     QString recordSource() const { return source_; }
@@ -42,6 +44,15 @@ public:
     void writeCell(qint64 row, int ordinal,
                    const QString &text); ///< for grids: stands on the row and writes one column
 
+    /// Stands on the first row that meets the criterion; without one no row is chosen, and false.
+    bool find(const QString &criterion);
+    /// No row is current until one is gone to: what was chosen before must not be taken for it.
+    void chooseNone();
+    /// Writes one column of the current row.
+    void set(const QString &field, const basic::Value &value);
+    /// Deletes the current row and reads the rows anew; what was typed in it goes with it.
+    void deleteRow();
+
     /// Runs a move, find, delete or edit on the recordset; writes changed controls first and tells the bound
     /// controls and grids afterwards.
     void change(const std::function<void(dao::Recordset &)> &work);
@@ -62,12 +73,16 @@ private:
     void writeRow();
     basic::Value valueToShow(const Binding &binding) const;
 
-    dao::Database *database_ = nullptr;
+    void adoptLengths();
+
+    static inline dao::Database *defaultDatabase_ = nullptr;
+    dao::Database *database_ = defaultDatabase_;
     QString source_;
     dao::Recordset recordset_;
     std::vector<Binding> bindings_;
     bool dirty_ = false;
     bool showing_ = false;
+    bool noneChosen_ = false;
 };
 
 } // namespace forms

@@ -4,8 +4,10 @@
 #include "platform/forms/boxes.h"
 
 #include <QAbstractTableModel>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 
 namespace forms
 {
@@ -29,15 +31,35 @@ public:
         reload();
     }
 
+    /// The source may fail while it is asked: it is asked before the views are told, and a grid that cannot
+    /// know its rows shows none.
     void reload()
     {
-        beginResetModel();
-        rows_ = countRows();
-        ordinals_.clear();
-        for (const GridColumn &column : columns_)
-            ordinals_.push_back(data_.hasRecordset() ? data_.recordset().ordinal(column.field) : -1);
-        lookOrdinal_ = data_.hasRecordset() ? data_.recordset().ordinal(lookField_) : -1;
-        endResetModel();
+        int rows = 0;
+        std::vector<int> ordinals(columns_.size(), -1);
+        int lookOrdinal = -1;
+        const auto ask = [&] {
+            if (!data_.hasRecordset())
+                return;
+            for (std::size_t i = 0; i < columns_.size(); ++i)
+                ordinals[i] = data_.recordset().ordinal(columns_[i].field);
+            lookOrdinal = data_.recordset().ordinal(lookField_);
+            rows = countRows();
+        };
+        const auto adopt = [&] {
+            beginResetModel();
+            rows_ = rows;
+            ordinals_ = std::move(ordinals);
+            lookOrdinal_ = lookOrdinal;
+            endResetModel();
+        };
+        try {
+            ask();
+        } catch (...) {
+            adopt();
+            throw;
+        }
+        adopt();
     }
 
     void setRowLook(const QString &field, std::function<RowLook(const basic::Value &)> look)
@@ -98,8 +120,8 @@ public:
         const int ordinal = ordinals_[static_cast<std::size_t>(index.column())];
         try {
             data_.writeCell(index.row(), ordinal, text.toString());
-        } catch (const dao::Error &error) {
-            showUnhandled(error.description());
+        } catch (const std::exception &error) {
+            showUnhandled(error);
             return false;
         }
         emit dataChanged(index, index);
@@ -126,9 +148,11 @@ private:
         if (!look_ || lookOrdinal_ < 0)
             return {};
         RowLook look;
-        if (!basic::ignoringErrors( // a row that cannot be read shows so in its cells
-                [&] { look = look_(data_.recordset().valueAt(index.row(), lookOrdinal_)); }))
-            return {};
+        try {
+            look = look_(data_.recordset().valueAt(index.row(), lookOrdinal_));
+        } catch (const dao::Error &) {
+            return {}; // a row that cannot be read shows so in its cells
+        }
         if (role == Qt::ForegroundRole)
             return look.ink.isValid() ? QVariant(look.ink) : QVariant();
         if (!look.strong || ordinals_[static_cast<std::size_t>(index.column())] != lookOrdinal_)
@@ -185,6 +209,10 @@ DBGrid::DBGrid(const QString &name)
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setStretchLastSection(true);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
+        if (QGuiApplication::mouseButtons() != Qt::NoButton) // by the person, not by the window
+            columnsMoved_ = true;
+    });
     connect(this, &QTableView::doubleClicked, this, [this] {
         if (editTriggers() == QAbstractItemView::NoEditTriggers)
             emit accepted();
@@ -215,9 +243,8 @@ void DBGrid::setSource(Data &source, std::vector<GridColumn> columns)
     setModel(model_);
     sizeColumns();
     connect(&source, &Data::refreshed, this, [this] {
-        following_ = true;
+        const QScopedValueRollback following(following_, true);
         model_->reload();
-        following_ = false;
     });
     connect(&source, &Data::rowWritten, this, [this] {
         model_->follow();
@@ -250,15 +277,15 @@ void DBGrid::followData()
 {
     if (!model_)
         return;
-    following_ = true;
     const int left = currentRow();
-    model_->follow();
-    const int row = dataRow();
-    viewport()->update(); // the model keeps no values: what is in sight is read anew
-    const int column = qMax(0, currentIndex().column());
-    if (row != left)
-        setCurrentIndex(row < 0 ? QModelIndex() : model_->index(row, column));
-    following_ = false;
+    int row = -1;
+    {
+        const QScopedValueRollback following(following_, true);
+        model_->follow();
+        row = dataRow();
+        viewport()->update(); // the model keeps no values: what is in sight is read anew
+        standOn(row);
+    }
     if (row != left)
         emit rowChanged(row);
 }
@@ -270,15 +297,25 @@ void DBGrid::leadData(const QModelIndex &current)
         return;
     const int row = current.row();
     try {
-        following_ = true;
+        const QScopedValueRollback following(following_, true);
         data_->change([row](dao::Recordset &rows) { rows.setAbsolutePosition(row); });
-        following_ = false;
-        emit rowChanged(row);
-    } catch (const basic::Error &error) {
-        setCurrentIndex(dataRow() < 0 ? QModelIndex() : model_->index(dataRow(), current.column()));
-        following_ = false;
-        showUnhandled(error.description());
+    } catch (const std::exception &error) {
+        const QScopedValueRollback following(following_, true);
+        standOn(dataRow());
+        showUnhandled(error);
+        return;
     }
+    emit rowChanged(row);
+}
+
+/// The row in sight is the one that the commands work on, or none is.
+void DBGrid::standOn(int row)
+{
+    if (row == currentRow() && (row >= 0 || !selectionModel()->hasSelection()))
+        return;
+    setCurrentIndex(row < 0 ? QModelIndex() : model_->index(row, qMax(0, currentIndex().column())));
+    if (row < 0)
+        clearSelection();
 }
 
 void DBGrid::setEditable(bool editable)

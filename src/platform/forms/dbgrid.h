@@ -41,6 +41,8 @@ public:
     void setEditable(bool editable);
     /// Gives each row the look that goes with its value of `field`; after setSource().
     void setRowLook(const QString &field, std::function<RowLook(const basic::Value &)> look);
+    /// The person gave a column another width.
+    bool columnsMoved() const { return columnsMoved_; }
     int currentRow() const;
     void setCurrentRow(int row);
 
@@ -58,9 +60,11 @@ private:
     int dataRow() const;
     void followData();
     void leadData(const QModelIndex &current);
+    void standOn(int row);
     Model *model_ = nullptr;
     Data *data_ = nullptr;
     bool following_ = false;
+    bool columnsMoved_ = false;
 };
 
 } // namespace forms

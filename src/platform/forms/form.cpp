@@ -2,6 +2,7 @@
 
 #include "platform/basic/errors.h"
 #include "platform/forms/boxes.h"
+#include "platform/forms/placement.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -47,9 +48,19 @@ void runHandler(Handler &&handler)
 {
     try {
         handler();
-    } catch (const basic::Error &error) {
-        showUnhandled(error.description());
+    } catch (const std::exception &error) {
+        showUnhandled(error);
     }
+}
+
+constexpr QSize frameAllowance(12, 40); // of a child window
+
+/// What the screen leaves a window with its title.
+QSize screenRoom(const QWidget &window)
+{
+    constexpr int titleBar = 32;
+    const QScreen *screen = window.screen();
+    return screen ? screen->availableGeometry().size() - QSize(0, titleBar) : QSize(16777215, 16777215);
 }
 
 void standInFrontOf(QWidget *window, QWidget *owner)
@@ -86,6 +97,7 @@ void Form::prepare()
         return;
     loaded_ = true;
     load();
+    restoreColumns(*this);
 }
 
 QMdiSubWindow *Form::frame() const
@@ -100,10 +112,10 @@ void Form::showModal()
     const QPointer<QWidget> owner = topModal() ? topModal() : (childArea() ? childArea()->window() : nullptr);
     setWindowModality(Qt::ApplicationModal);
     standInFrontOf(this, owner);
-    if (!testAttribute(Qt::WA_Resized))
-        adjustSize();
-    else
-        resize(size().expandedTo(minimumSizeHint())); // what showing it would come to, before it is centred
+    const QSize room = screenRoom(*this);
+    fitInto(*this, room);
+    const QSize natural = testAttribute(Qt::WA_Resized) ? size() : sizeHint();
+    resize(rememberedSize(*this, natural, room)); // what showing it would come to, before it is centred
     if (!testAttribute(Qt::WA_Moved))
         centreOnScreen(this);
     state().modals.append(this);
@@ -143,7 +155,9 @@ void Form::showChild(bool maximised)
     }
     prepare();
     Q_ASSERT(childArea());
-    const QSize own = testAttribute(Qt::WA_Resized) ? size() : sizeHint();
+    const QSize room = childArea()->viewport()->size();
+    const QSize natural = testAttribute(Qt::WA_Resized) ? size() : sizeHint();
+    fitInto(*this, room - frameAllowance);
     QMdiSubWindow *sub = childArea()->addSubWindow(this);
     sub->setAttribute(Qt::WA_DeleteOnClose);
     sub->setWindowIcon(windowIcon());
@@ -152,7 +166,8 @@ void Form::showChild(bool maximised)
     } else {
         sub->show();
         const QSize border = sub->sizeHint() - sizeHint();
-        sub->resize((own + border).boundedTo(childArea()->viewport()->size()));
+        sub->resize((rememberedSize(*this, natural, room - border) + border).boundedTo(room));
+        sub->move(placeInside(sub->pos(), sub->size(), room));
     }
     show();
     childArea()->setActiveSubWindow(sub);
@@ -186,16 +201,36 @@ void Form::reject()
     escape();
 }
 
+void Form::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    if (isVisible() && QGuiApplication::mouseButtons() != Qt::NoButton)
+        sizedByPerson_ = true;
+}
+
+/// Only what the person changed: a window that nobody touched follows the program's own measures.
+void Form::keepPlacement()
+{
+    const QMdiSubWindow *sub = frame();
+    if (sizedByPerson_ && !isMaximized() && !(sub && sub->isMaximized()))
+        rememberSize(*this, size());
+    rememberColumns(*this);
+}
+
 void Form::closeEvent(QCloseEvent *event)
 {
     bool agreed = false;
     runHandler([&] { agreed = queryUnload(); });
+    if (agreed)
+        keepPlacement();
     event->setAccepted(agreed);
 }
 
 void Form::hideEvent(QHideEvent *event)
 {
     QDialog::hideEvent(event);
+    if (!event->spontaneous())
+        keepPlacement();
     if (loop_ && !event->spontaneous())
         loop_->exit();
 }
@@ -216,6 +251,48 @@ void setChildArea(QMdiArea *area)
 QMdiArea *childArea()
 {
     return state().area;
+}
+
+Form *openChild(const QString &name)
+{
+    for (Form *form : formsByActivity())
+        if (form->name() == name && qobject_cast<QMdiSubWindow *>(form->parentWidget()))
+            return form;
+    return nullptr;
+}
+
+void cascade()
+{
+    QMdiArea *area = childArea();
+    if (!area)
+        return;
+    const QSize room = area->viewport()->size();
+    constexpr int step = 28;
+    int place = 0;
+    for (QMdiSubWindow *sub : area->subWindowList(QMdiArea::StackingOrder)) {
+        if (!sub->isVisible())
+            continue;
+        sub->showNormal();
+        sub->resize(sub->size().boundedTo(room));
+        const QPoint wanted(place, place);
+        sub->move(placeInside(wanted, sub->size(), room));
+        place = wanted == sub->pos() ? place + step : 0;
+        sub->raise();
+    }
+}
+
+/// A window that cannot be made as small as its share covers its neighbour, but nothing of it lies outside.
+void tile()
+{
+    QMdiArea *area = childArea();
+    if (!area)
+        return;
+    area->tileSubWindows();
+    const QSize room = area->viewport()->size();
+    for (QMdiSubWindow *sub : area->subWindowList()) {
+        sub->resize(sub->size().boundedTo(room));
+        sub->move(placeInside(sub->pos(), sub->size(), room));
+    }
 }
 
 Form *activeChild()

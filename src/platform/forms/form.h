@@ -49,19 +49,29 @@ protected:
     virtual void escape() { unload(); }
 
     void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
 private:
     friend void activated(Form *form);
     void prepare();
     QMdiSubWindow *frame() const; ///< of a child form, else null
+    void keepPlacement();
     bool loaded_ = false;
+    bool sizedByPerson_ = false;
     QEventLoop *loop_ = nullptr; ///< of showModal()
 };
 
 /// The area of the main window that child forms open in; set once by the main window.
 void setChildArea(QMdiArea *area);
 QMdiArea *childArea();
+/// The open child form of this name that was active last, or null. Windows that are not "new" are brought
+/// forward and not opened a second time.
+Form *openChild(const QString &name);
+/// Arranges the child forms wholly inside the area.
+void cascade();
+void tile();
+
 /// The active child form, or null: the current patient is its tag.
 Form *activeChild();
 /// Every form that exists, the main window aside, oldest first.

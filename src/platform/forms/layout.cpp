@@ -3,8 +3,12 @@
 #include "platform/forms/controls.h"
 
 #include <QBoxLayout>
+#include <QDialog>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QSplitter>
+
+#include <map>
 
 namespace forms
 {
@@ -107,6 +111,14 @@ std::vector<QWidget *> orderOf(const std::vector<FieldRow> &rows)
     return order;
 }
 
+/// The fields of the panels that have contents of their own, in their order, for the window that takes them
+/// in.
+std::map<QWidget *, std::vector<QWidget *>> &orders()
+{
+    static std::map<QWidget *, std::vector<QWidget *>> all;
+    return all;
+}
+
 void fill(QWidget *container, const Item &content)
 {
     auto *layout = new QVBoxLayout(container);
@@ -187,8 +199,39 @@ Item Grid(int columns, std::vector<Item> items)
             grid->setColumnStretch(column, 1);
         int place = 0;
         for (const Item &item : items) {
-            addCell(grid, item, place / columns, place % columns);
-            ++place;
+            const int wide = qMin(item.columns(), columns);
+            if (place % columns + wide > columns)
+                place += columns - place % columns;
+            addCell(grid, item, place / columns, place % columns, wide);
+            place += wide;
+        }
+    };
+    return Item(std::move(add), std::move(order));
+}
+
+Item Span(int columns, Item item)
+{
+    item.columns_ = columns;
+    return item;
+}
+
+Item Splitter(Qt::Orientation orientation, std::initializer_list<std::pair<Item, int>> shares)
+{
+    const std::vector<std::pair<Item, int>> parts(shares);
+    std::vector<QWidget *> order;
+    for (const auto &[item, share] : parts)
+        order.insert(order.end(), item.order().begin(), item.order().end());
+    auto add = [orientation, parts](QBoxLayout *layout) {
+        auto *splitter = new QSplitter(orientation);
+        splitter->setChildrenCollapsible(false);
+        layout->addWidget(splitter);
+        for (const auto &[item, share] : parts) {
+            auto *part = new QWidget;
+            auto *inner = new QVBoxLayout(part);
+            inner->setContentsMargins(0, 0, 0, 0);
+            item.addTo(inner);
+            splitter->addWidget(part);
+            splitter->setStretchFactor(splitter->count() - 1, share);
         }
     };
     return Item(std::move(add), std::move(order));
@@ -257,13 +300,18 @@ Item Tabs(SSTab &tabs, std::initializer_list<Page> list)
 void setContents(QWidget *window, Item content)
 {
     fill(window, content);
-    QWidget *before = nullptr;
+    std::vector<QWidget *> order;
     for (QWidget *widget : content.order()) {
-        if (widget->focusPolicy() == Qt::NoFocus)
-            continue;
-        if (before)
-            QWidget::setTabOrder(before, widget);
-        before = widget;
+        if (widget->focusPolicy() != Qt::NoFocus)
+            order.push_back(widget);
+        else if (const auto inner = orders().find(widget); inner != orders().end())
+            order.insert(order.end(), inner->second.begin(), inner->second.end());
+    }
+    for (std::size_t i = 1; i < order.size(); ++i)
+        QWidget::setTabOrder(order[i - 1], order[i]);
+    if (window->focusPolicy() == Qt::NoFocus && !qobject_cast<QDialog *>(window)) {
+        orders()[window] = std::move(order);
+        QObject::connect(window, &QObject::destroyed, [window] { orders().erase(window); });
     }
 }
 

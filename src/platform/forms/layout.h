@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <Qt>
 
 #include <functional>
 #include <initializer_list>
@@ -32,12 +33,15 @@ public:
     explicit Item(std::function<void(QBoxLayout *)> add, std::vector<QWidget *> order = {});
 
     void addTo(QBoxLayout *layout) const { add_(layout); }
+    int columns() const { return columns_; } ///< of a Grid, that it takes
     /// The widgets in tab order.
     const std::vector<QWidget *> &order() const { return order_; }
 
 private:
     std::function<void(QBoxLayout *)> add_;
     std::vector<QWidget *> order_;
+    int columns_ = 1;
+    friend Item Span(int columns, Item item);
 };
 
 using Items = std::initializer_list<Item>;
@@ -72,6 +76,10 @@ Item Above(const QString &label, Item field);
 /// Equal columns side by side, items placed row by row.
 Item Grid(int columns, Items items);
 Item Grid(int columns, std::vector<Item> items);
+/// An item of a Grid that takes several of its columns.
+Item Span(int columns, Item item);
+/// Items side by side, or one above the other, whose shares a person moves; their proportions are `shares`.
+Item Splitter(Qt::Orientation orientation, std::initializer_list<std::pair<Item, int>> shares);
 /// A titled box; with a Frame, that control is the box.
 Item Group(const QString &caption, Item content);
 Item Group(class Frame &frame, Item content);

@@ -1,5 +1,7 @@
 #include "platform/forms/style.h"
 
+#include "platform/forms/wrong.h"
+
 #include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
 #include <QComboBox>
@@ -42,6 +44,11 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
                           const QWidget *widget) const
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (widget && isMarkedWrong(*widget) && (element == PE_PanelLineEdit || element == PE_Frame)) {
+        painter->setPen(QPen(QColor(wrongInk), 2));
+        painter->drawRect(option->rect.adjusted(1, 1, -1, -1));
+        return;
+    }
     if (element != PE_Frame || !option->state.testFlag(State_HasFocus) ||
         !qobject_cast<const QAbstractScrollArea *>(widget))
         return;

@@ -33,6 +33,13 @@ bool elegido(const CommandButton &boton)
     return toColourValue(backColor(boton)) == rojo;
 }
 
+/// A day chosen bears a tick besides its colour.
+void marcar(CommandButton &boton, bool elegido)
+{
+    setBackColor(boton, fromColourValue(elegido ? rojo : verde));
+    boton.setIcon(elegido ? QIcon(u":/icons/aceptar.svg"_s) : QIcon());
+}
+
 void error(const QString &texto)
 {
     msgBox(texto, Icon::Critical, u"Error"_s);
@@ -47,7 +54,7 @@ HerramientaHorarios::HerramientaHorarios(forms::TextBox &intervalo) : intervalo_
     ProgressBar1.hide();
     for (const Dia &dia : dias) {
         CommandButton &boton = Command6.add(dia.numero, QString::fromUtf8(dia.titulo));
-        boton.setFixedWidth(48);
+        boton.setFixedWidth(58);
         connect(&boton, &QPushButton::clicked, this, [this, numero = dia.numero] { alternarDia(numero); });
     }
     for (int i = 0; i < 4; ++i)
@@ -60,13 +67,9 @@ HerramientaHorarios::HerramientaHorarios(forms::TextBox &intervalo) : intervalo_
 
 void HerramientaHorarios::disponer()
 {
-    for (CommandButton *boton : {&Command7, &Command8})
-        boton->setAutoDefault(false);
     std::vector<Item> semana;
-    for (const Dia &dia : dias) {
-        Command6(dia.numero).setAutoDefault(false);
+    for (const Dia &dia : dias)
         semana.emplace_back(Command6(dia.numero));
-    }
     semana.push_back(Stretch());
     setContents(this, Column{
                           Fields{{u"Desde :"_s, Row{dt1, new QLabel(u"hasta :"_s), dt2, Stretch()}},
@@ -93,14 +96,13 @@ bool HerramientaHorarios::hayProfesional() const
 
 void HerramientaHorarios::alternarDia(int dia)
 {
-    CommandButton &boton = Command6(dia);
-    setBackColor(boton, fromColourValue(elegido(boton) ? verde : rojo));
+    marcar(Command6(dia), !elegido(Command6(dia)));
 }
 
 void HerramientaHorarios::diasEnVerde()
 {
     for (auto &[dia, boton] : Command6)
-        setBackColor(*boton, fromColourValue(verde));
+        marcar(*boton, false);
 }
 
 horarios::Esquema HerramientaHorarios::esquema() const
@@ -162,7 +164,7 @@ void HerramientaHorarios::command8Click()
 {
     if (!askBox(
             u"Atención, se eliminarán los turnos asignados al profesional en dicho período, desea continuar??"_s,
-            u"Atención"_s, Icon::Exclamation))
+            u"Atención"_s, Answer::No, Icon::Exclamation))
         return;
     if (!hayProfesional()) {
         error(u"Error, seleccione un profesional!"_s);

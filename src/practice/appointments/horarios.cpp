@@ -3,6 +3,7 @@
 #include "core/session/session.h"
 #include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
+#include "platform/dao/sqltext.h"
 #include "practice/appointments/turnos.h"
 
 using namespace Qt::StringLiterals;
@@ -16,38 +17,16 @@ namespace
 
 constexpr std::array<QStringView, 4> columnas = {u"desde1", u"hasta1", u"desde2", u"hasta2"};
 
-/// Writes of a long job share commits; what was written stands, however the job ends.
-class Lote
-{
-public:
-    Lote() { BaseDatos.beginTrans(); }
-    ~Lote()
-    {
-        if (abierto_)
-            basic::ignoringErrors([] { BaseDatos.commitTrans(); }); // the job's own error is on its way
-    }
-    Lote(const Lote &) = delete;
-    Lote &operator=(const Lote &) = delete;
-
-    void terminar()
-    {
-        abierto_ = false;
-        BaseDatos.commitTrans();
-    }
-
-private:
-    bool abierto_ = true;
-};
-
 QString cdate(QDate fecha)
 {
-    return turnos::cdate(basic::Date(fecha));
+    return dao::cdate(basic::Date(fecha));
 }
 
 void borrarPeriodo(const QString &tabla, const Esquema &esquema)
 {
-    BaseDatos.execute(u"DELETE * FROM %1 WHERE Fecha >= %2 AND Fecha <= %3 AND idProfesional = %4"_s.arg(
-        tabla, cdate(esquema.desde), cdate(esquema.hasta), QString::number(esquema.idProfesional)));
+    BaseDatos.execute(u"DELETE * FROM %1 WHERE %2 AND idProfesional = %3"_s.arg(
+        tabla, dao::period(u"Fecha"_s, basic::Date(esquema.desde), basic::Date(esquema.hasta)),
+        QString::number(esquema.idProfesional)));
 }
 
 void borrarDia(const QString &tabla, const Esquema &esquema, QDate fecha)
@@ -77,9 +56,8 @@ void escribirHorario(const Esquema &esquema, QDate fecha)
 bool hayLugarLibre(QDate fecha, const QString &hora)
 {
     return !BaseDatos
-                .openRecordset(
-                    u"Select * from turnos WHERE Fecha = %1 AND Hora = '%2' AND Paciente = '%3'"_s.arg(
-                        cdate(fecha), hora, turnos::sinAsignar))
+                .openRecordset(u"Select * from turnos WHERE Fecha = %1 AND Hora = %2 AND Paciente = %3"_s.arg(
+                    cdate(fecha), dao::quoted(hora), dao::quoted(turnos::sinAsignar)))
                 .eof();
 }
 
@@ -149,7 +127,7 @@ void aplicar(const Esquema &esquema, bool reemplazar, const Avance &avance)
     for (const std::size_t k : {std::size_t{0}, std::size_t{2}})
         horas += lugares(esquema.horas[k], esquema.horas[k + 1], esquema.intervalo.value_or(0));
 
-    Lote lote;
+    dao::Batch lote(BaseDatos, dao::Batch::Long);
     if (reemplazar) {
         borrarPeriodo(u"DisTurnos"_s, esquema);
         borrarPeriodo(u"Turnos"_s, esquema);
@@ -161,17 +139,17 @@ void aplicar(const Esquema &esquema, bool reemplazar, const Avance &avance)
             if (!hayLugarLibre(fecha, hora))
                 agregarLugar(lugaresDelLibro, esquema, fecha, hora);
     });
-    lote.terminar();
+    lote.commit();
 }
 
 void quitar(const Esquema &esquema, const Avance &avance)
 {
-    Lote lote;
+    dao::Batch lote(BaseDatos, dao::Batch::Long);
     recorrer(esquema, avance, [&](QDate fecha) {
         borrarDia(u"DisTurnos"_s, esquema, fecha);
         borrarDia(u"turnos"_s, esquema, fecha);
     });
-    lote.terminar();
+    lote.commit();
 }
 
 } // namespace horarios

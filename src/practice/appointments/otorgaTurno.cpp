@@ -5,6 +5,7 @@
 #include "core/session/session.h"
 #include "platform/basic/environment.h"
 #include "platform/basic/runtime.h"
+#include "platform/dao/sqltext.h"
 #include "platform/forms/boxes.h"
 #include "practice/appointments/panNueTurno.h"
 #include "practice/appointments/turnos.h"
@@ -23,8 +24,8 @@ bool hayMomento(basic::Date fecha, const QString &hora)
 dao::Recordset lugarLibre(basic::Date fecha, const QString &hora)
 {
     return MODULE11::BaseDatos.openRecordset(
-        u"Select * from Turnos WHERE Paciente = '%1' AND Fecha = %2 AND Hora = '%3'"_s.arg(
-            turnos::sinAsignar, turnos::cdate(fecha), hora));
+        u"Select * from Turnos WHERE Paciente = %1 AND Fecha = %2 AND Hora = %3"_s.arg(
+            dao::quoted(turnos::sinAsignar), dao::cdate(fecha), dao::quoted(hora)));
 }
 
 } // namespace

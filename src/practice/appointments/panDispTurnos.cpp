@@ -2,6 +2,7 @@
 
 #include "core/session/session.h"
 #include "platform/basic/runtime.h"
+#include "platform/dao/sqltext.h"
 #include "platform/forms/boxes.h"
 #include "platform/forms/layout.h"
 #include "practice/appointments/turnos.h"
@@ -17,7 +18,6 @@ panDispTurnos::panDispTurnos(basic::Date fecha, qint64 idProfesional)
     lblProf.setCaption(QString::number(idProfesional));
     lblProf.hide();
     Command1.setDefault(true);
-    Data1.setDatabase(&MODULE11::BaseDatos);
     DBGrid1.setSource(Data1, {{u"Hora"_s, u"Hora"_s, {}, 80}, {u"Paciente"_s, u"Paciente"_s, {}, 280}});
     DBGrid1.setRowLook(u"Paciente"_s, turnos::aspecto);
     setContents(this, Column{
@@ -35,7 +35,7 @@ void panDispTurnos::load()
 {
     Data1.setRecordSource(
         u"Select * from turnos where fecha = %1 and idProfesional = %2  order by hora"_s.arg(
-            turnos::cdate(fecha_), lblProf.caption()));
+            dao::cdate(fecha_), lblProf.caption()));
     Data1.refresh();
     DBGrid1.setFocus();
 }

@@ -1,14 +1,16 @@
 #include "practice/appointments/panNueTurno.h"
 
 #include "core/security/permisos.h"
+#include "core/services/listas.h"
 #include "core/services/services.h"
 #include "core/session/ports.h"
 #include "core/session/session.h"
 #include "platform/basic/environment.h"
 #include "platform/basic/runtime.h"
+#include "platform/dao/sqltext.h"
 #include "platform/forms/boxes.h"
-#include "platform/forms/colour.h"
 #include "platform/forms/layout.h"
+#include "platform/forms/wrong.h"
 #include "practice/appointments/panDispTurnos.h"
 
 #include <QKeyEvent>
@@ -21,6 +23,11 @@ namespace
 
 const QString particular = u"<Particular>"_s;
 const QString busquedaRapida = u"<Búsqueda rápida>"_s;
+
+QString nombreComo(const QString &comienzo)
+{
+    return u"[Apellido y Nombres] LIKE "_s + dao::quoted(dao::typedPattern(comienzo, dao::Match::Beginning));
+}
 
 void error(const QString &texto)
 {
@@ -47,9 +54,6 @@ panNueTurno::panNueTurno() : Form(u"panNueTurno"_s)
     setWindowTitle(u"Nuevo Turno a un paciente"_s);
     txtBusca.setText(busquedaRapida);
     Command1.setDefault(true);
-    for (CommandButton *boton : {&Command2, &Command3, &Command4})
-        boton->setAutoDefault(false);
-    Data1.setDatabase(&MODULE11::BaseDatos);
     DBGrid1.setSource(Data1, {{u"Apellido y Nombres"_s, u"Apellido y Nombres"_s, {}, 250},
                               {u"Obra Social"_s, u"Obra Social"_s, {}, 150}});
     disponer();
@@ -57,6 +61,7 @@ panNueTurno::panNueTurno() : Form(u"panNueTurno"_s)
 
     txtBusca.installEventFilter(this);
     connect(&txtBusca, &QLineEdit::textEdited, this, &panNueTurno::buscar);
+    connect(&Text1, &QLineEdit::textEdited, this, &panNueTurno::escribirNombre);
     connect(&Data1, &Data::reposition, this, &panNueTurno::mostrarPaciente);
     connect(&checkBajas, &QCheckBox::toggled, this, &panNueTurno::armarLista);
     connect(&Check1, &QCheckBox::toggled, this,
@@ -98,18 +103,22 @@ void panNueTurno::proponer(const QString &cobertura, const QString &profesional)
     forms::setTag(&Combo2, profesional);
 }
 
-void panNueTurno::fijarHora(const QString &hora)
+/// "Ver el día..." could only choose another hour than the one that is given.
+void panNueTurno::fijarLugar(basic::Date fecha, const QString &hora)
 {
+    mFecha.setValue(fecha);
     mHora.setText(hora);
-    mHora.setEnabled(false);
+    for (QWidget *control : std::initializer_list<QWidget *>{&mFecha, &mHora, &Command3})
+        control->setEnabled(false);
 }
 
 void panNueTurno::load()
 {
     Combo1.addItem(particular, 0);
-    turnos::llenar(Combo1, u"Select * from [Obra Social] order by Descripcion"_s, u"Descripcion",
-                   u"idObraSocial");
-    turnos::llenar(Combo2, u"Select * from Profesionales order by Nombre"_s, u"Nombre", u"idProfesional");
+    services::agregarConClave(Combo1, u"Select * from [Obra Social] order by Descripcion"_s, u"Descripcion",
+                              u"idObraSocial");
+    services::agregarConClave(Combo2, u"Select * from Profesionales order by Nombre"_s, u"Nombre",
+                              u"idProfesional");
     Combo1.setValue(forms::tag(&Combo1));
     Combo2.setValue(forms::tag(&Combo2));
 }
@@ -153,10 +162,7 @@ bool panNueTurno::irAlPaciente()
 {
     if (numero_.isEmpty())
         return true;
-    Data1.change([&](dao::Recordset &pacientes) {
-        pacientes.findFirst(u"Numero = "_s + basic::format(numero_, u"##########0"));
-    });
-    if (!Data1.recordset().noMatch())
+    if (Data1.find(u"Numero = "_s + numero_))
         return true;
     error(u"No encontrado!!"_s);
     return false;
@@ -166,7 +172,7 @@ void panNueTurno::mostrarPaciente()
 {
     if (!Data1.hasRow())
         return;
-    marcarBusqueda(true); // a row gone to is a choice, whatever was typed before
+    txtBusca.setFound(true); // a row gone to is a choice, whatever was typed before
     dao::Recordset &paciente = Data1.recordset();
     idPaciente_ = paciente[u"Numero"].integer();
     Text1.setText(paciente[u"Apellido y Nombres"].text());
@@ -207,8 +213,7 @@ void panNueTurno::mostrarTurno()
                                                              QString::number(*idTurno_));
     if (turno.eof())
         return;
-    mFecha.setValue(turno[u"Fecha"].date());
-    fijarHora(turno[u"Hora"].text());
+    fijarLugar(turno[u"Fecha"].date(), turno[u"Hora"].text());
     if (!turnos::libre(turno)) {
         mostrarTurnoDado(turno);
         return;
@@ -221,10 +226,7 @@ void panNueTurno::mostrarTurno()
 void panNueTurno::mostrarTurnoDado(dao::Recordset &turno)
 {
     const QString nombre = turno[u"Paciente"].text();
-    Data1.change([&](dao::Recordset &pacientes) {
-        pacientes.findFirst(u"[Apellido y Nombres] = '%1'"_s.arg(nombre));
-    });
-    if (!Data1.hasRow() || Data1.recordset().noMatch()) {
+    if (!Data1.find(u"[Apellido y Nombres] = "_s + dao::quoted(nombre))) {
         idPaciente_ = turno[u"idPaciente"].integer();
         mostrarEdad({});
     }
@@ -246,16 +248,32 @@ void panNueTurno::buscar(const QString &texto)
 {
     if (texto.isEmpty())
         return;
-    Data1.change([&](dao::Recordset &pacientes) {
-        pacientes.findFirst(u"[Apellido y Nombres] LIKE '%1*'"_s.arg(texto));
-    });
-    marcarBusqueda(!Data1.recordset().noMatch());
+    txtBusca.setFound(Data1.find(nombreComo(texto)));
+    if (!txtBusca.found())
+        olvidarPaciente();
 }
 
-void panNueTurno::marcarBusqueda(bool hallado)
+/// Somebody who is not in the register: the row chosen before, with its telephone, plan and age, is
+/// another's.
+void panNueTurno::escribirNombre(const QString &nombre)
 {
-    sinCoincidencia_ = !hallado;
-    setForeColor(txtBusca, hallado ? palette().color(QPalette::Text) : QColor(0xb0, 0x3a, 0x2e));
+    if (idPaciente_ == 0)
+        return;
+    Data1.chooseNone();
+    olvidarPaciente();
+    Combo1.setValue(particular);
+    Text1.setText(nombre);
+    txtBusca.setFound(true);
+}
+
+/// Nobody is chosen: the patient met before must not be booked for the one looked for.
+void panNueTurno::olvidarPaciente()
+{
+    idPaciente_ = 0;
+    for (TextBox *dato : {&Text1, &Text2, &Text3, &Text4})
+        dato->clear();
+    Combo1.setCurrentIndex(-1);
+    mostrarEdad({});
 }
 
 void panNueTurno::paso(int filas)
@@ -280,7 +298,7 @@ bool panNueTurno::eventFilter(QObject *receptor, QEvent *evento)
             return true;
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            if (sinCoincidencia_) {
+            if (!txtBusca.found()) {
                 txtBusca.selectAll();
                 return true;
             }
@@ -314,6 +332,10 @@ bool panNueTurno::atiendeEseDia(qint64 idProfesional)
 
 void panNueTurno::command1Click()
 {
+    if (Text1.text().trimmed().isEmpty()) {
+        markWrong(Text1, u"Elija un paciente o escriba su nombre"_s);
+        return;
+    }
     const auto id = profesionalElegido();
     if (!id)
         return;
@@ -343,16 +365,10 @@ void panNueTurno::command4Click()
     const QString nombre = ports::pideNombreDePaciente();
     if (nombre.isEmpty())
         return;
-    bool hallado = true;
-    Data1.change([&](dao::Recordset &pacientes) {
-        pacientes.findFirst(u"[apellido y nombres] LIKE '%1*'"_s.arg(nombre));
-        hallado = !pacientes.noMatch();
-    });
-    if (hallado)
+    if (Data1.find(nombreComo(nombre)))
         return;
     error(u"No encontrado!!"_s);
-    if (Data1.hasRow())
-        Data1.change([](dao::Recordset &pacientes) { pacientes.moveFirst(); });
+    Data1.refresh(); // the first of the list, as it opened
 }
 
 turnos::Reserva panNueTurno::reserva()

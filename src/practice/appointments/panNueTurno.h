@@ -21,8 +21,8 @@ public:
     /// first of the list.
     void setPaciente(const QString &numero) { numero_ = numero; }
     void setFecha(basic::Date fecha) { mFecha.setValue(fecha); }
-    /// The place is settled: the hour is shown but cannot be typed.
-    void fijarHora(const QString &hora);
+    /// The place is settled: day and hour are shown but cannot be moved.
+    void fijarLugar(basic::Date fecha, const QString &hora);
     /// Edits the place with this key: a taken one keeps its patient and professional.
     void setTurno(qint64 idTurno) { idTurno_ = idTurno; }
 
@@ -45,7 +45,8 @@ private:
     void mostrarTurnoDado(dao::Recordset &turno);
     void elegirCobertura(const QString &cobertura);
     void buscar(const QString &texto);
-    void marcarBusqueda(bool hallado);
+    void escribirNombre(const QString &nombre);
+    void olvidarPaciente();
     void paso(int filas);
     std::optional<qint64> profesionalElegido();
     bool atiendeEseDia(qint64 idProfesional);
@@ -56,7 +57,7 @@ private:
     forms::Label Label1{
         QStringLiteral("Label1"),
         QStringLiteral("Pantalla de carga de turno a un paciente, complete la información solicitada:")};
-    forms::TextBox txtBusca{QStringLiteral("txtBusca")};
+    forms::SearchBox txtBusca{QStringLiteral("txtBusca")};
     forms::CommandButton Command4{QStringLiteral("Command4"), QStringLiteral("&Buscar..."),
                                   QStringLiteral("buscar")};
     forms::Data Data1{QStringLiteral("Data1")};
@@ -93,5 +94,4 @@ private:
     qint64 idPaciente_ = 0; ///< of the patients' current row, or of the taken place
     turnos::Edad edad_;
     QString permiso_ = QStringLiteral(" true ");
-    bool sinCoincidencia_ = false; ///< the quick search has met nobody
 };

@@ -1,11 +1,13 @@
 #include "practice/appointments/panTurnos.h"
 
 #include "core/security/niveles.h"
+#include "core/services/listas.h"
 #include "core/services/services.h"
 #include "core/session/login.h"
 #include "core/session/screens.h"
 #include "core/session/session.h"
 #include "platform/basic/runtime.h"
+#include "platform/dao/sqltext.h"
 #include "platform/forms/boxes.h"
 #include "platform/forms/layout.h"
 #include "platform/settings/settings.h"
@@ -25,12 +27,12 @@ constexpr QStringView horarios[] = {u"desde1", u"hasta1", u"desde2", u"hasta2"};
 /// The first entry of each filter stands for all.
 bool todos(const ComboBox &combo)
 {
-    return combo.currentIndex() == 0;
+    return combo.currentIndex() <= 0;
 }
 
 QString filtro(const ComboBox &combo, const QString &campo, const QString &valor)
 {
-    return todos(combo) ? u" true "_s : u" %1 = '%2' "_s.arg(campo, valor);
+    return todos(combo) ? u" true "_s : u" %1 = %2 "_s.arg(campo, dao::quoted(valor));
 }
 
 QString conMiles(qint64 cantidad)
@@ -50,8 +52,6 @@ qint64 cuenta(const QString &sql)
 panTurnos::panTurnos() : Form(u"panTurnos"_s)
 {
     setWindowTitle(u"Pantalla de Turnos o Citas"_s);
-    for (CommandButton *boton : {&Command1, &Command2, &Command3, &Command4, &Command5, &Command6})
-        boton->setAutoDefault(false);
     Command5.setEnabled(false); // needs the listings
     for (int i = 0; i < 4; ++i)
         Label3.add(i, u"no"_s);
@@ -62,7 +62,6 @@ panTurnos::panTurnos() : Form(u"panTurnos"_s)
         cantidad.setAlignment(Qt::AlignRight);
         cantidad.setFixedWidth(70);
     }
-    Data1.setDatabase(&MODULE11::BaseDatos);
     DBGrid2.setSource(Data1, {{u"Hora"_s, u"Hora"_s, {}, 56},
                               {u"Dr."_s, u"Dr"_s, {}, 115},
                               {u"Paciente"_s, u"Paciente"_s, {}, 170},
@@ -108,10 +107,14 @@ void panTurnos::disponer()
 
 void panTurnos::load()
 {
-    turnos::llenar(Combo1, u"Select * from [Obra Social] order by Descripcion"_s, u"Descripcion",
-                   u"idObraSocial");
-    turnos::llenar(Combo2, u"Select * from Profesionales order by Nombre"_s, u"Nombre", u"idProfesional");
-    turnos::llenar(Combo3, u"Select * from EstadosTurnos order by Estado"_s, u"Estado", u"idEstado");
+    services::agregarConClave(Combo1, u"Select * from [Obra Social] order by Descripcion"_s, u"Descripcion",
+                              u"idObraSocial");
+    services::agregarConClave(Combo2, u"Select * from Profesionales order by Nombre"_s, u"Nombre",
+                              u"idProfesional");
+    services::agregarConClave(Combo3, u"Select * from EstadosTurnos order by Estado"_s, u"Estado",
+                              u"idEstado");
+    for (ComboBox *combo : {&Combo1, &Combo2, &Combo3})
+        combo->setCurrentIndex(0);
     elegirInicio();
     connect(&Data1, &Data::reposition, this, &panTurnos::mostrarCuentas);
     refrescar();
@@ -156,7 +159,7 @@ void panTurnos::refrescar()
     const basic::Date fecha = calendar1.value();
     panelFecha.setCaption(MODULE11::FechaEnLetras(fecha) + u' ' + Combo2.value());
     Data1.setRecordSource(u"Select * from Turnos where fecha = %1 and %2 and %3 and %4 order by Hora"_s.arg(
-        turnos::cdate(fecha), filtro(Combo1, u"Mutual"_s, Combo1.value().trimmed()),
+        dao::cdate(fecha), filtro(Combo1, u"Mutual"_s, Combo1.value().trimmed()),
         filtro(Combo2, u"Dr"_s, Combo2.value()), filtro(Combo3, u"Estado"_s, Combo3.value().trimmed())));
     Data1.refresh();
     mostrarHorarios();
@@ -170,7 +173,7 @@ void panTurnos::mostrarHorarios()
         return;
     dao::Recordset dia = MODULE11::BaseDatos.openRecordset(
         u"Select * from DisTurnos where idProfesional = %1 and fecha = %2"_s.arg(
-            Combo2.currentData().toString(), turnos::cdate(calendar1.value())));
+            Combo2.currentData().toString(), dao::cdate(calendar1.value())));
     if (dia.eof())
         return;
     for (auto &[indice, hora] : Label3)
@@ -191,7 +194,7 @@ void panTurnos::mostrarCuentas()
     }
     Text1(0).setText(conMiles(Data1.recordset().rowCount()));
     Text1(1).setText(
-        conMiles(cuenta(u"select * from consulta where fecha = "_s + turnos::cdate(calendar1.value()))));
+        conMiles(cuenta(u"select * from consulta where fecha = "_s + dao::cdate(calendar1.value()))));
 }
 
 bool panTurnos::enLugar() const
@@ -207,18 +210,14 @@ qint64 panTurnos::turnoActual()
 void panTurnos::volverA(qint64 idTurno)
 {
     Data1.refresh();
-    Data1.change([&](dao::Recordset &lugares) {
-        if (!lugares.eof())
-            lugares.findFirst(u"idTurno = "_s + QString::number(idTurno));
-    });
+    Data1.find(u"idTurno = "_s + QString::number(idTurno));
 }
 
 void panTurnos::prepararDialogo(panNueTurno &dialogo)
 {
     dao::Recordset &lugar = Data1.recordset();
     dialogo.proponer(Combo1.value(), Combo2.value());
-    dialogo.setFecha(lugar[u"Fecha"].date());
-    dialogo.fijarHora(lugar[u"Hora"].text());
+    dialogo.fijarLugar(lugar[u"Fecha"].date(), lugar[u"Hora"].text());
 }
 
 void panTurnos::otorgar()

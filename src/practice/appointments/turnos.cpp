@@ -2,9 +2,8 @@
 
 #include "core/services/profesional.h"
 #include "core/session/session.h"
-#include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
-#include "platform/forms/controls.h"
+#include "platform/dao/sqltext.h"
 
 using namespace Qt::StringLiterals;
 using MODULE11::BaseDatos;
@@ -27,11 +26,6 @@ QString oPunto(const QString &texto)
 }
 
 } // namespace
-
-QString cdate(basic::Date fecha)
-{
-    return u"cdate('%1')"_s.arg(basic::dateText(fecha));
-}
 
 Edad edad(QDate nacimiento, QDate hoy)
 {
@@ -101,16 +95,8 @@ bool atiende(qint64 idProfesional, basic::Date fecha)
 {
     return !BaseDatos
                 .openRecordset(u"Select * from disTurnos where fecha = %1 and idProfesional = %2"_s.arg(
-                    cdate(fecha), QString::number(idProfesional)))
+                    dao::cdate(fecha), QString::number(idProfesional)))
                 .eof();
-}
-
-void llenar(forms::ComboBox &combo, const QString &sql, QStringView campo, QStringView clave)
-{
-    dao::Recordset filas = BaseDatos.openRecordset(sql);
-    for (; !filas.eof(); filas.moveNext())
-        if (const basic::Value texto = filas[campo]; !texto.isNull())
-            combo.addItem(texto.text(), filas[clave].integer());
 }
 
 forms::RowLook aspecto(const basic::Value &paciente)

@@ -9,19 +9,11 @@
 
 #include <optional>
 
-namespace forms
-{
-class ComboBox;
-}
-
 /// The rules of the appointment book. A free place is a row too: its patient is the marker.
 namespace turnos
 {
 
 inline const QString sinAsignar = QStringLiteral("<Sin Asignar>");
-
-/// The day as it stands in a statement: cdate('15/03/2024').
-QString cdate(basic::Date fecha);
 
 struct Edad {
     int anios = 0, meses = 0, dias = 0;
@@ -51,9 +43,6 @@ void cambiarEstado(dao::Recordset &lugar, const QString &estado);
 std::optional<qint64> idProfesional(const QString &nombre);
 /// A professional attends on the days that have working hours, with places or without.
 bool atiende(qint64 idProfesional, basic::Date fecha);
-
-/// Adds an entry a row, with the key column as the entry's data.
-void llenar(forms::ComboBox &combo, const QString &sql, QStringView campo, QStringView clave);
 
 /// Free places stand back, given ones stand out.
 forms::RowLook aspecto(const basic::Value &paciente);

@@ -1,7 +1,7 @@
 #include "practice/professionals/diasDeTrabajo.h"
 
 #include "core/session/session.h"
-#include "platform/basic/runtime.h"
+#include "platform/dao/sqltext.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,9 +17,8 @@ std::map<QDate, Atencion> diasDeTrabajo(qint64 idProfesional, int ano)
 {
     std::map<QDate, Atencion> dias;
     dao::Recordset filas = MODULE11::BaseDatos.openRecordset(
-        u"Select * from DisTurnos WHERE idProfesional = %1 AND Fecha >= cdate('%2') AND Fecha <= cdate('%3')"_s
-            .arg(QString::number(idProfesional), basic::dateText(basic::Date(QDate(ano, 1, 1))),
-                 basic::dateText(basic::Date(QDate(ano, 12, 31)))));
+        u"Select * from DisTurnos WHERE idProfesional = %1 AND "_s.arg(idProfesional) +
+        dao::period(u"Fecha"_s, basic::Date(QDate(ano, 1, 1)), basic::Date(QDate(ano, 12, 31))));
     for (; !filas.eof(); filas.moveNext()) {
         const basic::Date fecha = filas[u"Fecha"].date();
         if (fecha == fecha.dateOnly())

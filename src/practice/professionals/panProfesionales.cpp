@@ -31,7 +31,6 @@ const QString interturnosHabitual = u"30"_s;
 panProfesionales::panProfesionales() : Form(u"panProfesionales"_s)
 {
     setWindowTitle(u"Tabla de Profesionales / Usuarios"_s);
-    Data1.setDatabase(&MODULE11::BaseDatos);
     DBGrid1.setSource(Data1,
                       {{u"Nombre"_s, u"Nombre"_s, {}, 200}, {u"Especialidad"_s, u"Especialidad"_s, {}, 110}});
     DBGrid1.setMinimumWidth(330);

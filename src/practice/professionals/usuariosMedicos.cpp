@@ -1,6 +1,6 @@
 #include "practice/professionals/usuariosMedicos.h"
 
-#include "core/session/session.h"
+#include "core/services/listas.h"
 
 #include <QComboBox>
 
@@ -12,9 +12,7 @@ namespace practice
 void llenaUsuariosMedicos(QComboBox &lista)
 {
     lista.clear();
-    dao::Recordset usuarios = MODULE11::BaseDatos.openRecordset(u"Select * from usuarios WHERE tipo = 'M'"_s);
-    for (; !usuarios.eof(); usuarios.moveNext())
-        lista.addItem(usuarios[u"Nombre"].text(), usuarios[u"idUsuario"].integer());
+    services::agregarConClave(lista, u"Select * from usuarios WHERE tipo = 'M'"_s, u"Nombre", u"idUsuario");
     lista.setCurrentIndex(-1);
 }
 

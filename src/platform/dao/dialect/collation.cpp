@@ -1,12 +1,17 @@
 #include "platform/dao/dialect/collation.h"
 
-#include "platform/dao/dialect/latin.h"
+#include "platform/basic/latin.h"
 
 #include <algorithm>
 #include <cstring>
 
 namespace dao
 {
+
+using basic::foldedLatin;
+using basic::LatinLetter;
+using basic::latinLetter;
+using basic::tildeAccent;
 
 namespace
 {

@@ -1,5 +1,7 @@
+#include "platform/basic/cleantext.h"
 #include "platform/dao/dialect/parserbase.h"
 #include "platform/dao/dialect/types.h"
+#include "platform/dao/error.h"
 
 namespace dao
 {
@@ -8,6 +10,8 @@ namespace
 {
 // Deeper than any person nests parentheses, shallower than the stack.
 constexpr int deepestNesting = 200;
+// A chain of operators is a tree as deep as the chain is long.
+constexpr int mostOperators = 2000;
 } // namespace
 
 class DepthGuard
@@ -50,8 +54,10 @@ ExprPtr QueryParser::node(ExprKind kind) const
     return expr;
 }
 
-ExprPtr QueryParser::binary(ExprKind kind, Operator op, ExprPtr left, ExprPtr right) const
+ExprPtr QueryParser::binary(ExprKind kind, Operator op, ExprPtr left, ExprPtr right)
 {
+    if (++operators_ > mostOperators)
+        throw Error(Error::SyntaxError, QStringLiteral("La expresión es demasiado compleja."));
     auto expr = std::make_unique<Expr>();
     expr->kind = kind;
     expr->op = op;
@@ -249,7 +255,7 @@ ExprPtr QueryParser::primary()
         const QChar quote = *(token().text.data() - 1);
         if (text.contains(quote))
             text.replace(QString(2, quote), QString(quote));
-        expr->literal = std::move(text);
+        expr->literal = basic::cleanText(text);
         advance();
         return expr;
     }

@@ -1,6 +1,6 @@
 #include "platform/dao/dialect/like.h"
 
-#include "platform/dao/dialect/latin.h"
+#include "platform/basic/latin.h"
 
 #include <QList>
 #include <QString>
@@ -11,6 +11,8 @@
 
 namespace dao
 {
+
+using basic::foldedLatin;
 
 namespace
 {

@@ -73,9 +73,10 @@ private:
     ExprPtr call(const QString &name, qsizetype position);
     ExprPtr number();
     ExprPtr node(ExprKind kind) const;
-    ExprPtr binary(ExprKind kind, Operator op, ExprPtr left, ExprPtr right) const;
+    ExprPtr binary(ExprKind kind, Operator op, ExprPtr left, ExprPtr right);
 
     int depth_ = 0;
+    int operators_ = 0;
     friend class DepthGuard;
 };
 

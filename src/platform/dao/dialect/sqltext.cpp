@@ -1,6 +1,7 @@
 #include "platform/dao/sqltext.h"
 
 #include "platform/basic/runtime.h"
+#include "platform/basic/typed.h"
 
 namespace dao
 {
@@ -20,6 +21,17 @@ QString cdate(basic::Date day)
 QString period(const QString &column, basic::Date from, basic::Date to)
 {
     return QStringLiteral("%1 >= %2 and %1 <= %3").arg(column, cdate(from), cdate(to));
+}
+
+QString typedPattern(const QString &typed, Match where)
+{
+    QString pattern = where == Match::Anywhere ? QStringLiteral("*") : QString();
+    for (const QChar c : typed.normalized(QString::NormalizationForm_C)) {
+        const QString letters = basic::lettersMeant(c);
+        const bool sign = QStringView(u"*?#[").contains(c);
+        pattern += letters.size() > 1 || sign ? u'[' + letters + u']' : letters;
+    }
+    return pattern + u'*';
 }
 
 } // namespace dao

@@ -1,5 +1,7 @@
 #include "platform/dao/dialect/types.h"
 
+#include "platform/basic/cleantext.h"
+
 #include "platform/basic/runtime.h"
 #include "platform/dao/dialect/names.h"
 #include "platform/dao/error.h"
@@ -88,7 +90,7 @@ basic::Value money(const basic::Value &value, const FieldDef &field)
 
 basic::Value shortText(const basic::Value &value, const FieldDef &field)
 {
-    QString text = value.text();
+    QString text = basic::cleanText(value.text());
     if (field.type == FieldType::Text && text.size() > field.size)
         throw Error(Error::TextTooLong,
                     QStringLiteral("El campo '%1' es demasiado pequeño para la cantidad de datos que "

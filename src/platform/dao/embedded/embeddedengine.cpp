@@ -63,8 +63,12 @@ public:
         case Kind::Text:
             break;
         }
-        const QByteArray text = value.as<QString>()->toUtf8();
-        sqlite3_bind_text(statement_, place, text.constData(), static_cast<int>(text.size()),
+        bindText(parameter, value.as<QString>()->toUtf8());
+    }
+
+    void bindText(int parameter, QByteArrayView utf8) override
+    {
+        sqlite3_bind_text(statement_, parameter + 1, utf8.data(), static_cast<int>(utf8.size()),
                           SQLITE_TRANSIENT);
     }
 

@@ -57,7 +57,7 @@ basic::Date date(sqlite3_value *value)
 
 qint64 whole(sqlite3_value *value)
 {
-    return static_cast<qint64>(std::nearbyint(sqlite3_value_double(value)));
+    return basic::nearestWhole(sqlite3_value_double(value));
 }
 
 bool anyNull(int count, sqlite3_value **values)
@@ -161,7 +161,7 @@ void rounded(sqlite3_context *context, int count, sqlite3_value **values)
 {
     const double number = sqlite3_value_double(values[0]);
     if (count == 1) {
-        give(context, static_cast<qint64>(std::nearbyint(number)));
+        give(context, basic::nearestWhole(number));
         return;
     }
     const double scale = std::pow(10.0, sqlite3_value_int(values[1]));

@@ -125,14 +125,18 @@ qint64 DatabasePrivate::write(EngineStatement &statement)
         engine().begin();
         rowsInBatch_ = 0;
     }
-    {
+    try {
         const StatementRun run(statement);
         statement.step();
+    } catch (const Error &error) {
+        if (batch && !engine().inTransaction())
+            batchLost_ = error; // a full disk may take the rows before with it
+        throw;
     }
     processWrites_.fetch_add(1, std::memory_order_relaxed);
     const qint64 rows = engine().changes();
     if (batch && ++rowsInBatch_ >= batchRows_) {
-        engine().commit();
+        commit();
         rowsInBatch_ = 0;
     }
     return rows;
@@ -169,8 +173,24 @@ void DatabasePrivate::endBatch()
 {
     if (batchDepth_ == 0)
         throw Error(Error::Engine, QStringLiteral("No hay ninguna transacción abierta."));
-    if (--batchDepth_ == 0 && engine().inTransaction())
+    if (--batchDepth_ > 0)
+        return;
+    const std::optional<Error> lost = std::exchange(batchLost_, std::nullopt);
+    if (engine().inTransaction())
+        commit();
+    if (lost)
+        throw *lost;
+}
+
+/// A commit that fails leaves nothing open: its rows are not stored, and the caller is told.
+void DatabasePrivate::commit()
+{
+    try {
         engine().commit();
+    } catch (...) {
+        engine().rollback();
+        throw;
+    }
 }
 
 qint64 DatabasePrivate::changeStamp()

@@ -11,6 +11,7 @@
 
 #include <atomic>
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace dao
@@ -77,6 +78,7 @@ public:
 
 private:
     static bool mayBeStale(const Error &error);
+    void commit();
 
     TablePtr existingTable(const QString &name);
     int existingColumn(const Table &table, const QString &name);
@@ -99,6 +101,7 @@ private:
     int batchDepth_ = 0;
     int batchRows_ = 0;
     int rowsInBatch_ = 0;
+    std::optional<Error> batchLost_; ///< why the rows of the open batch are gone
     qint64 dataVersion_ = 0;
     qint64 foreignChanges_ = 0;
     qint64 checkedAt_ = 0;

@@ -172,6 +172,29 @@ void Database::commitTrans()
     d_->endBatch();
 }
 
+Batch::Batch(Database &database, Kind kind) : database_(database)
+{
+    constexpr int rowsOfLongJob = 1000;
+    database_.beginTrans(kind == Long ? rowsOfLongJob : std::numeric_limits<int>::max());
+}
+
+Batch::~Batch()
+{
+    if (!open_)
+        return;
+    try {
+        database_.commitTrans();
+    } catch (const std::exception &) {
+        // the failure that left the batch is on its way to be told
+    }
+}
+
+void Batch::commit()
+{
+    open_ = false;
+    database_.commitTrans();
+}
+
 void Database::readTogether(const std::function<void()> &loop)
 {
     Engine &engine = d_->engine();

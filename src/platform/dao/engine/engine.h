@@ -31,7 +31,8 @@ public:
     virtual ~EngineStatement() = default;
     virtual void bind(int parameter, const basic::Value &value) = 0;
     virtual void bind(int parameter, qint64 key) = 0;
-    virtual bool step() = 0; ///< false after the last row; throws Error
+    virtual void bindText(int parameter, QByteArrayView utf8) = 0; ///< byte for byte
+    virtual bool step() = 0;                                       ///< false after the last row; throws Error
     virtual void reset() = 0;
     virtual bool isNull(int column) const = 0;
     virtual qint64 integer(int column) const = 0;

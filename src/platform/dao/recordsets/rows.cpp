@@ -2,7 +2,6 @@
 
 #include "platform/dao/dialect/types.h"
 
-#include <cmath>
 #include <cstring>
 
 namespace dao
@@ -73,7 +72,7 @@ void Rows::append(const EngineStatement &row, int firstColumn)
             if (wanted == ExprType::Double || wanted == ExprType::Date)
                 cell.real = isReal ? given.real : static_cast<double>(given.integer);
             else
-                cell.integer = isReal ? static_cast<qint64>(std::nearbyint(given.real)) : given.integer;
+                cell.integer = isReal ? basic::nearestWhole(given.real) : given.integer;
             break;
         }
         }
@@ -107,6 +106,14 @@ basic::Value Rows::value(qint64 row, int column) const
         break;
     }
     return cell.integer;
+}
+
+std::optional<QByteArrayView> Rows::storedText(qint64 row, int column) const
+{
+    const Cell &cell = cells_[static_cast<size_t>(row) * types_.size() + static_cast<size_t>(column)];
+    if (cell.content != Cell::Text && cell.content != Cell::PlainText)
+        return std::nullopt;
+    return QByteArrayView(texts_.data() + cell.offset, cell.length);
 }
 
 qint64 Rows::integer(qint64 row, int column) const

@@ -5,6 +5,7 @@
 #include "platform/dao/engine/engine.h"
 #include "platform/dao/schema.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,9 @@ public:
     qint64 count() const { return count_; }
     basic::Value value(qint64 row, int column) const;
     qint64 integer(qint64 row, int column) const; ///< of a key
+    /// The bytes of a text as the engine gave them, which the value may not hold whole: files of other
+    /// programs have texts that are no UTF-8. Nothing for what is no text.
+    std::optional<QByteArrayView> storedText(qint64 row, int column) const;
     const std::vector<FieldType> &types() const { return types_; }
 
 private:

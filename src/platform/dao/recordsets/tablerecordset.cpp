@@ -87,8 +87,15 @@ EngineStatement &TableRecordset::pageStatement(const Page &query)
     return *statements_.back().second;
 }
 
-void TableRecordset::readPage(Page query, const std::vector<basic::Value> &values, qint64 key, qint64 limit,
-                              Rows &rows)
+void TableRecordset::IndexValue::bindTo(EngineStatement &statement, int parameter) const
+{
+    if (bytes)
+        statement.bindText(parameter, *bytes);
+    else
+        statement.bind(parameter, value);
+}
+
+void TableRecordset::readPage(Page query, const IndexValues &values, qint64 key, qint64 limit, Rows &rows)
 {
     query.index = index_;
     query.nulls = 0;
@@ -98,10 +105,10 @@ void TableRecordset::readPage(Page query, const std::vector<basic::Value> &value
     int place = 0;
     for (int i = 0; i < query.equal; ++i) {
         if (!values[static_cast<size_t>(i)].isNull())
-            statement.bind(place++, values[static_cast<size_t>(i)]);
+            values[static_cast<size_t>(i)].bindTo(statement, place++);
     }
     if (query.next >= Page::Next::Greater && query.next <= Page::Next::LessEqual)
-        statement.bind(place++, values[static_cast<size_t>(query.equal)]);
+        values[static_cast<size_t>(query.equal)].bindTo(statement, place++);
     if (query.key != Page::Key::Any)
         statement.bind(place++, key);
     statement.bind(place, limit - rows.count());
@@ -136,8 +143,11 @@ TableRecordset::Anchor TableRecordset::anchorOf(const Rows &rows, qint64 row) co
 {
     Anchor anchor;
     anchor.key = rows.integer(row, 0);
-    for (size_t i = 0; i < indexWidth(); ++i)
-        anchor.values.push_back(rows.value(row, static_cast<int>(i) + 1));
+    for (int column = 1; column <= static_cast<int>(indexWidth()); ++column) {
+        const auto bytes = rows.storedText(row, column);
+        anchor.values.push_back(
+            {rows.value(row, column), bytes ? std::optional(bytes->toByteArray()) : std::nullopt});
+    }
     return anchor;
 }
 
@@ -257,7 +267,7 @@ void TableRecordset::seek(QStringView comparison, const std::vector<basic::Value
     if (key.empty() || key.size() > indexWidth())
         throw Error(Error::TypeMismatch, QStringLiteral("Argumentos no válidos para Seek."));
     noMatch = true;
-    std::vector<basic::Value> values;
+    IndexValues values;
     for (size_t i = 0; i < key.size(); ++i) {
         FieldDef field =
             table_->columns[static_cast<size_t>(table_->ordinal(index_->fields[static_cast<qsizetype>(i)]))];
@@ -266,7 +276,7 @@ void TableRecordset::seek(QStringView comparison, const std::vector<basic::Value
             field.type = FieldType::Memo;
         else if (exprTypeOf(field.type) == ExprType::Integer)
             field.type = FieldType::Double;
-        values.push_back(converted(key[i], field));
+        values.push_back({converted(key[i], field)});
     }
     const auto last = static_cast<int>(values.size()) - 1;
     const auto isNull = [&](int i) { return values[static_cast<size_t>(i)].isNull(); };

@@ -44,9 +44,19 @@ protected:
 private:
     enum class Place { Before, Row, After, Removed };
     using Page = Emitter::PageQuery;
+    /// A value of an index's column; of a row that was read, a text with its bytes as they lie in the file,
+    /// since a walk goes on from where it stood only by those.
+    struct IndexValue {
+        basic::Value value;
+        std::optional<QByteArray> bytes = {};
+
+        bool isNull() const { return value.isNull(); }
+        void bindTo(EngineStatement &statement, int parameter) const;
+    };
+    using IndexValues = std::vector<IndexValue>;
     /// Where a row stands in the order: its values of the index and its key.
     struct Anchor {
-        std::vector<basic::Value> values;
+        IndexValues values;
         qint64 key = 0;
     };
 
@@ -55,7 +65,7 @@ private:
     size_t indexWidth() const { return index_ ? static_cast<size_t>(index_->fields.size()) : 0; }
     EngineStatement &pageStatement(const Page &query);
     /// Adds rows to `rows` until it has `limit`; the values are those of the index's first columns.
-    void readPage(Page query, const std::vector<basic::Value> &values, qint64 key, qint64 limit, Rows &rows);
+    void readPage(Page query, const IndexValues &values, qint64 key, qint64 limit, Rows &rows);
     /// The rows after or before an anchor; `inclusive` with the anchor's own.
     void readFrom(const Anchor &anchor, bool backwards, bool inclusive, qint64 limit, Rows &rows);
     Rows emptyPage() const;

@@ -1,11 +1,16 @@
 #pragma once
 
-#include "clinical/catalogues/eleccion.h"
+#include "core/session/eleccion.h"
 #include "platform/dao/recordset.h"
 #include "platform/forms/controlarray.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 #include "platform/forms/layout.h"
+
+namespace records
+{
+
+using ports::Renglon;
 
 /// A catalogue that is kept and chosen from in one window: the list of its rows and the fields of the chosen
 /// one. A row is known by its name: saving under an existing name changes that row, under another name it
@@ -20,7 +25,8 @@ public:
     };
     struct Tabla {
         QString nombre, id, preguntaDeBaja;
-        std::vector<Campo> campos; ///< of mDato(0), mDato(1)...; the first is the name
+        std::vector<Campo> campos;                      ///< of mDato(0), mDato(1)...; the first is the name
+        QString indice = QStringLiteral("Descripcion"); ///< over the name: the order of the list
     };
 
     /// The chosen rows of the list, first to last.
@@ -80,3 +86,5 @@ private:
     Tabla tabla_;
     bool cargado_ = false;
 };
+
+} // namespace records

@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace dao
+namespace basic
 {
 
 /// A Latin letter taken apart: the plain letter and the number of its accent; base 0 for anything else.
@@ -92,4 +92,4 @@ constexpr LatinLetter latinLetter(char32_t folded)
     return {};
 }
 
-} // namespace dao
+} // namespace basic

@@ -1,4 +1,4 @@
-#include "clinical/catalogues/catalogo.h"
+#include "core/records/catalogo.h"
 
 #include "core/services/services.h"
 #include "core/session/session.h"
@@ -8,6 +8,9 @@
 
 using namespace Qt::StringLiterals;
 using namespace forms;
+
+namespace records
+{
 
 namespace
 {
@@ -82,7 +85,7 @@ std::vector<Renglon> Catalogo::elegidos() const
 dao::Recordset Catalogo::abrir() const
 {
     dao::Recordset filas = MODULE11::BaseDatos.openRecordset(tabla_.nombre, dao::Recordset::Kind::Table);
-    filas.setIndex(u"Descripcion");
+    filas.setIndex(tabla_.indice);
     return filas;
 }
 
@@ -225,5 +228,7 @@ void Catalogo::trasBorrar()
     llenar();
     mostrar(nullptr);
 }
+
+} // namespace records
 
 #include "moc_catalogo.cpp"

@@ -1,0 +1,123 @@
+#include "core/records/tabla.h"
+
+#include "core/security/niveles.h"
+#include "core/services/paciente.h"
+#include "core/services/services.h"
+#include "core/session/session.h"
+
+using namespace Qt::StringLiterals;
+
+namespace records
+{
+
+Tabla::Tabla(const QString &window, const QString &title, std::vector<forms::GridColumn> columns)
+    : Form(window)
+{
+    setWindowTitle(title);
+    DBGrid1.setSource(Data1, std::move(columns));
+    connect(&Data1, &forms::Data::reposition, this, &Tabla::showRow);
+}
+
+void Tabla::setSource(const QString &sql)
+{
+    Data1.setRecordSource(sql);
+}
+
+void Tabla::load()
+{
+    refresh();
+}
+
+bool Tabla::queryUnload()
+{
+    Data1.updateRecord();
+    return true;
+}
+
+forms::CommandButton &Tabla::command(const QString &name, const QString &caption, const QString &icon,
+                                     std::function<void()> work, Before before)
+{
+    auto *button = new forms::CommandButton(name, caption, icon);
+    button->setParent(this);
+    connect(button, &QPushButton::clicked, this, [before = std::move(before), work = std::move(work)] {
+        if (!before.gate.isEmpty() && !MODULE11::VerificaNivel(before.gate))
+            return;
+        if (before.question.isEmpty() || MODULE11::PreguntaSiBorra(before.question))
+            work();
+    });
+    return *button;
+}
+
+forms::CommandButton &Tabla::rowCommand(const QString &name, const QString &caption, const QString &icon,
+                                        std::function<void()> work, Before before)
+{
+    forms::CommandButton &button = command(name, caption, icon, std::move(work), std::move(before));
+    button.setEnabled(false);
+    ofTheRow_.push_back(&button);
+    return button;
+}
+
+/// The refusal of a row comes before the question about it.
+forms::CommandButton &Tabla::deletes(const QString &name, const QString &caption, Before before)
+{
+    const QString question = std::exchange(before.question, {});
+    const auto work = [this, question] {
+        if (mayDelete() && MODULE11::PreguntaSiBorra(question))
+            deleteRow();
+    };
+    return rowCommand(name, caption, u"borrar"_s, work, std::move(before));
+}
+
+forms::CommandButton &Tabla::closes(const QString &name, const QString &caption)
+{
+    return command(name, caption, u"cerrar"_s, [this] { unload(); });
+}
+
+void Tabla::addRow(const std::function<void(dao::Recordset &)> &fill)
+{
+    Data1.change([&](dao::Recordset &rows) {
+        rows.addNew();
+        fill(rows);
+        rows.update();
+        const dao::Recordset::Bookmark added = rows.lastModified();
+        rows.requery(); // it takes its place in the order of the rows
+        rows.setBookmark(added);
+    });
+}
+
+void Tabla::deleteRow()
+{
+    Data1.updateControls();
+    Data1.recordset().deleteRow();
+    refresh();
+}
+
+void Tabla::showRow()
+{
+    for (forms::CommandButton *button : ofTheRow_)
+        button->setEnabled(Data1.hasRow());
+    rowShown();
+}
+
+ListaDelPaciente::ListaDelPaciente(const QString &window, const QString &title,
+                                   std::vector<forms::GridColumn> columns, const QString &source)
+    : Tabla(window, title, std::move(columns)), source_(source)
+{
+}
+
+void ListaDelPaciente::activate()
+{
+    const auto numero = services::numeroDePaciente(tag());
+    if (!numero) {
+        MODULE11::Aviso(u"Debe seleccionar un paciente"_s);
+        unload();
+        return;
+    }
+    paciente_ = *numero;
+    setSource(source_.arg(paciente_));
+    refresh();
+}
+
+} // namespace records
+
+#include "moc_tabla.cpp"
