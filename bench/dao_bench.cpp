@@ -135,7 +135,7 @@ const QString screenQuery = QStringLiteral(
 
 void prepareScreenTables()
 {
-    basic::ignoringErrors([] {
+    basic::ignoring({dao::Error::TableExists}, [] {
         Practice::instance().db.execute(
             "CREATE TABLE DetalleFacturacion (idDetFacturacion COUNTER, idFactura LONG, "
             "idPaciente LONG, NroOrden TEXT(30), Importe CURRENCY)");

@@ -268,7 +268,7 @@ TEST_F(Catalogues, SymptomsAreThoseSelectedInTheListsOrder)
         list.findItems(u"Fiebre"_s, Qt::MatchExactly).value(0)->setSelected(true);
         press(form, u"Command1"_s);
     });
-    const std::vector<Renglon> chosen = catalogos::eligeSintomas();
+    const std::vector<ports::Renglon> chosen = catalogos::eligeSintomas();
     ASSERT_EQ(chosen.size(), 2u);
     EXPECT_EQ(chosen[0].nombre, u"Fiebre"_s);
     EXPECT_EQ(chosen[1].nombre, u"Tos"_s);
@@ -294,7 +294,7 @@ TEST_F(Catalogues, TreatmentForAPatientAndTheBlankLineOfAClosedWindow)
                   u"Dosis para 10.000 gramos : 100,00 x dosis."_s);
         press(form, u"Command1"_s);
     });
-    const Renglon chosen = catalogos::eligeTratamiento(u"7"_s);
+    const ports::Renglon chosen = catalogos::eligeTratamiento(u"7"_s);
     EXPECT_EQ(chosen.nombre, u"Ibuprofeno"_s);
     EXPECT_EQ(QString::number(chosen.id),
               one(u"Select idTratamiento from Tratamientos where Descripcion = 'Ibuprofeno'"_s));
@@ -302,12 +302,12 @@ TEST_F(Catalogues, TreatmentForAPatientAndTheBlankLineOfAClosedWindow)
         choose(form, u"Ibuprofeno"_s);
         form.reject();
     });
-    EXPECT_EQ(catalogos::eligeTratamiento(u"7"_s), Renglon());
+    EXPECT_EQ(catalogos::eligeTratamiento(u"7"_s), ports::Renglon());
     onceOpen([](forms::Form &form) {
         control<QLineEdit>(form, u"mDato(0)"_s).setText(u"Reposo"_s);
         press(form, u"Command1"_s);
     });
-    EXPECT_EQ(catalogos::eligeTratamiento(u"7"_s), (Renglon{u"Reposo"_s, 0}));
+    EXPECT_EQ(catalogos::eligeTratamiento(u"7"_s), (ports::Renglon{u"Reposo"_s, 0}));
 }
 
 TEST_F(Catalogues, TreatmentCatalogueOpensAtTheNameInItsTag)

@@ -46,15 +46,18 @@ bool bookFromAnotherStation(const QString &path, const QString &patient, qint64 
 {
     const pid_t station = fork();
     if (station == 0) {
-        const bool booked = basic::ignoringErrors([&] {
+        int result = 1;
+        try {
             dao::Database own;
             own.open(path, false, false, MODULE11::conexionDeLaBase());
             dao::Recordset place =
                 own.openRecordset(u"Select * from Turnos where Paciente = '<Sin Asignar>' order by Hora"_s);
             turnos::ocupar(place, booking(patient, number));
             own.close();
-        });
-        _exit(booked ? 0 : 1);
+            result = 0;
+        } catch (const std::exception &) {
+        }
+        _exit(result);
     }
     int status = 1;
     waitpid(station, &status, 0);

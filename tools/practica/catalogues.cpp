@@ -24,7 +24,7 @@ Catalogues::Catalogues()
     read(consultas::Diagnosticos, u"DIAGPERSONALES"_s, u"idDiagPersonales"_s);
 }
 
-Renglon Catalogues::entry(consultas::Grupo group, const QString &name) const
+ports::Renglon Catalogues::entry(consultas::Grupo group, const QString &name) const
 {
     const auto found = keys_[group].find(name);
     if (found == keys_[group].end())

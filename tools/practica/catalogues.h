@@ -13,7 +13,7 @@ class Catalogues
 public:
     Catalogues();
 
-    Renglon entry(consultas::Grupo group, const QString &name) const; ///< throws std::runtime_error
+    ports::Renglon entry(consultas::Grupo group, const QString &name) const; ///< throws std::runtime_error
     bool has(consultas::Grupo group, const QString &name) const { return keys_[group].contains(name); }
 
 private:

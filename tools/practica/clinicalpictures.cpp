@@ -45,7 +45,7 @@ double from(Dice &dice, double lowest, double highest)
     return tenths(std::uniform_real_distribution<double>(lowest, highest)(dice));
 }
 
-bool contains(const std::vector<Renglon> &entries, const Renglon &entry)
+bool contains(const std::vector<ports::Renglon> &entries, const ports::Renglon &entry)
 {
     return std::find(entries.begin(), entries.end(), entry) != entries.end();
 }
@@ -114,14 +114,14 @@ const ClinicalPictures::Picture &ClinicalPictures::occurring(double months, QDat
 
 void ClinicalPictures::add(Episode &episode, Grupo group, const Choice &choice, double months, Dice &dice)
 {
-    std::vector<Renglon> possible;
+    std::vector<ports::Renglon> possible;
     for (const Treated &alternative : choice.alternatives)
         if (months >= alternative.firstAge)
             possible.push_back(alternative);
-    std::vector<Renglon> &entries = episode.entries[group];
+    std::vector<ports::Renglon> &entries = episode.entries[group];
     if (possible.empty() || !chance(dice, choice.share) || entries.size() == ranuras)
         return;
-    const Renglon &chosen =
+    const ports::Renglon &chosen =
         possible[static_cast<std::size_t>(between(dice, 0, static_cast<int>(possible.size()) - 1))];
     if (!contains(entries, chosen))
         entries.push_back(chosen);
@@ -136,15 +136,15 @@ Episode ClinicalPictures::at(int ageInDays, bool boy, QDate day, Dice &dice) con
         for (const Choice &choice : picture.choices[group])
             add(episode, group, choice, months, dice);
 
-    std::vector<Renglon> &symptoms = episode.entries[Sintomas];
+    std::vector<ports::Renglon> &symptoms = episode.entries[Sintomas];
     const bool fever = months >= firstMonthWithFever && chance(dice, picture.fever);
     if (fever) {
         episode.temperature = from(dice, 38, 39.6);
         std::erase(symptoms, lowFever_);
         if (!contains(symptoms, fever_) && symptoms.size() < ranuras)
             symptoms.push_back(fever_);
-        const std::vector<Renglon> &given = episode.entries[Tratamientos];
-        const auto lowers = [&](const Renglon &treatment) { return contains(given, treatment); };
+        const std::vector<ports::Renglon> &given = episode.entries[Tratamientos];
+        const auto lowers = [&](const ports::Renglon &treatment) { return contains(given, treatment); };
         if (std::none_of(antipyretic_.alternatives.begin(), antipyretic_.alternatives.end(), lowers))
             add(episode, Tratamientos, antipyretic_, months, dice);
     } else if (contains(symptoms, lowFever_)) {

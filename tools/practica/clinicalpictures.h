@@ -33,7 +33,7 @@ public:
     Episode at(int ageInDays, bool boy, QDate day, Dice &dice) const;
 
 private:
-    struct Treated : Renglon {
+    struct Treated : ports::Renglon {
         double firstAge = 0;
     };
     struct Choice {
@@ -54,7 +54,7 @@ private:
                     Dice &dice);
 
     std::vector<Picture> pictures_;
-    Renglon fever_, lowFever_;
+    ports::Renglon fever_, lowFever_;
     Choice antipyretic_;
 };
 

@@ -1,7 +1,7 @@
 #include "clinical/catalogues/dosis.h"
 
+#include "core/services/paciente.h"
 #include "core/session/session.h"
-#include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
 
 #include <cmath>
@@ -13,11 +13,10 @@ namespace
 {
 
 /// In grams, 0 where it was not taken; nothing for a patient who was never measured.
-std::optional<double> ultimoPeso(const QString &paciente)
+std::optional<double> ultimoPeso(qint64 paciente)
 {
-    dao::Recordset medidas =
-        MODULE11::BaseDatos.openRecordset(u"select * from medidas where paciente = %1 order by fecha"_s.arg(
-            basic::format(*basic::toNumber(paciente), u"############")));
+    dao::Recordset medidas = MODULE11::BaseDatos.openRecordset(
+        u"select * from medidas where paciente = %1 order by fecha"_s.arg(paciente));
     if (medidas.eof())
         return {};
     medidas.moveLast();
@@ -30,12 +29,13 @@ QString catalogos::dosisParaElPaciente(const QString &paciente, const basic::Val
                                        const basic::Value &intervalo)
 {
     const QString sinDatos = u"Sin datos de la dosis para el paciente"_s;
-    if (!basic::isNumeric(paciente) || !dosis.isNumeric())
+    const auto numero = services::numeroDePaciente(paciente);
+    if (!numero || !dosis.isNumeric())
         return sinDatos;
     const std::optional<double> divisor = intervalo.isNull() ? 1.0 : basic::toNumber(intervalo.text());
     if (!divisor || *divisor == 0.0)
         return sinDatos;
-    const std::optional<double> peso = ultimoPeso(paciente);
+    const std::optional<double> peso = ultimoPeso(*numero);
     if (!peso)
         return sinDatos;
     const double valor = *basic::toNumber(dosis.text()) * *peso / 1000.0 / *divisor;

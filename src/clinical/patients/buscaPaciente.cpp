@@ -16,20 +16,21 @@ buscaPaciente::buscaPaciente()
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"PORHI"_s); });
 }
 
-bool BuscaEnPacientes(dao::Recordset &pacientes)
+std::optional<QString> BuscaEnPacientes(dao::Recordset &pacientes)
 {
     buscaPaciente dialogo;
     dialogo.showModal();
     QApplication::processEvents(); // the closing dialogue's place is painted before a long search
-    if (dialogo.tag() == u"PORAP")
-        return dialogo.mover(pacientes, u"Apellido y Nombres"_s);
-    if (dialogo.tag() != u"PORHI")
-        return true;
-    const auto numero = services::numeroDePaciente(dialogo.texto());
-    if (!numero)
-        return false;
-    pacientes.findFirst(u"[Numero] = "_s + QString::number(*numero));
-    return !pacientes.noMatch();
+    bool hallado = true;
+    if (dialogo.tag() == u"PORAP") {
+        hallado = dialogo.mover(pacientes, u"Apellido y Nombres"_s);
+    } else if (dialogo.tag() == u"PORHI") {
+        const auto numero = services::numeroDePaciente(dialogo.texto());
+        if (numero)
+            pacientes.findFirst(u"[Numero] = "_s + QString::number(*numero));
+        hallado = numero && !pacientes.noMatch();
+    }
+    return hallado ? std::nullopt : std::optional(dialogo.texto());
 }
 
 #include "moc_buscaPaciente.cpp"

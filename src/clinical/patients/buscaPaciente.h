@@ -2,6 +2,8 @@
 
 #include "core/services/dialogoBuscar.h"
 
+#include <optional>
+
 /// "Buscar Paciente": a name's beginning or a number. Answers "PORAP" or "PORHI".
 class buscaPaciente : public DialogoBuscar
 {
@@ -10,6 +12,6 @@ public:
     buscaPaciente();
 };
 
-/// Asks for the start of a name or a number and moves the recordset of patients to it. False when there is no
-/// such patient; where nothing was asked for, the row stays.
-bool BuscaEnPacientes(dao::Recordset &pacientes);
+/// Asks for the start of a name or a number and moves the recordset of patients to it. The text when there is
+/// no such patient; where nothing was asked for, the row stays.
+std::optional<QString> BuscaEnPacientes(dao::Recordset &pacientes);

@@ -180,12 +180,14 @@ void panSelPaciente::mostrarElegido()
 
 void panSelPaciente::command1Click()
 {
-    bool hallado = true;
-    Data1.change([&](dao::Recordset &pacientes) { hallado = BuscaEnPacientes(pacientes); });
-    if (hallado)
+    std::optional<QString> sinHallar;
+    Data1.change([&](dao::Recordset &pacientes) { sinHallar = BuscaEnPacientes(pacientes); });
+    if (!sinHallar)
         return;
     Data1.chooseNone();
-    MODULE11::Aviso(u"Sin coincidencias"_s);
+    const QSignalBlocker silencio(Text2);
+    Text2.setText(*sinHallar);
+    Text2.setFound(false);
 }
 
 void panSelPaciente::command2Click()

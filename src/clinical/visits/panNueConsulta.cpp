@@ -213,14 +213,9 @@ void panNueConsulta::anotarNormal()
 }
 
 /// The signs must be numbers, so the person is led through each one left blank; it then stands at 0. An hour
-/// that is none would not be stored: it is put right first.
+/// that is none is not stored, which the person is told before.
 void panNueConsulta::command7Click()
 {
-    if (const QString hora = mDato(cHora).text(); !hora.isEmpty() && !basic::isDate(hora)) {
-        msgBox(u"Dato mal ingresado !!"_s, Icon::Critical, u"Error"_s);
-        markWrong(mDato(cHora), u"Una hora como 10:30"_s);
-        return;
-    }
     for (int signo = 0; signo < signos_; ++signo) {
         if (basic::isNumeric(Text3(signo).text()))
             continue;
@@ -228,6 +223,12 @@ void panNueConsulta::command7Click()
         Text3(signo).setText(u"0"_s);
         Text3(signo).setFocus();
         Text3(signo).selectAll(); // so that what is typed next replaces it
+        return;
+    }
+    const QString hora = mDato(cHora).text();
+    if (!hora.isEmpty() && !basic::isDate(hora) &&
+        !MODULE11::PreguntaSiBorra(u"«%1» no es una hora. ¿Guarda la consulta sin la hora?"_s.arg(hora))) {
+        markWrong(mDato(cHora), u"Una hora como 10:30"_s);
         return;
     }
     answer(u"SI"_s);

@@ -254,9 +254,14 @@ void panVisitas::mostrarListas()
 /// A professional sees the own findings only, and two visits of one day show each other's.
 void panVisitas::leerExamen()
 {
+    const QString fecha = textoDeFecha();
+    if (fecha.isEmpty()) {
+        sinExamen();
+        return;
+    }
     Data3.setRecordSource(
         u"Select * from ExFisico where Dr = %1 and idPaciente = %2 and Fecha = cdate('%3')"_s.arg(
-            dao::quoted(MODULE11::DrActual), tag(), textoDeFecha()));
+            dao::quoted(MODULE11::DrActual), tag(), fecha));
     Data3.refresh();
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/session/session.h"
 #include "platform/basic/errors.h"
+#include "platform/dao/sqltext.h"
 #include "platform/forms/boxes.h"
 
 using namespace Qt::StringLiterals;
@@ -153,9 +154,17 @@ constexpr const char *indicesDeVelocidad[] = {
     "CREATE INDEX idConsulta ON ExFisico (idConsulta)",
 };
 
+/// A statement that has taken effect fails, and so does one that names a column that never was.
+constexpr std::initializer_list<int> yaHecho = {
+    dao::Error::TableExists,   dao::Error::IndexExists,   dao::Error::FieldExists,
+    dao::Error::FieldNotFound, dao::Error::TableNotFound, dao::Error::ItemNotFound,
+    dao::Error::BadParameters, dao::Error::NotATable,     dao::Error::DuplicateKey};
+
+constexpr int largoDeClave = 60;
+
 void ejecuta(const QString &sentencia)
 {
-    basic::ignoringErrors([&] { BaseDatos.execute(sentencia); });
+    basic::ignoring(yaHecho, [&] { BaseDatos.execute(sentencia); });
 }
 
 template <std::size_t n>
@@ -165,53 +174,52 @@ void ejecuta(const char *const (&sentencias)[n])
         ejecuta(QString::fromUtf8(sentencia));
 }
 
-/// Gives a column of `Turnos` that is still `tamano` characters long its present 60; its values are lost.
+/// Gives a column of `Turnos` that is still `tamano` characters long its present 60; its values are lost. One
+/// that an upgrade of an older version, interrupted between the two steps, has left out comes back.
 void alargaCampoDeTurnos(const QString &campo, int tamano)
 {
-    basic::ignoringErrors([&] {
-        const dao::TableDef turnos = BaseDatos.tableDef(u"turnos");
-        const dao::FieldDef *columna = turnos.field(campo);
-        if (!columna || columna->size != tamano)
-            return;
+    const QString agregar = u"ALTER TABLE Turnos ADD COLUMN %1 TEXT(60)"_s.arg(campo);
+    const dao::TableDef turnos = BaseDatos.tableDef(u"turnos");
+    const dao::FieldDef *columna = turnos.field(campo);
+    if (columna && columna->size == tamano)
         ejecuta(u"ALTER TABLE Turnos DROP COLUMN "_s + campo);
-        ejecuta(u"ALTER TABLE Turnos ADD COLUMN %1 TEXT(60)"_s.arg(campo));
-    });
+    ejecuta(agregar);
 }
 
 /// Accounts of older versions have no type; they count as doctors.
 void reparaTipoDeUsuarios()
 {
-    basic::ignoringErrors([] {
-        dao::Recordset usuarios = BaseDatos.openRecordset(u"Select * from usuarios"_s);
-        for (; !usuarios.eof(); usuarios.moveNext()) {
-            if (!usuarios[u"Tipo"].isNull())
-                continue;
-            usuarios.edit();
-            usuarios[u"Tipo"] = u"M"_s;
-            usuarios.update();
-        }
-    });
+    ejecuta(u"UPDATE Usuarios SET Tipo = 'M' WHERE Tipo IS NULL"_s);
 }
 
 } // namespace
 
+/// All of it is one stroke: a station that is interrupted leaves the file as it was, and of two that start at
+/// once the second finds it done.
 void ActualizaBase()
 {
+    if (!BaseDatos.isOpen())
+        return;
+    dao::Batch lista(BaseDatos);
     ejecuta(antesDeLosEstados);
     for (const char *estado : estados)
-        basic::ignoringErrors([&] { AgregaEstadoTurno(QString::fromUtf8(estado)); });
+        basic::ignoring(yaHecho, [&] { AgregaEstadoTurno(QString::fromUtf8(estado)); });
     ejecuta(trasLosEstados);
-    alargaCampoDeTurnos(u"Coseguro"_s, 20);
-    alargaCampoDeTurnos(u"Motivo"_s, 50);
+    basic::ignoring(yaHecho, [] {
+        alargaCampoDeTurnos(u"Coseguro"_s, 20);
+        alargaCampoDeTurnos(u"Motivo"_s, 50);
+    });
     ejecuta(trasLosTamanos);
     ejecuta(indicesDeVelocidad);
     reparaTipoDeUsuarios();
+    basic::ignoring(yaHecho, [] { BaseDatos.widenText(u"Usuarios"_s, u"Clave"_s, largoDeClave); });
+    lista.commit();
 }
 
 void AgregaEstadoTurno(const QString &estado)
 {
     dao::Recordset filas =
-        BaseDatos.openRecordset(u"Select * from EstadosTurnos where estado = '%1'"_s.arg(estado));
+        BaseDatos.openRecordset(u"Select * from EstadosTurnos where estado = "_s + dao::quoted(estado));
     if (!filas.eof())
         return;
     filas.addNew();

@@ -11,7 +11,7 @@ panNueUsuario::panNueUsuario() : Form(u"panNueUsuario"_s)
 {
     setWindowTitle(u"Nuevo Usuario del sistema"_s);
     for (TextBox *clave : {&Text2, &Text3})
-        clave->setEchoMode(QLineEdit::Password);
+        clave->setSecret();
     Command1.setDefault(true);
     setContents(this, Column{
                           Fields{{u"&Nombre :"_s, Text1},
@@ -32,6 +32,8 @@ void panNueUsuario::load()
 {
     Combo1.addItems(MODULE11::entradasDeNivel());
     Combo2.addItems(MODULE11::tiposDeUsuario);
+    for (ComboBox *combo : {&Combo1, &Combo2})
+        combo->setCurrentIndex(0);
 }
 
 void panNueUsuario::activate()

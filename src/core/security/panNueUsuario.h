@@ -27,8 +27,8 @@ private:
     forms::TextBox Text1{QStringLiteral("Text1"), 50};
     forms::ComboBox Combo1{QStringLiteral("Combo1")};
     forms::ComboBox Combo2{QStringLiteral("Combo2")};
-    forms::TextBox Text2{QStringLiteral("Text2"), 30};
-    forms::TextBox Text3{QStringLiteral("Text3"), 30};
+    forms::TextBox Text2{QStringLiteral("Text2"), 60};
+    forms::TextBox Text3{QStringLiteral("Text3"), 60};
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Aceptar"),
                                   QStringLiteral("aceptar")};
     forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("&Cancelar"),

@@ -38,7 +38,7 @@ private:
     forms::DBGrid DBGrid1{QStringLiteral("DBGrid1")};
     forms::TextBox Text1{QStringLiteral("Text1"), 50};
     forms::TextBox Text2{QStringLiteral("Text2"), 4};
-    forms::TextBox Text3{QStringLiteral("Text3"), 30};
+    forms::TextBox Text3{QStringLiteral("Text3")};
     forms::ComboBox Combo1{QStringLiteral("Combo1")};
     forms::ComboBox Combo2{QStringLiteral("Combo2")};
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Nuevo..."),

@@ -1,9 +1,10 @@
 #include "core/session/login.h"
 
+#include "core/security/eventos.h"
 #include "core/security/niveles.h"
 #include "core/session/session.h"
 #include "core/windows/panIngresoUsuario.h"
-#include "platform/basic/errors.h"
+#include "platform/basic/environment.h"
 #include "platform/dao/sqltext.h"
 #include "platform/forms/boxes.h"
 
@@ -26,6 +27,14 @@ void error(const QString &texto, const QString &titulo = u"Error"_s)
 
 enum class Intento { Aceptado, Repetir, Rechazado };
 
+/// Who tried to enter, and could not, is of interest to the owner.
+Intento rechazar(const panIngresoUsuario &ventana, const QString &motivo, Intento resultado)
+{
+    RegistraEvento(u"INGRESO AL SISTEMA"_s, ventana.usuario(), basic::today(), basic::time(), motivo);
+    error(motivo);
+    return resultado;
+}
+
 /// One pass through the login window.
 Intento intentar(panIngresoUsuario &ventana)
 {
@@ -38,17 +47,15 @@ Intento intentar(panIngresoUsuario &ventana)
     dao::Recordset usuarios =
         BaseDatos.openRecordset(u"Select * from usuarios where nombre = "_s + dao::quoted(ventana.usuario()));
     if (usuarios.eof()) {
-        error(u"Usuario no registrado en el sistema."_s);
-        return Intento::Repetir;
+        return rechazar(ventana, u"Usuario no registrado en el sistema."_s, Intento::Repetir);
     }
     const int nivel = static_cast<int>(usuarios[u"Nivel"].integer());
     if (nivel >= suspendido) {
-        error(u"Usuario Suspendido para el ingreso al sistema"_s);
-        return Intento::Rechazado;
+        return rechazar(ventana, u"Usuario Suspendido para el ingreso al sistema"_s, Intento::Rechazado);
     }
     if (usuarios[u"clave"].text() != ventana.clave()) {
-        error(u"Clave de acceso errónea."_s);
-        return Intento::Repetir;
+        ventana.pedirClave();
+        return rechazar(ventana, u"Clave de acceso errónea."_s, Intento::Repetir);
     }
     NivelActual = nivel;
     UsuarioActual = usuarios[u"Nombre"].text();
@@ -58,11 +65,10 @@ Intento intentar(panIngresoUsuario &ventana)
     return Intento::Aceptado;
 }
 
+/// "No users" is a table that was read and is empty; one that cannot be read lets nobody in.
 bool hayUsuarios()
 {
-    bool hay = false;
-    basic::ignoringErrors([&] { hay = !BaseDatos.openRecordset(u"Usuarios"_s).eof(); });
-    return hay;
+    return BaseDatos.isOpen() && !BaseDatos.openRecordset(u"Usuarios"_s).eof();
 }
 
 } // namespace

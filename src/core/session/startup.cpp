@@ -34,18 +34,71 @@ constexpr double anchoMinimo = 12000; // twips
 const QString tablaPorOmision = u"POSRECETARIO"_s;
 const QString claveDelRecetario = u"Archivo de configuraciones de la receta"_s;
 
+/// Why a table for the layout may not be made; the default one then serves.
+constexpr std::initializer_list<int> sinTablaPropia = {dao::Error::TableExists, dao::Error::IndexExists,
+                                                       dao::Error::Locked, dao::Error::ReadOnly,
+                                                       dao::Error::DiskFull};
+
 void escribirSiVacio(const QString &clave, const QString &valor)
 {
     if (settings::getSetting(u"Configuracion"_s, clave).isEmpty())
         settings::saveSetting(u"Configuracion"_s, clave, valor);
 }
 
-void abrirBase()
+constexpr int pacienciaAlEmpezar = 4000; // milliseconds: nobody looks at a window that does not answer
+constexpr int pacienciaAlTrabajar = 15000;
+
+QString motivo(const dao::Error &error)
+{
+    return error.number() == dao::Error::Locked ? u"El archivo está en uso por otra terminal."_s
+                                                : error.description();
+}
+
+/// Does what start-up needs of the practice's file; what cannot be read now is told, to try again. False when
+/// the person leaves: without it nobody may be let in.
+template <class Work>
+bool conLaBase(Work &&work)
+{
+    while (true) {
+        try {
+            work();
+            return true;
+        } catch (const dao::Error &error) {
+            const QString texto = u"No se puede usar la base de datos %1.\n%2"_s.arg(
+                basic::programFile(u"BASE.MDB"_s), motivo(error));
+            if (!forms::retryBox(texto, u"Base de datos"_s, u"&Salir"_s))
+                return false;
+        }
+    }
+}
+
+/// Without the file in the folder start-up goes on in silence.
+void abrirArchivo()
+{
+    BaseDatos.setPatience(pacienciaAlEmpezar);
+    basic::ignoring({dao::Error::FileNotFound},
+                    [] { BaseDatos.open(u"BASE.MDB"_s, false, false, conexionDeLaBase()); });
+}
+
+bool abrirBase()
 {
     QDir::setCurrent(basic::programFolder());
-    basic::ignoringErrors([] { BaseDatos.open(u"BASE.MDB"_s, false, false, conexionDeLaBase()); });
+    const bool abierta = conLaBase(abrirArchivo);
     settings::saveSetting(u"Sanirell!"_s, u"Ruta"_s, u"Ruta"_s, basic::programFolder() + u"\\BASE.MDB"_s);
     escribirSiVacio(u"Abrir ficha paciente"_s, u"FICHA GLOBAL"_s);
+    return abierta;
+}
+
+/// A file that can only be read keeps what it has.
+bool actualizarBase()
+{
+    return conLaBase([] { basic::ignoring({dao::Error::ReadOnly}, ActualizaBase); });
+}
+
+bool entrar()
+{
+    bool entro = false;
+    return conLaBase([&entro] { entro = ingresar(); }) && entro;
 }
 
 void importar()
@@ -83,7 +136,7 @@ void elegirDoctorDelEquipo()
 {
     const QString consulta = u"Select * from profesionales where nombre = "_s + dao::quoted(DrActual);
     basic::Value nombre; // a look-up that fails leaves it empty, which is not Null
-    basic::ignoringErrors([&] { nombre = BuscaCampo(consulta, u"Nombre"); });
+    basic::ignoring(dao::fileTrouble, [&] { nombre = BuscaCampo(consulta, u"Nombre"); });
     if (!nombre.isNull())
         return;
     panSelProf seleccion;
@@ -94,7 +147,7 @@ void elegirDoctorDelEquipo()
 
 void enlazarUsuarioConProfesional()
 {
-    basic::ignoringErrors([] {
+    basic::ignoring(dao::fileTrouble, [] {
         const QString consulta =
             u"Select nombre,idUsuario from profesionales where idusuario = %1"_s.arg(IdUsuarioActual);
         if (!BuscaCampo(consulta, u"idUsuario").isNull())
@@ -120,7 +173,7 @@ void prepararRecetario()
     QString nombre = settings::getSetting(u"Configuracion"_s, claveDelRecetario);
     if (nombre.isEmpty()) {
         nombre = u"TblRec_"_s + basic::sqlNumber(basic::timer()).remove(u'.');
-        const bool creada = basic::ignoringErrors([&] {
+        const bool creada = basic::ignoring(sinTablaPropia, [&] {
             BaseDatos.execute(
                 u"CREATE TABLE [%1] (Elemento LONG, Valor TEXT(100), [Posicion X] Long, [Posicion Y] Long, Fuente TEXT(40), [Tamaño] LONG, Bold BIT, Italic BIT, Subrayado BIT, Fecha BIT, Grafico BIT)"_s
                     .arg(nombre));
@@ -160,21 +213,28 @@ std::unique_ptr<Vademecum> iniciar(const QString &comando)
         portada presentacion;
         presentacion.showModal();
     }
-    abrirBase();
+    if (!abrirBase()) {
+        terminar();
+        return nullptr;
+    }
     if (comando.toUpper() == u"IMPORTAR") {
         importar();
         return nullptr;
     }
-    ActualizaBase();
-    basic::ignoringErrors(prepararRecetario);
+    if (!actualizarBase()) {
+        terminar();
+        return nullptr;
+    }
+    prepararRecetario();
     avisarPantallaChica();
     elegirDoctorDelEquipo();
     escribirSiVacio(u"AplicacionEdicionImagenes"_s, u"C:\\WINDOWS\\SYSTEM32\\MSPAINT.EXE"_s);
     sinUsuario();
-    if (!ingresar()) {
+    if (!entrar()) {
         terminar();
         return nullptr;
     }
+    BaseDatos.setPatience(pacienciaAlTrabajar);
     enlazarUsuarioConProfesional();
     principal->show();
     return principal;

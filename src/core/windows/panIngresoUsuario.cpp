@@ -1,12 +1,14 @@
 #include "core/windows/panIngresoUsuario.h"
 
 #include "core/services/services.h"
-#include "platform/dao/error.h"
 #include "platform/basic/environment.h"
 #include "platform/basic/errors.h"
+#include "platform/dao/error.h"
 #include "platform/forms/layout.h"
 #include "platform/forms/twips.h"
 #include "platform/settings/settings.h"
+
+#include <QKeyEvent>
 
 using namespace Qt::StringLiterals;
 using namespace forms;
@@ -21,7 +23,7 @@ constexpr double altoConTurnos = 4305; // twips
 panIngresoUsuario::panIngresoUsuario() : Form(u"panIngresoUsuario"_s)
 {
     setWindowTitle(u"Ingreso al sistema"_s);
-    Text2.setEchoMode(QLineEdit::Password);
+    Text2.setSecret();
     Label3.setWordWrap(true);
     Label3.setEnabled(false);
     Frame1.hide();
@@ -44,13 +46,33 @@ void panIngresoUsuario::load()
     Frame1.show();
     dt1.setValue(basic::today());
     basic::ignoring(dao::fileTrouble,
-        [this] { MODULE11::LlenaLista(Combo2, u"Select * from Profesionales"_s, u"Nombre"); });
+                    [this] { MODULE11::LlenaLista(Combo2, u"Select * from Profesionales"_s, u"Nombre"); });
     setMinimumHeight(static_cast<int>(toPixels(altoConTurnos)));
 }
 
 void panIngresoUsuario::activate()
 {
-    Text1.setFocus();
+    if (pideClave_)
+        Text2.setFocus();
+    else
+        Text1.setFocus();
+    pideClave_ = false;
+}
+
+void panIngresoUsuario::pedirClave()
+{
+    pideClave_ = true;
+    Text2.selectAll();
+}
+
+/// From the name Enter goes on to the password.
+void panIngresoUsuario::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && Text1.hasFocus() && !Text1.text().isEmpty() && Text2.text().isEmpty())
+        Text2.setFocus();
+    else
+        Form::keyPressEvent(event);
 }
 
 #include "moc_panIngresoUsuario.cpp"

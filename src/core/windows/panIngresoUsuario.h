@@ -17,13 +17,17 @@ public:
     basic::Date fechaDeTurnos() const { return dt1.value(); }
     QString profesionalDeTurnos() const { return Combo2.value(); }
 
+    /// The next time it is shown the focus is on the password.
+    void pedirClave();
+
 protected:
     void load() override;
     void activate() override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    forms::TextBox Text1{QStringLiteral("Text1")};
-    forms::TextBox Text2{QStringLiteral("Text2")};
+    forms::TextBox Text1{QStringLiteral("Text1"), 50};
+    forms::TextBox Text2{QStringLiteral("Text2"), 60};
     forms::Label Label3{
         QStringLiteral("Label3"),
         QStringLiteral("Instalación nueva: el usuario es \"supervisor\" y la clave \"supervisor\".")};
@@ -34,4 +38,5 @@ private:
                                   QStringLiteral("aceptar")};
     forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("&Cancelar"),
                                   QStringLiteral("cancelar")};
+    bool pideClave_ = false;
 };

@@ -44,16 +44,4 @@ bool ignoring(std::initializer_list<int> expected, Statement &&statement)
     }
 }
 
-/// Runs one statement whose failure the rule skips; true when it went through.
-template <class Statement>
-bool ignoringErrors(Statement &&statement)
-{
-    try {
-        statement();
-        return true;
-    } catch (const Error &) {
-        return false;
-    }
-}
-
 } // namespace basic

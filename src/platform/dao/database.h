@@ -42,6 +42,13 @@ public:
     /// Runs one DDL or action statement; throws Error. Returns the rows affected.
     qint64 execute(const QString &sql);
 
+    /// How long a station that finds the file held by another waits for it before it fails with Locked.
+    void setPatience(int ms);
+
+    /// Makes a column of texts hold longer ones; its values stay. One that holds as much already stays as it
+    /// is.
+    void widenText(const QString &table, const QString &column, int size);
+
     QStringList tableNames() const;      ///< in Spanish order, without the engine's own
     TableDef tableDef(QStringView name); ///< throws Error::ItemNotFound
     void createQuery(const QString &name,

@@ -102,6 +102,18 @@ bool askBox(const QString &text, const QString &title, Answer fallback, Icon ico
     return box.clickedButton() == yes;
 }
 
+bool retryBox(const QString &text, const QString &title, const QString &otherwise)
+{
+    QMessageBox box(owner());
+    dressMessage(box, text, Icon::Exclamation, title);
+    QPushButton *again = box.addButton(QStringLiteral("&Reintentar"), QMessageBox::AcceptRole);
+    QPushButton *other = box.addButton(otherwise, QMessageBox::RejectRole);
+    box.setDefaultButton(again);
+    box.setEscapeButton(other);
+    box.exec();
+    return box.clickedButton() == again;
+}
+
 std::optional<bool> askOrCancelBox(const QString &text, const QString &title, Icon icon)
 {
     QMessageBox box(owner());

@@ -22,6 +22,9 @@ enum class Answer { Yes, No };
 /// "Sí" and "No"; true on "Sí".
 bool askBox(const QString &text, const QString &title, Answer fallback = Answer::Yes,
             Icon icon = Icon::Question);
+/// "Reintentar" and the other caption; true on "Reintentar".
+bool retryBox(const QString &text, const QString &title, const QString &otherwise);
+
 /// "Sí", "No" and "Cancelar"; empty when cancelled.
 std::optional<bool> askOrCancelBox(const QString &text, const QString &title, Icon icon = Icon::Exclamation);
 /// A prompt for one text with "Aceptar" and "Cancelar"; empty when cancelled.

@@ -241,6 +241,9 @@ void Document::endDoc()
 {
     if (d_->painter.isActive() && !d_->painter.end())
         throw basic::Error(printerError, QStringLiteral("Error de impresora."));
+    // What is printed of a patient is for whoever printed it.
+    if (const QString file = d_->printer.outputFileName(); !file.isEmpty())
+        QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner);
 }
 
 } // namespace printing

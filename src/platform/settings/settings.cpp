@@ -1,6 +1,7 @@
 #include "platform/settings/settings.h"
 
 #include <QDir>
+#include <QFile>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -40,6 +41,7 @@ void saveSetting(const QString &application, const QString &section, const QStri
     QSettings store(storeFile(), QSettings::IniFormat);
     store.setValue(path(application, section, key), value);
     store.sync();
+    QFile::setPermissions(store.fileName(), QFile::ReadOwner | QFile::WriteOwner);
 }
 
 QString applicationTitle()

@@ -103,12 +103,12 @@ void panNueTurno::proponer(const QString &cobertura, const QString &profesional)
     forms::setTag(&Combo2, profesional);
 }
 
-/// "Ver el día..." could only choose another hour than the one that is given.
+/// "Ver el día..." still shows the day, but takes no other hour from it.
 void panNueTurno::fijarLugar(basic::Date fecha, const QString &hora)
 {
     mFecha.setValue(fecha);
     mHora.setText(hora);
-    for (QWidget *control : std::initializer_list<QWidget *>{&mFecha, &mHora, &Command3})
+    for (QWidget *control : std::initializer_list<QWidget *>{&mFecha, &mHora})
         control->setEnabled(false);
 }
 
@@ -356,7 +356,7 @@ void panNueTurno::command3Click()
         return;
     panDispTurnos disponibles(mFecha.value(), *id);
     disponibles.showModal();
-    if (disponibles.tag() == u"SI")
+    if (disponibles.tag() == u"SI" && mHora.isEnabled())
         mHora.setText(disponibles.hora());
 }
 

@@ -3,7 +3,9 @@
 
 #include "subsystems.h"
 
+#include "core/database/actualiza.h"
 #include "core/session/ending.h"
+#include "core/session/session.h"
 #include "core/session/startup.h"
 #include "core/windows/Vademecum.h"
 
@@ -23,8 +25,15 @@ public:
     void deliver(const QString &folder, bool withDatabase) override
     {
         guion::copyDelivered(QStringLiteral(DELIVERED), folder);
-        if (!withDatabase)
-            QFile::remove(QDir(folder).filePath(databaseFile()));
+        const QString base = QDir(folder).filePath(databaseFile());
+        if (!withDatabase) {
+            QFile::remove(base);
+            return;
+        }
+        MODULE11::valoresIniciales();
+        MODULE11::BaseDatos.open(base, false, false, connect());
+        MODULE11::ActualizaBase();
+        MODULE11::BaseDatos.close();
     }
 
     bool start(const QString &word) override

@@ -193,6 +193,7 @@ TEST(Style, wheelTurnsOnlyTheFieldInUse)
 {
     forms::Style style;
     forms::ComboBox combo(u"Combo1"_s, {u"uno"_s, u"dos"_s});
+    combo.setCurrentIndex(0);
     forms::DTPicker date(u"mFecha"_s);
     date.setDate(QDate(2024, 3, 15));
     for (QWidget *field : {static_cast<QWidget *>(&combo), static_cast<QWidget *>(&date)}) {

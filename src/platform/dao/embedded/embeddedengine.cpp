@@ -15,20 +15,8 @@ namespace dao
 namespace
 {
 
-constexpr int longestWaitMs = 60000;
-
-/// Another station holds the file. Stations that write without pause leave it free for moments only, so the
-/// file is asked for often, at irregular times: the engine's own ever longer naps would miss them all.
-int waitForTheFile(void *since, int attempts)
-{
-    auto &timer = *static_cast<QElapsedTimer *>(since);
-    if (attempts == 0)
-        timer.start();
-    if (timer.elapsed() > longestWaitMs)
-        return 0;
-    QThread::usleep(static_cast<unsigned long>(QRandomGenerator::global()->bounded(300, 3000)));
-    return 1;
-}
+/// Set by whoever meets a damaged page on a connection, which then reads nothing more.
+constexpr char spoiledMark[] = "dañado";
 
 class EmbeddedStatement final : public EngineStatement
 {
@@ -68,8 +56,8 @@ public:
 
     void bindText(int parameter, QByteArrayView utf8) override
     {
-        sqlite3_bind_text(statement_, parameter + 1, utf8.data(), static_cast<int>(utf8.size()),
-                          SQLITE_TRANSIENT);
+        const char *text = utf8.isNull() ? "" : utf8.data(); // no address would bind a Null
+        sqlite3_bind_text(statement_, parameter + 1, text, static_cast<int>(utf8.size()), SQLITE_TRANSIENT);
     }
 
     void bind(int parameter, qint64 key) override { sqlite3_bind_int64(statement_, parameter + 1, key); }
@@ -160,6 +148,7 @@ Error engineError(sqlite3 *db, int code)
         return {Error::NotADatabase, QStringLiteral("El archivo no tiene el formato de una base de datos.")};
     case SQLITE_CORRUPT:
     case SQLITE_NOMEM: // what the cipher makes of a page that does not decipher
+        sqlite3_set_clientdata(db, spoiledMark, db, nullptr);
         return {Error::FileDamaged, QStringLiteral("El archivo de la base de datos está dañado.")};
     case SQLITE_CONSTRAINT:
         if (extended == SQLITE_CONSTRAINT_UNIQUE || extended == SQLITE_CONSTRAINT_PRIMARYKEY ||
@@ -190,7 +179,7 @@ void EmbeddedEngine::Close::operator()(sqlite3 *db) const
 }
 
 EmbeddedEngine::EmbeddedEngine(const QString &path, const QByteArray &key, const Options &options)
-    : enciphered_(!key.isEmpty())
+    : queue_(path), enciphered_(!key.isEmpty())
 {
     const int flags = options.readOnly ? SQLITE_OPEN_READONLY
                                        : SQLITE_OPEN_READWRITE | (options.create ? SQLITE_OPEN_CREATE : 0);
@@ -198,6 +187,7 @@ EmbeddedEngine::EmbeddedEngine(const QString &path, const QByteArray &key, const
     const int code = sqlite3_open_v2(QFile::encodeName(path).constData(), &db,
                                      flags | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX, nullptr);
     db_.reset(db);
+    waiting_.patienceMs = options.patienceMs;
     if (code != SQLITE_OK)
         throw Error(options.create ? Error::ReadOnly : Error::FileNotFound,
                     QStringLiteral("No se pudo abrir el archivo '%1'.").arg(QDir::toNativeSeparators(path)));
@@ -212,6 +202,8 @@ EmbeddedEngine::EmbeddedEngine(const QString &path, const QByteArray &key, const
     run("PRAGMA cache_size = -65536; PRAGMA foreign_keys = OFF; PRAGMA temp_store = MEMORY");
     if (options.create)
         run("CREATE TABLE \"_consultas\" (nombre TEXT PRIMARY KEY COLLATE ESPANOL, texto TEXT)");
+    if (options.salvage)
+        run("PRAGMA writable_schema = ON"); // else a file shorter than its first page says is refused whole
     run("SELECT count(*) FROM sqlite_schema");
     if (options.exclusive)
         run("PRAGMA locking_mode = EXCLUSIVE");
@@ -257,7 +249,13 @@ qint64 EmbeddedEngine::changes()
 
 void EmbeddedEngine::begin()
 {
-    run("BEGIN IMMEDIATE");
+    takeTurn();
+    try {
+        run("BEGIN IMMEDIATE");
+    } catch (...) {
+        giveTurn();
+        throw;
+    }
 }
 
 void EmbeddedEngine::beginRead()
@@ -268,12 +266,42 @@ void EmbeddedEngine::beginRead()
 void EmbeddedEngine::commit()
 {
     run("COMMIT");
+    giveTurn();
 }
 
 void EmbeddedEngine::rollback() noexcept
 {
     if (inTransaction())
         sqlite3_exec(db_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
+    giveTurn();
+}
+
+void EmbeddedEngine::takeTurn()
+{
+    queue_.enter(waiting_.patienceMs);
+}
+
+void EmbeddedEngine::giveTurn() noexcept
+{
+    queue_.leave();
+}
+
+bool EmbeddedEngine::spoiled() const
+{
+    return sqlite3_get_clientdata(db_.get(), spoiledMark) != nullptr;
+}
+
+/// Another station holds the file. Stations that write without pause leave it free for moments only, so the
+/// file is asked for often, at irregular times: the engine's own ever longer naps would miss them all.
+int EmbeddedEngine::waitForTheFile(void *waiting, int attempts)
+{
+    auto &own = *static_cast<Waiting *>(waiting);
+    if (attempts == 0)
+        own.since.start();
+    if (own.since.elapsed() > own.patienceMs)
+        return 0;
+    QThread::usleep(static_cast<unsigned long>(QRandomGenerator::global()->bounded(300, 3000)));
+    return 1;
 }
 
 bool EmbeddedEngine::inTransaction() const
@@ -328,7 +356,7 @@ QStringList EmbeddedEngine::check()
 std::unique_ptr<EmbeddedEngine> openEmbedded(const QString &path, const QString &password,
                                              const EmbeddedEngine::Options &options)
 {
-    requireDatabaseFile(path);
+    requireDatabaseFile(path, options.salvage);
     const bool plain = isPlainDatabase(path);
     const QByteArray key = plain || password.isEmpty() ? QByteArray() : rawKey(password, saltOf(path));
     try {

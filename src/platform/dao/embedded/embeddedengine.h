@@ -2,6 +2,7 @@
 
 #include "platform/dao/engine/engine.h"
 
+#include "platform/dao/embedded/turn.h"
 #include "platform/dao/error.h"
 #include <QElapsedTimer>
 
@@ -19,6 +20,8 @@ public:
         bool create = false;
         bool exclusive = false;
         bool readOnly = false;
+        int patienceMs = 15000;
+        bool salvage = false; ///< a file that was cut or has pages too many opens too
     };
 
     /// `key` as rawKey() gives it; empty for a file without a password.
@@ -28,6 +31,8 @@ public:
     std::unique_ptr<EngineStatement> prepare(const QString &sql) override;
     qint64 lastKey() override;
     qint64 changes() override;
+    void takeTurn() override;
+    void giveTurn() noexcept override;
     void begin() override;
     void beginRead() override;
     void commit() override;
@@ -42,11 +47,14 @@ public:
     void dropIndex(const Table &table, const IndexDef &index) override;
     void addColumn(const Table &table, const FieldDef &column) override;
     void dropColumn(const Table &table, int ordinal) override;
+    void changeColumn(const Table &table, const FieldDef &column) override;
     void saveQuery(const QString &name, const QString &text) override;
     Table createScratchTable(const std::vector<FieldDef> &columns) override;
     void dropScratchTable(const Table &table) noexcept override;
     QStringList check() override;
     bool readOnly() const override;
+    bool spoiled() const override;
+    void setPatience(int ms) override { waiting_.patienceMs = ms; }
 
     /// Runs statements of the engine without results.
     void run(const QByteArray &sql);
@@ -57,10 +65,17 @@ private:
         void operator()(sqlite3 *db) const;
     };
 
+    static int waitForTheFile(void *waiting, int attempts);
     void rebuild(const Table &table, const std::vector<FieldDef> &columns);
     qint64 number(std::unique_ptr<EngineStatement> &statement, const char16_t *sql);
 
-    QElapsedTimer waiting_; ///< since another station was found to hold the file
+    /// For another station that was found to hold the file.
+    struct Waiting {
+        QElapsedTimer since;
+        int patienceMs = 15000;
+    };
+    Waiting waiting_;
+    WriteQueue queue_;
     std::unique_ptr<sqlite3, Close> db_;
     std::unique_ptr<EngineStatement> schemaVersion_, dataVersion_;
     bool enciphered_ = false;

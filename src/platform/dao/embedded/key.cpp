@@ -105,7 +105,7 @@ bool isPlainDatabase(const QString &path)
     return headOf(path, saltSize) == QByteArray("SQLite format 3\0", saltSize);
 }
 
-void requireDatabaseFile(const QString &path)
+void requireDatabaseFile(const QString &path, bool maybeCut)
 {
     const QFileInfo info(path);
     const QString shown = QDir::toNativeSeparators(path);
@@ -120,7 +120,7 @@ void requireDatabaseFile(const QString &path)
     if (head.size() < saltSize || isOtherKind(head) || (!isPlainDatabase(path) && !looksEnciphered(head)))
         throw Error(Error::NotADatabase,
                     QStringLiteral("El archivo '%1' no tiene el formato de una base de datos.").arg(shown));
-    if (info.size() % 512 != 0 || info.size() < 512)
+    if (!maybeCut && (info.size() % 512 != 0 || info.size() < 512))
         throw Error(Error::FileDamaged,
                     QStringLiteral("El archivo '%1' está incompleto o dañado.").arg(shown));
 }

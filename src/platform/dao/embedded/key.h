@@ -19,8 +19,8 @@ QByteArray freshSalt();
 QByteArray rawKey(const QString &password, const QByteArray &salt);
 
 /// What can be told of a file without its key. Throws FileNotFound or NotADatabase, and FileDamaged for a
-/// file that ends within a page.
-void requireDatabaseFile(const QString &path);
+/// file that ends within a page, unless it is to be mended.
+void requireDatabaseFile(const QString &path, bool maybeCut = false);
 /// The file is a database without a password.
 bool isPlainDatabase(const QString &path);
 

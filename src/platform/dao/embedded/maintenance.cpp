@@ -82,12 +82,12 @@ private:
     void reopen()
     {
         source_.reset(); // a connection that has met a damaged page reads no more
-        source_ = openEmbedded(from_, password_, {.readOnly = true});
+        source_ = openEmbedded(from_, password_, {.readOnly = true, .salvage = true});
     }
 
     void copyIndex(const Table &table, IndexDef index)
     {
-        if (basic::ignoringErrors([&] { to_.createIndex(table, index); }))
+        if (basic::ignoring({Error::DuplicateKey}, [&] { to_.createIndex(table, index); }))
             return;
         // Better a row too many than one lost: what was unique in a sound file may not be in this one.
         index.unique = false;
@@ -98,7 +98,7 @@ private:
     {
         constexpr qint64 beyondAny = qint64(1) << 40;
         qint64 highest = beyondAny;
-        const bool read = basic::ignoringErrors([&] {
+        const bool read = basic::ignoring({Error::FileDamaged, Error::Engine}, [&] {
             const auto statement =
                 source_->prepare(QStringLiteral("SELECT seq FROM sqlite_sequence WHERE name = ?"));
             statement->bind(0, table.name);
@@ -246,6 +246,10 @@ void repairDatabase(const QString &path, const QString &connect)
     QString aside = path + QStringLiteral(".dañada");
     for (int i = 2; QFile::exists(aside); ++i)
         aside = path + QStringLiteral(".dañada%1").arg(i);
+    // A journal of the damaged file must not be played back into the mended one.
+    const QString journal = path + QStringLiteral("-journal");
+    QFile::remove(aside + QStringLiteral("-journal"));
+    QFile::rename(journal, aside + QStringLiteral("-journal"));
     if (!QFile::rename(path, aside))
         throw Error(Error::ReadOnly, QStringLiteral("No se pudo apartar el archivo dañado."));
     try {

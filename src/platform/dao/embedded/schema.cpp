@@ -204,6 +204,13 @@ void EmbeddedEngine::dropColumn(const Table &table, int ordinal)
     rebuild(table, columns);
 }
 
+void EmbeddedEngine::changeColumn(const Table &table, const FieldDef &column)
+{
+    std::vector<FieldDef> columns = table.columns;
+    columns[static_cast<size_t>(table.ordinal(column.name))] = column;
+    rebuild(table, columns);
+}
+
 void EmbeddedEngine::rebuild(const Table &table, const std::vector<FieldDef> &columns)
 {
     const QString fresh = engineName(u"_nueva"_s);

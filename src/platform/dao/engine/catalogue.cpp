@@ -68,8 +68,8 @@ QStringList Catalogue::queryNames() const
 
 void Catalogue::reload()
 {
-    version_ = engine_.schemaVersion();
-    EngineCatalogue read = engine_.readCatalogue();
+    version_ = engine_->schemaVersion();
+    EngineCatalogue read = engine_->readCatalogue();
     tables_.clear();
     for (Table &table : read.tables) {
         const QString key = table.name.toCaseFolded();
@@ -83,7 +83,7 @@ void Catalogue::reload()
 
 bool Catalogue::refresh()
 {
-    if (engine_.schemaVersion() == version_)
+    if (engine_->schemaVersion() == version_)
         return false;
     reload();
     return true;

@@ -34,7 +34,8 @@ using TablePtr = std::shared_ptr<const Table>;
 class Catalogue
 {
 public:
-    explicit Catalogue(Engine &engine) : engine_(engine) {}
+    explicit Catalogue(Engine &engine) : engine_(&engine) {}
+    void setEngine(Engine &engine) { engine_ = &engine; } ///< over the same file
 
     TablePtr table(QStringView name) const; ///< null when there is none
     std::optional<QString> query(QStringView name) const;
@@ -48,7 +49,7 @@ public:
     int generation() const { return generation_; }
 
 private:
-    Engine &engine_;
+    Engine *engine_;
     QHash<QString, TablePtr> tables_;                     // by folded name
     QHash<QString, std::pair<QString, QString>> queries_; // name and text by folded name
     qint64 version_ = -1;

@@ -3,6 +3,8 @@
 #include "platform/dao/dialect/parser.h"
 #include "platform/dao/recordsets/recordsetprivate.h"
 
+#include <QScopeGuard>
+
 #include <chrono>
 #include <ctime>
 
@@ -27,8 +29,9 @@ bool isDefinition(const Statement &statement)
 
 } // namespace
 
-void DatabasePrivate::attach(std::unique_ptr<Engine> engine, const QString &path)
+void DatabasePrivate::attach(std::unique_ptr<Engine> engine, const QString &path, Opener opener)
 {
+    opener_ = std::move(opener);
     engine_ = std::move(engine);
     path_ = path;
     catalogue_ = std::make_unique<Catalogue>(*engine_);
@@ -54,7 +57,22 @@ Engine &DatabasePrivate::engine()
 {
     if (!engine_)
         throw Error(Error::Closed, QStringLiteral("La base de datos no está abierta."));
+    if (opener_ && engine_->spoiled() && !engine_->inTransaction())
+        revive();
     return *engine_;
+}
+
+/// One damaged page must not keep the rest of the file from being read.
+void DatabasePrivate::revive()
+{
+    for (RecordsetPrivate *recordset : recordsets_)
+        recordset->release();
+    prepared_.clear();
+    statements_.clear();
+    engine_ = opener_();
+    catalogue_->setEngine(*engine_);
+    dataVersion_ = engine_->dataVersion();
+    ++foreignChanges_;
 }
 
 Catalogue &DatabasePrivate::catalogue()
@@ -118,19 +136,42 @@ StatementPtr DatabasePrivate::bound(const EngineSql &sql)
     return made;
 }
 
+void DatabasePrivate::setPatience(int ms)
+{
+    patience_ = ms;
+    if (engine_)
+        engine_->setPatience(ms);
+}
+
+/// The batch holds the file from its first write on.
+void DatabasePrivate::beginForBatch()
+{
+    if (engine().inTransaction())
+        return;
+    engine().begin();
+    rowsInBatch_ = 0;
+}
+
 qint64 DatabasePrivate::write(EngineStatement &statement)
 {
     const bool batch = batchDepth_ > 0;
-    if (batch && !engine().inTransaction()) {
-        engine().begin();
-        rowsInBatch_ = 0;
-    }
+    if (batch)
+        beginForBatch();
+    const bool alone = !engine().inTransaction();
+    if (alone)
+        engine().takeTurn();
+    const auto afterwards = qScopeGuard([&] {
+        if (alone && engine_)
+            engine_->giveTurn();
+    });
     try {
         const StatementRun run(statement);
         statement.step();
     } catch (const Error &error) {
-        if (batch && !engine().inTransaction())
+        if (batch && !engine_->inTransaction()) {
             batchLost_ = error; // a full disk may take the rows before with it
+            engine_->giveTurn();
+        }
         throw;
     }
     processWrites_.fetch_add(1, std::memory_order_relaxed);

@@ -10,6 +10,7 @@
 #include <QSet>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -31,7 +32,9 @@ using PreparedPtr = std::shared_ptr<const Prepared>;
 class DatabasePrivate
 {
 public:
-    void attach(std::unique_ptr<Engine> engine, const QString &path);
+    using Opener = std::function<std::unique_ptr<Engine>()>;
+    /// `opener` opens the same file once more, should this connection become of no use.
+    void attach(std::unique_ptr<Engine> engine, const QString &path, Opener opener = {});
     void detach();
     bool isOpen() const { return engine_ != nullptr; }
     const QString &path() const { return path_; }
@@ -50,7 +53,11 @@ public:
     /// Runs a statement that writes; counts towards the batch. Returns the rows changed.
     qint64 write(EngineStatement &statement);
     qint64 execute(const QString &sql);
-    void define(const Statement &statement); ///< runs a statement of DDL
+    /// Of this connection and of those that it opens after.
+    void setPatience(int ms);
+    int patience() const { return patience_; }
+    void define(const Statement &statement); ///< runs a statement of DDL; within a batch a part of it
+    void widenText(const QString &table, const QString &column, int size);
 
     void beginBatch(int rows);
     void endBatch();
@@ -79,6 +86,8 @@ public:
 private:
     static bool mayBeStale(const Error &error);
     void commit();
+    void revive();
+    void beginForBatch();
 
     TablePtr existingTable(const QString &name);
     int existingColumn(const Table &table, const QString &name);
@@ -97,7 +106,9 @@ private:
     LruCache<StatementPtr> statements_{200};
     LruCache<PreparedPtr> prepared_{400};
     QString path_;
+    Opener opener_;
     QSet<RecordsetPrivate *> recordsets_;
+    int patience_ = 15000; ///< milliseconds that a station waits for the file
     int batchDepth_ = 0;
     int batchRows_ = 0;
     int rowsInBatch_ = 0;

@@ -11,6 +11,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace dao
 {
@@ -47,14 +48,23 @@ Database::Database() : d_(std::make_unique<DatabasePrivate>())
 
 Database::~Database()
 {
-    basic::ignoringErrors([&] { close(); });
+    try {
+        close();
+    } catch (const Error &) {
+        // nobody is left to be told
+    }
     d_->detach();
 }
 
 void Database::open(const QString &path, bool exclusive, bool readOnly, const QString &connect)
 {
     close();
-    d_->attach(openEmbedded(path, passwordOf(connect), {.exclusive = exclusive, .readOnly = readOnly}), path);
+    const auto opener = [this, exclusive, readOnly, path = QFileInfo(path).absoluteFilePath(),
+                         password = passwordOf(connect)] {
+        return openEmbedded(path, password,
+                            {.exclusive = exclusive, .readOnly = readOnly, .patienceMs = d_->patience()});
+    };
+    d_->attach(opener(), path, opener);
 }
 
 void Database::create(const QString &path, const QString &connect)
@@ -66,6 +76,8 @@ void Database::create(const QString &path, const QString &connect)
     const QString password = passwordOf(connect);
     const QByteArray key = password.isEmpty() ? QByteArray() : rawKey(password, freshSalt());
     d_->attach(std::make_unique<EmbeddedEngine>(path, key, EmbeddedEngine::Options{.create = true}), path);
+    // The practice's people share the file through their group; nobody else reads it.
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup);
 }
 
 bool Database::isOpen() const
@@ -160,6 +172,16 @@ void Database::createQuery(const QString &name, const QString &select)
 QStringList Database::queryNames() const
 {
     return d_->catalogue().queryNames();
+}
+
+void Database::setPatience(int ms)
+{
+    d_->setPatience(ms);
+}
+
+void Database::widenText(const QString &table, const QString &column, int size)
+{
+    d_->widenText(table, column, size);
 }
 
 void Database::beginTrans(int batchRows)

@@ -126,8 +126,24 @@ void DatabasePrivate::dropColumn(const DropColumn &drop)
     engine().dropColumn(*table, ordinal);
 }
 
+void DatabasePrivate::widenText(const QString &name, const QString &column, int size)
+{
+    if (batchDepth_ > 0)
+        beginForBatch();
+    catalogue().refresh();
+    const TablePtr table = existingTable(name);
+    FieldDef field = table->columns[static_cast<size_t>(existingColumn(*table, column))];
+    if (field.type != FieldType::Text || field.size >= size)
+        return;
+    field.size = size;
+    engine().changeColumn(*table, field);
+    catalogue().reload();
+}
+
 void DatabasePrivate::define(const Statement &statement)
 {
+    if (batchDepth_ > 0)
+        beginForBatch();
     // Somebody else's change counts as this one's having taken effect.
     catalogue().refresh();
     if (const auto *create = std::get_if<CreateTable>(&statement))

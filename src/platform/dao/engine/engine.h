@@ -71,6 +71,11 @@ public:
     virtual qint64 lastKey() = 0; ///< the key of the row inserted last
     virtual qint64 changes() = 0; ///< rows that the last statement changed
 
+    /// Waits for this station's turn to write, and gives it on. A transaction that begins takes a turn by
+    /// itself until it ends; what writes outside one is put between the two. They do not nest.
+    virtual void takeTurn() = 0;
+    virtual void giveTurn() noexcept = 0;
+
     virtual void begin() = 0;     ///< a transaction that may write from its first statement on
     virtual void beginRead() = 0; ///< a transaction that holds the file as it is at its first read
     virtual void commit() = 0;
@@ -87,6 +92,8 @@ public:
     virtual void dropIndex(const Table &table, const IndexDef &index) = 0;
     virtual void addColumn(const Table &table, const FieldDef &column) = 0;
     virtual void dropColumn(const Table &table, int ordinal) = 0;
+    /// Gives a column another definition of the same name; its values stay.
+    virtual void changeColumn(const Table &table, const FieldDef &column) = 0;
     virtual void saveQuery(const QString &name, const QString &text) = 0;
     /// A table in memory that this connection alone sees, and that dies with it.
     virtual Table createScratchTable(const std::vector<FieldDef> &columns) = 0;
@@ -94,6 +101,10 @@ public:
 
     virtual QStringList check() = 0;
     virtual bool readOnly() const = 0;
+    /// A damaged page was met, after which this connection reads nothing more, sound pages included.
+    virtual bool spoiled() const = 0;
+    /// How long a station that finds the file held waits for it, in milliseconds.
+    virtual void setPatience(int ms) = 0;
 };
 
 } // namespace dao

@@ -25,6 +25,7 @@ public:
 
     /// The database closes: nothing of its engine may be held any longer.
     void detach();
+    virtual void release() = 0; ///< gives up all statements of the engine
     bool isOpen() const { return database_ != nullptr; }
     [[noreturn]] static void throwClosed();
     Recordset::Kind kind() const { return kind_; }
@@ -80,7 +81,6 @@ protected:
     virtual void removeRow() = 0;
     /// A field that cannot be written to: of a COUNTER or of a computed column.
     virtual bool writable(int ordinal) const = 0;
-    virtual void release() = 0; ///< gives up all statements of the engine
 
     // One row of one table in one statement.
     qint64 insertInto(const Table &table, const RowChanges &changes);
