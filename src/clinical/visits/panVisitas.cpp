@@ -195,12 +195,12 @@ void panVisitas::mostrarVisita()
         return;
     }
     try {
-        leerExamen();
         opciones.setLugar(Data2.recordset()[u"Lugar de Consulta"].text());
         opciones.setTipo(Data2.recordset()[u"Tipo"].text());
         mostrarListas();
+        leerExamen();
     } catch (const dao::Error &) {
-        sinExamen(); // deleted at another workstation: nothing of the visit before stays in sight
+        Data3.close(); // deleted at another workstation: nothing of the visit before stays in sight
         throw;
     }
 }
@@ -355,10 +355,7 @@ std::optional<Registrada> panVisitas::registrar(const Visita &visita)
 
 void panVisitas::irA(qint64 idConsulta)
 {
-    Data2.refresh();
-    Data2.change([&](dao::Recordset &visitas) {
-        visitas.findFirst(u"idConsulta = "_s + QString::number(idConsulta));
-    });
+    Data2.refresh(u"idConsulta = "_s + QString::number(idConsulta));
 }
 
 void panVisitas::quitar()

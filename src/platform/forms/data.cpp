@@ -117,7 +117,7 @@ Data::Data(const QString &name)
 
 Data::~Data() = default;
 
-void Data::refresh()
+void Data::refresh(const QString &criterion)
 {
     leaveRow();
     noneChosen_ = false;
@@ -126,15 +126,25 @@ void Data::refresh()
         throw dao::Error(dao::Error::Closed, QStringLiteral("No hay una base de datos abierta."));
     try {
         recordset_ = database_->openRecordset(source_, dao::Recordset::Kind::Dynaset);
+        if (!criterion.isEmpty() && !recordset_.eof()) {
+            recordset_.findFirst(criterion);
+            noneChosen_ = recordset_.noMatch();
+        }
     } catch (const dao::Error &) {
-        updateControls();
-        emit refreshed();
+        close();
         throw;
     }
     adoptLengths();
     updateControls();
     emit refreshed();
     emit reposition();
+}
+
+void Data::close()
+{
+    recordset_ = dao::Recordset();
+    updateControls();
+    emit refreshed();
 }
 
 /// What is typed in a field without a length of its own is as long as its column at most.

@@ -26,9 +26,10 @@ public:
     void setDatabase(dao::Database *database) { database_ = database; }
     void setRecordSource(const QString &sql) { source_ = sql; }
     QString recordSource() const { return source_; }
-    /// Opens the record source anew and stands on the first row. Throws dao::Error; then no recordset is
-    /// open.
-    void refresh();
+    /// Opens the record source anew and stands on the first row, or on the first that meets the criterion.
+    /// Throws dao::Error; then no recordset is open.
+    void refresh(const QString &criterion = {});
+    void close(); ///< no row stays in sight, nor what was typed in one
     bool hasRecordset() const { return recordset_.isOpen(); }
     dao::Recordset &recordset() { return recordset_; }
 
