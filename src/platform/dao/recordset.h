@@ -119,6 +119,7 @@ public:
 
     /// Random access for grids: reads any row without moving the current record. rowCount() visits all rows.
     qint64 rowCount() const;
+    bool hasRow(qint64 row) const; ///< reads no further than this row asks for
     basic::Value valueAt(qint64 row, int ordinal) const;
 
 private:

@@ -12,9 +12,11 @@
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QSaveFile>
 #include <QSpinBox>
 #include <QTextLayout>
 
@@ -26,6 +28,7 @@ namespace
 
 constexpr int printerError = 482;
 constexpr double marginMm = 15;
+constexpr int pdfResolution = 1200;
 constexpr char folderVariable[] = "SANIRELL_IMPRESORA";
 
 QString documentFolder()
@@ -102,40 +105,146 @@ bool defaultChoice(Choice &choice)
     return !choice.printer.isEmpty() || !choice.file.isEmpty();
 }
 
-struct Document::Private {
-    QPrinter printer{QPrinter::HighResolution};
+struct Job::Private {
+    std::unique_ptr<QSaveFile> file; ///< of a PDF
+    std::unique_ptr<QPagedPaintDevice> device;
     QPainter painter;
+
+    QPrinter *printer() const { return file ? nullptr : static_cast<QPrinter *>(device.get()); }
+
+    void openFile(const QString &path, const QString &name)
+    {
+        file = std::make_unique<QSaveFile>(path);
+        if (!file->open(QIODevice::WriteOnly))
+            throw basic::Error(printerError, QStringLiteral("No se puede escribir el archivo %1.").arg(path));
+        // What is printed of a patient is for whoever printed it.
+        file->setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+        auto writer = std::make_unique<QPdfWriter>(file.get());
+        writer->setTitle(name);
+        writer->setCreator(QStringLiteral("Sanirell!"));
+        writer->setResolution(pdfResolution);
+        device = std::move(writer);
+    }
+
+    void openPrinter(const Choice &choice, const QString &name)
+    {
+        auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        printer->setDocName(name);
+        printer->setCreator(QStringLiteral("Sanirell!"));
+        printer->setPrinterName(choice.printer);
+        if (!printer->isValid())
+            throw basic::Error(printerError, QStringLiteral("Error de impresora."));
+        printer->setCopyCount(choice.copies);
+        printer->setFullPage(true);
+        device = std::move(printer);
+    }
+};
+
+Job::Job(const Choice &choice, const QString &name, const QPageLayout &page) : d_(std::make_unique<Private>())
+{
+    const QString folder = documentFolder();
+    const QString file = folder.isEmpty() ? choice.file : nextDocument(folder);
+    if (file.isEmpty())
+        d_->openPrinter(choice, name);
+    else
+        d_->openFile(file, name);
+    QPageLayout layout = page;
+    layout.setMode(QPageLayout::FullPageMode);
+    d_->device->setPageLayout(layout);
+}
+
+Job::~Job()
+{
+    if (!d_->painter.isActive())
+        return;
+    if (QPrinter *printer = d_->printer())
+        printer->abort();
+    if (d_->file)
+        d_->file->cancelWriting();
+    d_->painter.end();
+}
+
+/// The paper is taken with the first thing put on it: a document without content prints no page.
+QPainter &Job::painter()
+{
+    if (!d_->painter.isActive()) {
+        if (!d_->painter.begin(d_->device.get()))
+            throw basic::Error(printerError, QStringLiteral("Error de impresora."));
+        d_->painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    }
+    return d_->painter;
+}
+
+bool Job::begun() const
+{
+    return d_->painter.isActive();
+}
+
+QPagedPaintDevice &Job::device() const
+{
+    return *d_->device;
+}
+
+void Job::newPage()
+{
+    painter();
+    if (!d_->device->newPage())
+        throw basic::Error(printerError, QStringLiteral("Error de impresora."));
+}
+
+void Job::finish()
+{
+    if (!begun())
+        return;
+    const bool ended = d_->painter.end();
+    const bool taken = d_->file ? d_->file->commit() : d_->printer()->printerState() != QPrinter::Error;
+    if (!ended || !taken)
+        throw basic::Error(printerError, d_->file ? QStringLiteral("No se pudo guardar el archivo %1: %2")
+                                                        .arg(d_->file->fileName(), d_->file->errorString())
+                                                  : QStringLiteral("Error de impresora."));
+}
+
+struct Document::Private {
+    Job job;
     QFont font{QStringLiteral("DejaVu Sans"), 10};
     double y = 0;          // from the top margin, in device pixels
     bool pageUsed = false; // something stands on the current page
 
-    double width() const { return printer.pageLayout().paintRectPixels(printer.resolution()).width(); }
-    double height() const { return printer.pageLayout().paintRectPixels(printer.resolution()).height(); }
-    double pixels(double twips) const { return twips * printer.resolution() / 1440.0; }
+    Private(const Choice &choice, const QString &name, const QPageLayout &page) : job(choice, name, page) {}
 
-    /// The paper is taken with the first thing put on it: a document without content prints no page.
-    void begin()
+    int resolution() const { return job.device().logicalDpiY(); }
+    QRectF area() const
     {
-        if (painter.isActive())
-            return;
-        if (!painter.begin(&printer))
-            throw basic::Error(printerError, QStringLiteral("Error de impresora."));
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.setFont(font);
+        QPageLayout layout = job.device().pageLayout();
+        layout.setMode(QPageLayout::StandardMode);
+        return layout.paintRectPixels(resolution());
+    }
+    double width() const { return area().width(); }
+    double height() const { return area().height(); }
+    double pixels(double twips) const { return twips * resolution() / 1440.0; }
+
+    QPainter &painter()
+    {
+        const bool first = !job.begun();
+        QPainter &open = job.painter();
+        if (first) {
+            open.setFont(font);
+            open.translate(area().topLeft());
+        }
+        return open;
     }
 
     void breakPage()
     {
-        begin();
-        if (!printer.newPage())
-            throw basic::Error(printerError, QStringLiteral("Error de impresora."));
+        painter();
+        job.newPage();
         y = 0;
         pageUsed = false;
     }
 
     void makeRoom(double needed)
     {
-        begin();
+        painter();
         if (pageUsed && y + needed > height() + 0.5)
             breakPage();
     }
@@ -143,14 +252,14 @@ struct Document::Private {
     void draw(const QImage &image, QSizeF size)
     {
         makeRoom(size.height());
-        painter.drawImage(QRectF(QPointF(0, y), size), image);
+        painter().drawImage(QRectF(QPointF(0, y), size), image);
         y += size.height();
         pageUsed = true;
     }
 
     void printLine(const QString &line)
     {
-        QTextLayout layout(line, font, &printer);
+        QTextLayout layout(line, font, &job.device());
         QTextOption option;
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
         layout.setTextOption(option);
@@ -161,12 +270,12 @@ struct Document::Private {
             lines.push_back(piece);
         }
         layout.endLayout();
-        const double empty = QFontMetricsF(font, &printer).lineSpacing();
+        const double empty = QFontMetricsF(font, &job.device()).lineSpacing();
         if (lines.empty())
             skip(empty);
         for (const QTextLine &piece : lines) {
             makeRoom(piece.height());
-            piece.draw(&painter, QPointF(0, y - piece.y()));
+            piece.draw(&painter(), QPointF(0, y - piece.y()));
             y += piece.height();
             pageUsed = true;
         }
@@ -181,25 +290,11 @@ struct Document::Private {
 };
 
 Document::Document(const Choice &choice, const QString &name, bool landscape)
-    : d_(std::make_unique<Private>())
+    : d_(std::make_unique<Private>(
+          choice, name,
+          QPageLayout(QPageSize(QPageSize::A4), landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
+                      QMarginsF(marginMm, marginMm, marginMm, marginMm), QPageLayout::Millimeter)))
 {
-    QPrinter &printer = d_->printer;
-    printer.setDocName(name);
-    printer.setCreator(QStringLiteral("Sanirell!"));
-    const QString folder = documentFolder();
-    const QString file = folder.isEmpty() ? choice.file : nextDocument(folder);
-    if (!file.isEmpty()) {
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(file);
-    } else {
-        printer.setPrinterName(choice.printer);
-        if (!printer.isValid())
-            throw basic::Error(printerError, QStringLiteral("Error de impresora."));
-        printer.setCopyCount(choice.copies);
-    }
-    printer.setPageLayout(
-        QPageLayout(QPageSize(QPageSize::A4), landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
-                    QMarginsF(marginMm, marginMm, marginMm, marginMm), QPageLayout::Millimeter));
 }
 
 Document::~Document() = default;
@@ -207,8 +302,8 @@ Document::~Document() = default;
 void Document::setFont(const QFont &font)
 {
     d_->font = font;
-    if (d_->painter.isActive())
-        d_->painter.setFont(font);
+    if (d_->job.begun())
+        d_->job.painter().setFont(font);
 }
 
 void Document::print(const QString &text)
@@ -239,11 +334,7 @@ void Document::newPage()
 
 void Document::endDoc()
 {
-    if (d_->painter.isActive() && !d_->painter.end())
-        throw basic::Error(printerError, QStringLiteral("Error de impresora."));
-    // What is printed of a patient is for whoever printed it.
-    if (const QString file = d_->printer.outputFileName(); !file.isEmpty())
-        QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner);
+    d_->job.finish();
 }
 
 } // namespace printing

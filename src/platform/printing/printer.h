@@ -2,11 +2,13 @@
 
 #include <QFont>
 #include <QImage>
+#include <QPageLayout>
 #include <QString>
 
 #include <memory>
 
-class QTextDocument;
+class QPagedPaintDevice;
+class QPainter;
 
 /// Paper. A printer is one of the system's, or a PDF file; when the environment variable SANIRELL_IMPRESORA
 /// names a folder, every document goes there as a numbered PDF file.
@@ -24,6 +26,26 @@ struct Choice {
 bool chooserDialog(Choice &choice, const QString &title);
 /// The default printer, or a PDF file asked for when there is none; false when the person cancels that.
 bool defaultChoice(Choice &choice);
+
+/// Pages being printed, of a size of their own. A file gets its name when it is finished: one that is left
+/// unfinished, or that the disk does not take whole, is not there. Throws basic::Error when the printer or
+/// the file refuses.
+class Job
+{
+public:
+    Job(const Choice &choice, const QString &name, const QPageLayout &page);
+    ~Job();
+
+    QPainter &painter(); ///< of the page that is open, in the device's dots, from the corner of the paper
+    bool begun() const;  ///< a page was taken
+    QPagedPaintDevice &device() const;
+    void newPage();
+    void finish();
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d_;
+};
 
 /// A document being printed: text lines from the top margin downwards in the current font, pictures at the
 /// current position in their natural size (shrunk to the page if larger), page breaks where they fall.

@@ -21,6 +21,7 @@ public:
     void setAbsolutePosition(qint64 position) override;
     bool find(const QString &criterion, Direction direction) override;
     qint64 rowCount() override { return total(); }
+    bool hasRow(qint64 row) override { return reaches(row); }
     basic::Value valueAt(qint64 row, int ordinal) override;
 
 protected:

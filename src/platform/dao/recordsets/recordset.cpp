@@ -267,6 +267,11 @@ qint64 Recordset::rowCount() const
     return open(d_).rowCount();
 }
 
+bool Recordset::hasRow(qint64 row) const
+{
+    return row >= 0 && open(d_).hasRow(row);
+}
+
 basic::Value Recordset::valueAt(qint64 row, int ordinal) const
 {
     return open(d_).valueAt(row, ordinal);

@@ -48,6 +48,7 @@ public:
     virtual bool find(const QString &criterion, Direction direction) = 0;
     virtual void requery() = 0;
     virtual qint64 rowCount() = 0;
+    virtual bool hasRow(qint64 row) { return row < rowCount(); }
     virtual basic::Value valueAt(qint64 row, int ordinal) = 0;
     virtual bool updatable() const = 0;
 

@@ -1,0 +1,309 @@
+#include "platform/reports/block.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QFileInfo>
+#include <QFontMetricsF>
+#include <QImage>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextLayout>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace reports
+{
+
+namespace
+{
+
+constexpr double cellSide = dots(0.8), cellAbove = dots(0.45), cellBelow = dots(0.45), ruleWidth = dots(0.2);
+const QColor ruleColour(0x60, 0x68, 0x70), stripeColour(0xf1, 0xf4, 0xf7);
+
+/// Stands for paper when texts are measured.
+QPaintDevice &paper()
+{
+    static QImage image = [] {
+        QImage one(1, 1, QImage::Format_RGB32);
+        one.setDotsPerMeterX(qRound(dotsPerInch / 0.0254));
+        one.setDotsPerMeterY(qRound(dotsPerInch / 0.0254));
+        return one;
+    }();
+    return image;
+}
+
+QFont inDots(QFont font)
+{
+    font.setPixelSize(qRound(font.pointSizeF() * dotsPerInch / 72));
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+class HtmlBlock : public Block
+{
+public:
+    HtmlBlock(const QString &html, const ReportFile &file, double width)
+    {
+        document_.setUndoRedoEnabled(false);
+        document_.documentLayout()->setPaintDevice(&paper());
+        document_.setDocumentMargin(0);
+        QFont font = file.font;
+        font.setHintingPreference(QFont::PreferNoHinting);
+        document_.setDefaultFont(font);
+        if (!file.style.isEmpty())
+            document_.setDefaultStyleSheet(file.style);
+        document_.setMetaInformation(
+            QTextDocument::DocumentUrl,
+            QUrl::fromLocalFile(QFileInfo(file.path).absolutePath() + u'/').toString());
+        document_.setHtml(html);
+        document_.setTextWidth(width);
+        height_ = document_.size().height();
+    }
+
+    double height() const override { return height_; }
+
+    double fitting(double from, double room) const override
+    {
+        if (height_ - from <= room)
+            return height_ - from;
+        double end = from + room;
+        // A line that the end would cut moves it above; that may cut another one, of a cell beside.
+        for (bool moved = true; moved && end > from;) {
+            moved = false;
+            for (const auto &[top, bottom] : lines())
+                if (top < end - 0.5 && bottom > end + 0.5) {
+                    end = top;
+                    moved = true;
+                }
+        }
+        return qMax(0.0, end - from);
+    }
+
+    void draw(QPainter &painter, QPointF at, double from, double height) const override
+    {
+        painter.save();
+        painter.translate(at.x(), at.y() - from);
+        QAbstractTextDocumentLayout::PaintContext context;
+        context.palette.setColor(QPalette::Text, Qt::black);
+        context.clip = QRectF(0, from, document_.textWidth(), height);
+        painter.setClipRect(context.clip, Qt::IntersectClip);
+        document_.documentLayout()->draw(&painter, context);
+        painter.restore();
+    }
+
+    QString text() const override { return document_.toPlainText(); }
+
+private:
+    using Span = std::pair<double, double>;
+    const std::vector<Span> &lines() const
+    {
+        if (!lines_.empty())
+            return lines_;
+        for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
+            const double top = document_.documentLayout()->blockBoundingRect(block).top();
+            for (int i = 0; i < block.layout()->lineCount(); ++i) {
+                const QRectF line = block.layout()->lineAt(i).rect();
+                lines_.emplace_back(top + line.top(), top + line.bottom());
+            }
+        }
+        return lines_;
+    }
+
+    QTextDocument document_;
+    double height_ = 0;
+    mutable std::vector<Span> lines_;
+};
+
+/// A font with the widths of the letters that most texts are made of.
+class Measured
+{
+public:
+    explicit Measured(const QFont &font) : font_(font), metrics_(font)
+    {
+        for (std::size_t i = 0; i < widths_.size(); ++i)
+            widths_[i] = metrics_.horizontalAdvance(QChar(static_cast<char16_t>(i)));
+    }
+
+    const QFont &font() const { return font_; }
+    double lineHeight() const { return metrics_.lineSpacing(); }
+    double ascent() const { return metrics_.ascent(); }
+    double width(const QString &text) const { return metrics_.horizontalAdvance(text); }
+
+    /// Told without shaping the text, which most cells spare.
+    bool surelyFits(const QString &text, double room) const
+    {
+        double sum = 0;
+        for (const QChar c : text) {
+            if (c.unicode() >= widths_.size() || c == u'\n')
+                return false;
+            sum += widths_[c.unicode()];
+        }
+        return sum * 1.01 <= room;
+    }
+
+    QStringList wrapped(const QString &text, double room) const
+    {
+        if (surelyFits(text, room))
+            return {text};
+        QStringList lines;
+        for (const QString &paragraph : text.split(u'\n')) {
+            QTextLayout layout(paragraph, font_);
+            QTextOption option;
+            option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+            layout.setTextOption(option);
+            layout.beginLayout();
+            for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+                line.setLineWidth(qMax(room, 1.0));
+                lines += paragraph.sliced(line.textStart(), line.textLength()).trimmed();
+            }
+            layout.endLayout();
+        }
+        return lines;
+    }
+
+private:
+    QFont font_;
+    QFontMetricsF metrics_;
+    std::array<double, 256> widths_{};
+};
+
+QFont bold(QFont font)
+{
+    font.setBold(true);
+    return font;
+}
+
+} // namespace
+
+struct ColumnLayout::Shape {
+    struct Place {
+        double left, width;
+        Qt::Alignment alignment;
+        bool bold;
+    };
+    double width;
+    Measured normal, strong;
+    std::vector<Place> places;
+};
+
+/// A line of the list. The lines of its cells are of one height, so that it can be cut below any of them.
+class LineBlock : public Block
+{
+public:
+    LineBlock(std::shared_ptr<const ColumnLayout::Shape> shape, const QStringList &texts,
+              ColumnLayout::Line line)
+        : shape_(std::move(shape)), line_(line)
+    {
+        qsizetype most = 1;
+        for (std::size_t i = 0; i < shape_->places.size(); ++i) {
+            const QString text = texts.value(static_cast<qsizetype>(i));
+            cells_.push_back(text.isEmpty() ? QStringList()
+                                            : font(i).wrapped(text, shape_->places[i].width - 2 * cellSide));
+            most = qMax(most, cells_.back().size());
+        }
+        lines_ = most;
+    }
+
+    double height() const override
+    {
+        return cellAbove + static_cast<double>(lines_) * lineHeight() + cellBelow;
+    }
+
+    double fitting(double from, double room) const override
+    {
+        if (height() - from <= room)
+            return height() - from;
+        const double wholeLines = std::floor((from + room - cellAbove) / lineHeight());
+        return wholeLines < 1 ? 0 : qMax(0.0, cellAbove + wholeLines * lineHeight() - from);
+    }
+
+    void draw(QPainter &painter, QPointF at, double from, double height) const override
+    {
+        const QRectF whole(at.x(), at.y(), shape_->width, height);
+        if (line_ == ColumnLayout::Line::Striped)
+            painter.fillRect(whole, stripeColour);
+        painter.setPen(Qt::black);
+        for (std::size_t i = 0; i < cells_.size(); ++i)
+            drawCell(painter, i, at, from, height);
+        painter.setPen(QPen(ruleColour, ruleWidth));
+        if (line_ == ColumnLayout::Line::Heading)
+            painter.drawLine(whole.bottomLeft(), whole.bottomRight());
+        if (line_ == ColumnLayout::Line::Total)
+            painter.drawLine(whole.topLeft(), whole.topRight());
+    }
+
+    QString text() const override
+    {
+        QStringList texts;
+        for (const QStringList &cell : cells_)
+            texts += cell.join(u' ');
+        return texts.join(u'\t');
+    }
+
+private:
+    double lineHeight() const { return shape_->normal.lineHeight(); }
+    const Measured &font(std::size_t column) const
+    {
+        const bool strong = line_ == ColumnLayout::Line::Heading || line_ == ColumnLayout::Line::Total;
+        return strong || shape_->places[column].bold ? shape_->strong : shape_->normal;
+    }
+
+    void drawCell(QPainter &painter, std::size_t column, QPointF at, double from, double height) const
+    {
+        const Measured &measured = font(column);
+        const ColumnLayout::Shape::Place &place = shape_->places[column];
+        painter.setFont(measured.font());
+        double top = cellAbove - from;
+        for (const QString &line : cells_[column]) {
+            if (top > -1 && top + lineHeight() < height + 1) {
+                const double spare =
+                    place.alignment & Qt::AlignLeft ? 0 : place.width - 2 * cellSide - measured.width(line);
+                const double left =
+                    place.left + cellSide + (place.alignment & Qt::AlignHCenter ? spare / 2 : spare);
+                painter.drawText(QPointF(at.x() + left, at.y() + top + measured.ascent()), line);
+            }
+            top += lineHeight();
+        }
+    }
+
+    std::shared_ptr<const ColumnLayout::Shape> shape_;
+    ColumnLayout::Line line_;
+    std::vector<QStringList> cells_;
+    qsizetype lines_ = 1;
+};
+
+BlockPtr htmlBlock(const QString &html, const ReportFile &file, double width)
+{
+    return std::make_shared<HtmlBlock>(html, file, width);
+}
+
+ColumnLayout::ColumnLayout(const ReportFile &file, double width)
+{
+    auto shape = std::make_shared<Shape>(
+        Shape{width, Measured(inDots(file.font)), Measured(bold(inDots(file.font))), {}});
+    double fixed = 0;
+    int sharing = 0;
+    for (const Column &column : file.columns) {
+        fixed += dots(column.width);
+        sharing += column.width == 0;
+    }
+    // Columns that the page cannot hold shrink together; those without a width keep a share of it.
+    const double least = sharing * dots(10);
+    const double scale = fixed + least > width ? qMax(0.0, width - least) / fixed : 1;
+    const double share = sharing ? qMax(dots(10), (width - fixed * scale) / sharing) : 0;
+    double left = 0;
+    for (const Column &column : file.columns) {
+        const double own = column.width == 0 ? share : dots(column.width) * scale;
+        shape->places.push_back({left, own, column.alignment, column.bold});
+        left += own;
+    }
+    shape_ = std::move(shape);
+}
+
+BlockPtr ColumnLayout::block(const QStringList &texts, Line line) const
+{
+    return std::make_shared<LineBlock>(shape_, texts, line);
+}
+
+} // namespace reports
