@@ -143,7 +143,7 @@ struct Job::Private {
 Job::Job(const Choice &choice, const QString &name, const QPageLayout &page) : d_(std::make_unique<Private>())
 {
     const QString folder = documentFolder();
-    const QString file = folder.isEmpty() ? choice.file : nextDocument(folder);
+    const QString file = choice.file.isEmpty() && !folder.isEmpty() ? nextDocument(folder) : choice.file;
     if (file.isEmpty())
         d_->openPrinter(choice, name);
     else

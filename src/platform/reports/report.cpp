@@ -480,12 +480,15 @@ void Report::paint(QPainter &painter, int page)
                            placed.from, placed.height);
 }
 
-QStringList Report::pageTexts(int page)
+std::vector<Report::Reading> Report::read(int page)
 {
-    QStringList texts;
+    const QMarginsF margins = file_.page.margins(QPageLayout::Millimeter);
+    std::vector<Reading> readings;
     for (const Placed &placed : built(page).parts)
-        texts += placed.block->text();
-    return texts;
+        readings.push_back(
+            {placed.block->text(),
+             QRectF(dots(margins.left()), dots(margins.top()) + placed.top, width(), placed.height)});
+    return readings;
 }
 
 QStringList Report::listTitles() const

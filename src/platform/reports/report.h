@@ -35,7 +35,12 @@ public:
 
     /// Draws a page whose unit is the dot.
     void paint(QPainter &painter, int page);
-    QStringList pageTexts(int page); ///< of its parts from top to bottom, for searching
+    /// What can be read on a page, part by part from top to bottom, with the place of each on the paper.
+    struct Reading {
+        QString text;
+        QRectF place;
+    };
+    std::vector<Reading> read(int page);
 
     /// The list itself, for other programs: titles and the columns' values; the query's own without columns.
     QStringList listTitles() const;
