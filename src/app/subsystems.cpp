@@ -3,6 +3,7 @@
 #include "clinical/register.h"
 #include "core/session/register.h"
 #include "core/windows/ayuda.h"
+#include "documents/register.h"
 #include "paediatrics/register.h"
 #include "practice/register.h"
 
@@ -12,5 +13,6 @@ void app::prepare()
     clinical::registerScreens();
     paediatrics::registerScreens();
     practice::registerScreens();
+    documents::registerScreens();
     instalarAyuda();
 }

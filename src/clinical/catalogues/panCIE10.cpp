@@ -1,6 +1,7 @@
 #include "clinical/catalogues/panCIE10.h"
 
 #include "clinical/catalogues/panBuscaInternet.h"
+#include "core/reports/informes.h"
 #include "core/services/services.h"
 #include "platform/forms/layout.h"
 
@@ -14,7 +15,6 @@ using namespace forms;
 panCIE10::panCIE10() : Form(u"panCIE10"_s)
 {
     setWindowTitle(u"Capturar Diagnóstico según CIE10"_s);
-    Command5.setEnabled(false); // until the reports exist
     setContents(this, Column{
                           Fields{{u"B&uscar :"_s, Row{Expanding(Text2), Command7, Command3, Command4}}},
                           Label1,
@@ -37,6 +37,8 @@ panCIE10::panCIE10() : Form(u"panCIE10"_s)
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
     connect(&Command3, &QPushButton::clicked, this, &panCIE10::expandir);
     connect(&Command4, &QPushButton::clicked, this, [this] { arbol_.contraer(); });
+    connect(&Command5, &QPushButton::clicked, this,
+            [] { informes::muestra(u"cie10.rpt"_s, u"{Diagnosticos.idDiagnostico} <> ''"_s); });
     connect(&Command6, &QPushButton::clicked, this, [this] { panBuscaInternet(Text1.text()).showModal(); });
     connect(&Command7, &QPushButton::clicked, this, &panCIE10::buscar);
 }

@@ -53,6 +53,7 @@ panCrystal::panCrystal(reports::Report report) : Form(u"panCrystal"_s), informe(
     Combo1.setCurrentIndex(0);
     Text2.setMaximumWidth(70);
     Text1.setMinimumWidth(160);
+    Combo1.setMinimumWidth(160);
     setContents(this,
                 Column{
                     Row{Command1, Command3, Command4, Command5, Stretch(), Command2},

@@ -1,0 +1,5 @@
+#include "documents/register.h"
+
+void documents::registerScreens()
+{
+}
