@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/database/actualiza.h"
 #include "core/session/session.h"
 #include "core/session/startup.h"
 #include "platform/basic/environment.h"
@@ -11,27 +10,15 @@
 #include <QTemporaryDir>
 
 #include <initializer_list>
-#include <memory>
 
-/// A delivered and upgraded file for each test, opened as the session's, with settings of its own.
+/// The delivered file, up to date, for each test, opened as the session's, with settings of its own.
 class DeliveredBase : public testing::Test
 {
 protected:
-    static void SetUpTestSuite()
-    {
-        upgraded_ = std::make_unique<QTemporaryDir>();
-        copyBase(QStringLiteral(DELIVERED_BASE), upgradedBase());
-        MODULE11::valoresIniciales();
-        MODULE11::BaseDatos.open(upgradedBase(), false, false, MODULE11::conexionDeLaBase());
-        MODULE11::ActualizaBase();
-        MODULE11::BaseDatos.close();
-    }
-    static void TearDownTestSuite() { upgraded_.reset(); }
-
     void SetUp() override
     {
         const QString path = folder.filePath(QStringLiteral("BASE.MDB"));
-        copyBase(upgradedBase(), path);
+        ASSERT_TRUE(QFile::copy(QStringLiteral(UPGRADED_BASE), path));
         qputenv("SANIRELL_AJUSTES", folder.path().toUtf8());
         MODULE11::valoresIniciales();
         MODULE11::BaseDatos.open(path, false, false, MODULE11::conexionDeLaBase());
@@ -66,13 +53,4 @@ protected:
     }
 
     QTemporaryDir folder;
-
-private:
-    static QString upgradedBase() { return upgraded_->filePath(QStringLiteral("BASE.MDB")); }
-    static void copyBase(const QString &from, const QString &to)
-    {
-        ASSERT_TRUE(QFile::copy(from, to));
-        ASSERT_TRUE(QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner));
-    }
-    static inline std::unique_ptr<QTemporaryDir> upgraded_;
 };
