@@ -52,5 +52,18 @@ protected:
         return values;
     }
 
+    /// All rows: fields by comma, rows by bar.
+    static QString rows(const QString &sql)
+    {
+        QStringList lines;
+        for (dao::Recordset rows = MODULE11::BaseDatos.openRecordset(sql); !rows.eof(); rows.moveNext()) {
+            QStringList fields;
+            for (int i = 0; i < static_cast<int>(rows.fields().size()); ++i)
+                fields += rows.value(i).text();
+            lines += fields.join(u',');
+        }
+        return lines.join(u'|');
+    }
+
     QTemporaryDir folder;
 };

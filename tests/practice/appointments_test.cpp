@@ -1,3 +1,4 @@
+#include "answers.h"
 #include "delivered.h"
 
 #include "core/session/screens.h"
@@ -8,17 +9,12 @@
 #include "platform/basic/environment.h"
 #include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
-#include "platform/forms/boxes.h"
 #include "platform/forms/colour.h"
 #include "practice/appointments/herramientaHorarios.h"
 #include "practice/appointments/horarios.h"
 #include "practice/appointments/turnos.h"
 
 #include <gtest/gtest.h>
-
-#include <QAbstractButton>
-#include <QApplication>
-#include <QTimer>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -200,31 +196,6 @@ TEST_F(AppointmentBook, badIntervalTouchesNothingAndAFailureKeepsWhatWasWritten)
 namespace
 {
 
-/// Answers the next boxes with these buttons and keeps their texts.
-class Answers : public QObject
-{
-public:
-    explicit Answers(QStringList captions) : captions_(std::move(captions)) { startTimer(5); }
-    QStringList texts;
-
-protected:
-    void timerEvent(QTimerEvent *) override
-    {
-        QWidget *window = QApplication::activeModalWidget();
-        const auto box = window ? forms::describeBox(window) : std::nullopt;
-        if (!box || captions_.isEmpty())
-            return;
-        texts += box->text;
-        const QString caption = captions_.takeFirst();
-        for (auto *button : window->findChildren<QAbstractButton *>())
-            if (button->text().remove(u'&') == caption)
-                button->click();
-    }
-
-private:
-    QStringList captions_;
-};
-
 template <class Control>
 Control *in(QWidget &tool, const char *name)
 {
@@ -243,7 +214,7 @@ TEST_F(AppointmentBook, toolAsksBeforeItWritesAndResetsItsDays)
     const auto press = [&](const char *name, const QStringList &captions) {
         Answers answers(captions);
         in<QAbstractButton>(tool, name)->click();
-        return answers.texts.isEmpty() ? QString() : answers.texts.last();
+        return answers.last();
     };
     EXPECT_TRUE(press("Command7", {u"Cancelar"_s}).startsWith(u"Atención, desea eliminar"));
     EXPECT_EQ(press("Command7", {u"No"_s, u"Aceptar"_s}), u"Error, seleccione un profesional!");
@@ -323,10 +294,10 @@ TEST_F(AppointmentBook, mainWindowListsTodaysPatientsOfItsDoctor)
         u"INSERT INTO Turnos (Fecha, Hora, Dr, Paciente, idPaciente) VALUES (cdate('18/03/2024'), '10:00', 'Dr. Dos', 'Ajeno', 8)"_s);
     panInicial welcome;
     forms::Label *count = nullptr;
-    QTimer::singleShot(0, &welcome, [&] {
-        count = welcome.findChild<forms::Label *>(u"Label4"_s);
+    onceOpen([&](forms::Form &form) {
+        count = form.findChild<forms::Label *>(u"Label4"_s);
         EXPECT_EQ(count->text(), u"(tiene asignado 4 turnos para hoy.)"); // free places count too
-        welcome.unload();
+        form.unload();
     });
     welcome.showModal();
     EXPECT_NE(count, nullptr);
