@@ -16,7 +16,7 @@ namespace forms
 /// stamp.
 struct DrawnItem {
     QString name; ///< as a control's, with the index of an array in parentheses
-    QRectF place; ///< twips from the drawing's top left corner
+    QRectF place; ///< twips, in the coordinates of the drawing
     QString caption = {};
     QString toolTip = {};
     QString tag = {};
