@@ -15,6 +15,8 @@
 #include <QStyleOptionGraphicsItem>
 #include <QSvgRenderer>
 
+#include <utility>
+
 namespace forms
 {
 
