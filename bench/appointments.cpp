@@ -4,10 +4,10 @@
 #include "platform/basic/environment.h"
 #include "platform/forms/controls.h"
 #include "practice/appointments/horarios.h"
-#include "practice/professionals/calendarioAnual.h"
 #include "practice/appointments/panDispTurnos.h"
 #include "practice/appointments/panNueTurno.h"
 #include "practice/appointments/panTurnos.h"
+#include "practice/professionals/calendarioAnual.h"
 
 #include <QApplication>
 
