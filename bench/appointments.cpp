@@ -7,6 +7,7 @@
 #include "practice/appointments/panDispTurnos.h"
 #include "practice/appointments/panNueTurno.h"
 #include "practice/appointments/panTurnos.h"
+#include "practice/professionals/calendarioAnual.h"
 
 #include <QApplication>
 
@@ -123,6 +124,14 @@ void aYear(const Report &report)
     year.horas = {QTime(8, 0), QTime(13, 0), QTime(14, 0), QTime(19, 0)};
     year.dias = 0b1111100;
     report("a year of one professional's places made", elapsed([&] { horarios::aplicar(year, true); }), 5000);
+    practice::CalendarioAnual calendar;
+    in<forms::TextBox>(calendar, "txtAno").setText(QString::number(year.desde.year() + 1));
+    calendar.grab();
+    const auto show = [&] {
+        calendar.setProfesional(nobody);
+        calendar.grab();
+    };
+    report("the year's working days shown", elapsed(show), 100);
     report("the year removed", elapsed([&] { horarios::quitar(year); }), 5000);
 }
 

@@ -1,3 +1,16 @@
+# The moc step does not run again by itself when a file is added to a target.
+function(sanirell_moc_new_files name)
+    get_target_property(sources ${name} SOURCES)
+    set(list ${CMAKE_CURRENT_BINARY_DIR}/${name}_sources.txt)
+    if(EXISTS ${list})
+        file(READ ${list} before)
+    endif()
+    if(NOT "${before}" STREQUAL "${sources}")
+        file(WRITE ${list} "${sources}")
+        file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/timestamp)
+    endif()
+endfunction()
+
 # sanirell_subsystem(<name> [USES <subsystem>...] [LINKS <library>...])
 #
 # One static library for the folder it is called in. Its headers are reached as "<name>/..." through a
@@ -6,9 +19,7 @@ function(sanirell_subsystem name)
     cmake_parse_arguments(ARG "" "" "USES;LINKS" ${ARGN})
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS *.cpp *.h)
     add_library(${name} STATIC ${sources})
-    # Else a header that is new in the folder is not looked at until the build folder is.
-    file(GLOB_RECURSE headers CONFIGURE_DEPENDS *.h)
-    set_property(TARGET ${name} PROPERTY AUTOGEN_TARGET_DEPENDS ${headers})
+    sanirell_moc_new_files(${name})
     set(door ${CMAKE_BINARY_DIR}/include/${name})
     file(MAKE_DIRECTORY ${door})
     if(NOT EXISTS ${door}/${name})
@@ -23,14 +34,18 @@ function(sanirell_subsystem name)
     endif()
 endfunction()
 
-# sanirell_tests(<name> LINKS <library>...): one test program of all sources below the calling folder.
+include(GoogleTest)
+
+# sanirell_tests(<name> LINKS <library>...): one test program of all sources below the calling folder, one entry
+# a test.
 function(sanirell_tests name)
     cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS *.cpp *.h)
     add_executable(${name} ${sources})
+    sanirell_moc_new_files(${name})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} test_main GTest::gtest sanirell_warnings)
     target_compile_definitions(${name} PRIVATE TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}")
-    add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=/tmp")
+    gtest_discover_tests(${name} TEST_PREFIX ${name}. DISCOVERY_MODE PRE_TEST
+        PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=/tmp" TIMEOUT 120)
 endfunction()

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/database/actualiza.h"
 #include "core/session/session.h"
 #include "core/session/startup.h"
 #include "platform/basic/environment.h"
@@ -11,27 +10,15 @@
 #include <QTemporaryDir>
 
 #include <initializer_list>
-#include <memory>
 
-/// A delivered and upgraded file for each test, opened as the session's, with settings of its own.
+/// The delivered file, up to date, for each test, opened as the session's, with settings of its own.
 class DeliveredBase : public testing::Test
 {
 protected:
-    static void SetUpTestSuite()
-    {
-        upgraded_ = std::make_unique<QTemporaryDir>();
-        copyBase(QStringLiteral(DELIVERED_BASE), upgradedBase());
-        MODULE11::valoresIniciales();
-        MODULE11::BaseDatos.open(upgradedBase(), false, false, MODULE11::conexionDeLaBase());
-        MODULE11::ActualizaBase();
-        MODULE11::BaseDatos.close();
-    }
-    static void TearDownTestSuite() { upgraded_.reset(); }
-
     void SetUp() override
     {
         const QString path = folder.filePath(QStringLiteral("BASE.MDB"));
-        copyBase(upgradedBase(), path);
+        ASSERT_TRUE(QFile::copy(QStringLiteral(UPGRADED_BASE), path));
         qputenv("SANIRELL_AJUSTES", folder.path().toUtf8());
         MODULE11::valoresIniciales();
         MODULE11::BaseDatos.open(path, false, false, MODULE11::conexionDeLaBase());
@@ -65,14 +52,18 @@ protected:
         return values;
     }
 
-    QTemporaryDir folder;
-
-private:
-    static QString upgradedBase() { return upgraded_->filePath(QStringLiteral("BASE.MDB")); }
-    static void copyBase(const QString &from, const QString &to)
+    /// All rows: fields by comma, rows by bar.
+    static QString rows(const QString &sql)
     {
-        ASSERT_TRUE(QFile::copy(from, to));
-        ASSERT_TRUE(QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner));
+        QStringList lines;
+        for (dao::Recordset rows = MODULE11::BaseDatos.openRecordset(sql); !rows.eof(); rows.moveNext()) {
+            QStringList fields;
+            for (int i = 0; i < static_cast<int>(rows.fields().size()); ++i)
+                fields += rows.value(i).text();
+            lines += fields.join(u',');
+        }
+        return lines.join(u'|');
     }
-    static inline std::unique_ptr<QTemporaryDir> upgraded_;
+
+    QTemporaryDir folder;
 };

@@ -1,4 +1,5 @@
-// Entry of the unit test programs: an application object first, so that widgets and paint devices work.
+// Entry of the unit test programs: an application object first, so that widgets and paint devices work, and
+// nothing is shown. A list of the tests is given without one.
 #include <QApplication>
 
 #include <gtest/gtest.h>
@@ -6,6 +7,10 @@
 int main(int argc, char **argv)
 {
     testing::InitGoogleTest(&argc, argv);
+    if (testing::GTEST_FLAG(list_tests))
+        return RUN_ALL_TESTS();
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

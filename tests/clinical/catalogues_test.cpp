@@ -1,3 +1,4 @@
+#include "answers.h"
 #include "delivered.h"
 
 #include "clinical/catalogues/arbolCIE10.h"
@@ -6,16 +7,9 @@
 #include "clinical/catalogues/eleccion.h"
 #include "clinical/catalogues/panCIE10.h"
 #include "clinical/catalogues/panTratamientos.h"
-#include "platform/forms/boxes.h"
 #include "platform/settings/settings.h"
 
 #include <gtest/gtest.h>
-
-#include <QAbstractButton>
-#include <QApplication>
-#include <QTimer>
-
-#include <functional>
 
 using namespace Qt::StringLiterals;
 using catalogos::dosisParaElPaciente;
@@ -33,31 +27,6 @@ protected:
         run({"Delete * from Usuarios"});
     }
 };
-
-/// What a person does in the window that opens next.
-void onceOpen(const std::function<void(forms::Form &)> &act)
-{
-    QTimer::singleShot(0, [act] {
-        forms::Form *form = forms::topModal();
-        ASSERT_NE(form, nullptr);
-        act(*form);
-        if (form == forms::topModal()) {
-            ADD_FAILURE() << "the window stays open";
-            form->answer({});
-        }
-    });
-}
-
-/// Closes the box that opens next and keeps what it says.
-void onceTold(QString &text)
-{
-    QTimer::singleShot(0, [&text] {
-        QWidget *box = QApplication::activeModalWidget();
-        text = forms::describeBox(box).value_or(forms::Box{}).text;
-        if (box)
-            box->close();
-    });
-}
 
 template <class Control>
 Control &control(forms::Form &form, const QString &name)
@@ -193,6 +162,8 @@ TEST_F(Catalogues, SearchWithoutHitsAndWithBrokenText)
     tree.cargar();
     const int loaded = nodesOf(view);
     tree.buscar(u"biotipo"_s);
+    const int found = nodesOf(view);
+    EXPECT_GT(found, loaded);
     for (const QString &text : {u"qwertz"_s, u"d'altura"_s, u"["_s + u"zz"_s, u"#?*"_s}) {
         EXPECT_EQ(tree.buscar(text), nullptr) << text.toStdString();
         EXPECT_EQ(view.currentItem(), nullptr);
@@ -200,7 +171,7 @@ TEST_F(Catalogues, SearchWithoutHitsAndWithBrokenText)
         for (int i = 0; i < view.topLevelItemCount(); ++i)
             EXPECT_FALSE(view.topLevelItem(i)->isExpanded());
     }
-    EXPECT_GE(nodesOf(view), loaded);
+    EXPECT_EQ(nodesOf(view), found) << "neither more nor what was there taken away";
 }
 
 TEST_F(Catalogues, ExpandingAllLoadsEveryDiseaseOfTheCategoriesNotYetOpened)
@@ -362,13 +333,13 @@ TEST_F(Catalogues, DiagnosisComesFromTheClassifierOfTheSetting)
     ASSERT_TRUE(only);
     EXPECT_EQ(QString::number(only->id),
               one(u"Select idDiagnosticoCIE from Diagnosticos where idDiagnostico = 'A38'"_s));
-    QString refusal;
-    onceOpen([&](forms::Form &form) {
-        onceTold(refusal);
-        take(u"Cólera"_s)(form);
-    });
-    EXPECT_FALSE(catalogos::eligeDiagnostico());
-    EXPECT_EQ(refusal, u"Seleccione una enfermedad o patología de la última ramificación dentro del CIE10"_s);
+    {
+        Answers answers({u"Aceptar"_s});
+        onceOpen(take(u"Cólera"_s));
+        EXPECT_FALSE(catalogos::eligeDiagnostico());
+        EXPECT_EQ(answers.last(),
+                  u"Seleccione una enfermedad o patología de la última ramificación dentro del CIE10"_s);
+    }
 
     onceOpen([](forms::Form &form) { form.reject(); });
     EXPECT_FALSE(catalogos::eligeDiagnostico());
@@ -377,9 +348,9 @@ TEST_F(Catalogues, DiagnosisComesFromTheClassifierOfTheSetting)
     BaseDatos.execute(u"INSERT INTO Niveles (Nivel, Descripcion) VALUES (9, 'Sin derechos')"_s);
     MODULE11::UsuarioActual = u"Ana"_s;
     MODULE11::NivelActual = 9;
-    onceTold(refusal);
+    Answers answers({u"Aceptar"_s});
     EXPECT_FALSE(catalogos::eligeDiagnostico());
-    EXPECT_EQ(refusal, u"Nivel no permitido para el usuario Ana"_s);
+    EXPECT_EQ(answers.last(), u"Nivel no permitido para el usuario Ana"_s);
 }
 
 TEST_F(Catalogues, ClassificationOpensAtTheNodeOfItsTag)

@@ -4,7 +4,6 @@
 #include "guion/windows.h"
 #include "platform/basic/environment.h"
 #include "platform/forms/form.h"
-#include "platform/forms/twips.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -20,9 +19,14 @@ namespace guion
 namespace
 {
 
-QWidget *reachable(const Step &step, std::size_t place = 1)
+Target target(const Step &step, std::size_t place = 1)
 {
     return findReachable(parseAddress(step.at(place).raw));
+}
+
+QWidget *reachable(const Step &step)
+{
+    return findReachableWidget(parseAddress(step.at(1).raw));
 }
 
 bool truth(const Word &word)
@@ -57,8 +61,7 @@ Deed chooseMenu(Stage &, const Step &step)
 template <Click kind>
 Deed pressMouse(Stage &, const Step &step)
 {
-    QWidget *widget = reachable(step);
-    return [widget] { click(widget, kind); };
+    return [pressed = target(step)] { click(pressed, kind); };
 }
 
 Deed write(Stage &, const Step &step)
@@ -131,10 +134,8 @@ Deed strikeKey(Stage &, const Step &step)
 
 Deed dragOnto(Stage &, const Step &step)
 {
-    QWidget *source = reachable(step, 1);
-    QWidget *target = reachable(step, 2);
-    const QPointF place(forms::toPixels(number(step.at(3))), forms::toPixels(number(step.at(4))));
-    return [source, target, place] { drag(source, target, place.toPoint()); };
+    const QPointF place(number(step.at(3)), number(step.at(4)));
+    return [source = target(step, 1), onto = target(step, 2), place] { drag(source, onto, place); };
 }
 
 QWidget *window(const Step &step)

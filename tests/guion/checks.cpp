@@ -79,11 +79,11 @@ Deed see(Stage &, const Step &step)
     const auto property = takeProperty(address);
     const Word &op = step.at(2);
     const Word &expected = step.at(3);
-    const QObject *object = find(address);
+    const Target target = find(address);
     const bool readsText = !property || property->name == u"Caption";
-    if (readsText && op.text == u"==" && rawText(*object) == expected.text)
+    if (readsText && op.text == u"==" && rawText(target) == expected.text)
         return {}; // a caption may be given with its mnemonic's mark
-    compare(property ? readProperty(*object, *property) : visibleText(*object), op, expected);
+    compare(property ? readProperty(target, *property) : visibleText(target), op, expected);
     return {};
 }
 

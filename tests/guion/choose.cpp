@@ -71,14 +71,26 @@ void clickIndex(QAbstractItemView *view, const QModelIndex &index, Qt::KeyboardM
             Click::Single, keys);
 }
 
+bool inSight(const QTreeWidgetItem &node)
+{
+    const QTreeWidgetItem *parent = node.parent();
+    return !node.isHidden() && (!parent || (parent->isExpanded() && inSight(*parent)));
+}
+
+/// By its text any node, with the branches above it opened; by its number one of those in sight.
 void chooseInTree(QTreeWidget *tree, const Word &entry)
 {
-    QList<QTreeWidgetItem *> items;
-    QStringList texts;
-    for (QTreeWidgetItemIterator it(tree); *it; ++it) {
-        items.append(*it);
-        texts.append((*it)->text(0));
+    bool number = false;
+    entry.text.toInt(&number);
+    QList<QTreeWidgetItem *> items = visibleNodes(*tree);
+    if (!number || entry.quoted) {
+        items.clear();
+        for (QTreeWidgetItemIterator it(tree, QTreeWidgetItemIterator::NotHidden); *it; ++it)
+            items.append(*it);
     }
+    QStringList texts;
+    for (const QTreeWidgetItem *item : items)
+        texts.append(item->text(0));
     QTreeWidgetItem *item = items[placeOf(entry, texts)];
     for (QTreeWidgetItem *parent = item->parent(); parent; parent = parent->parent())
         parent->setExpanded(true);
@@ -151,6 +163,15 @@ bool pathTo(QMenu *menu, const QAction *action, QList<QMenu *> &path)
 }
 
 } // namespace
+
+QList<QTreeWidgetItem *> visibleNodes(const QTreeWidget &tree)
+{
+    QList<QTreeWidgetItem *> nodes;
+    for (QTreeWidgetItemIterator it(const_cast<QTreeWidget *>(&tree)); *it; ++it)
+        if (inSight(**it))
+            nodes.append(*it);
+    return nodes;
+}
 
 void choose(QWidget *control, const Word &entry)
 {

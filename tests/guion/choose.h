@@ -3,14 +3,20 @@
 #include "guion/script.h"
 
 #include <QDate>
+#include <QList>
 #include <QTime>
 #include <QWidget>
 
 class QAction;
+class QTreeWidget;
+class QTreeWidgetItem;
 
 /// Choosing in lists, trees, tabs, calendars, grids and menus.
 namespace guion
 {
+
+/// The nodes of a tree that are not folded away, from top to bottom.
+QList<QTreeWidgetItem *> visibleNodes(const QTreeWidget &tree);
 
 /// Selects an entry by its whole text, or by its 0-based index when `entry` is a bare number.
 void choose(QWidget *control, const Word &entry);

@@ -1,9 +1,10 @@
 #include "guion/gestures.h"
 
 #include "guion/script.h"
-#include "guion/windows.h"
+#include "platform/forms/twips.h"
 
 #include <QAbstractItemView>
+#include <QAbstractSlider>
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QCheckBox>
@@ -100,6 +101,8 @@ void clickAt(QWidget *widget, QPoint place, Click kind, Qt::KeyboardModifiers ke
         QTest::mouseClick(widget, Qt::LeftButton, keys, place);
         if (self)
             QTest::mouseDClick(widget, Qt::LeftButton, keys, place);
+        if (self)
+            QTest::mouseRelease(widget, Qt::LeftButton, keys, place);
     } else {
         QTest::mouseClick(widget, Qt::LeftButton, keys, place);
     }
@@ -118,18 +121,77 @@ void click(QWidget *widget, Click kind)
         clickAt(widget, naturalPlace(widget), kind);
 }
 
-void drag(QWidget *source, QWidget *target, QPoint place)
+namespace
 {
-    bringForward(source);
-    const QPointer<QWidget> self(source);
-    const QPointF from = source->rect().center();
-    const QPointF to = source->mapFromGlobal(target->mapToGlobal(QPointF(place)));
-    sendMouse(source, QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+
+/// A place of a control or of a drawing, on the widget that takes the mouse there.
+struct Spot {
+    QWidget *widget;
+    QPoint place;
+};
+
+forms::Drawn *drawingOf(const Target &target)
+{
+    return dynamic_cast<forms::Drawn *>(target.object);
+}
+
+Spot revealed(forms::Drawn &drawing, QPointF twips)
+{
+    const Spot spot{&drawing.surface(), drawing.reveal(twips)};
+    for (QWidget *ancestor = spot.widget; ancestor; ancestor = ancestor->parentWidget())
+        if (auto *area = qobject_cast<QScrollArea *>(ancestor)) {
+            const QPoint place = spot.widget->mapTo(area->widget(), spot.place);
+            area->ensureVisible(place.x(), place.y());
+        }
+    return spot;
+}
+
+Spot gripOf(const Target &target)
+{
+    if (target.drawn)
+        return revealed(*drawingOf(target), drawingOf(target)->grip(*target.drawn));
+    auto *widget = qobject_cast<QWidget *>(target.object);
+    return {widget, widget->rect().center()};
+}
+
+Spot spotOf(const Target &target, QPointF twips)
+{
+    if (forms::Drawn *drawing = drawingOf(target))
+        return revealed(*drawing, target.drawn ? target.drawn->place.topLeft() + twips : twips);
+    return {qobject_cast<QWidget *>(target.object), (twips / forms::twipsPerPixel).toPoint()};
+}
+
+} // namespace
+
+void click(const Target &target, Click kind)
+{
+    forms::Drawn *drawing = drawingOf(target);
+    if (!drawing)
+        return click(qobject_cast<QWidget *>(target.object), kind);
+    const Spot spot =
+        target.drawn ? gripOf(target) : Spot{&drawing->surface(), drawing->surface().rect().center()};
+    if (spot.widget->focusPolicy() & Qt::ClickFocus)
+        spot.widget->setFocus(Qt::MouseFocusReason);
+    clickAt(spot.widget, spot.place, kind);
+}
+
+void drag(const Target &source, const Target &target, QPointF twips)
+{
+    // Where it is let go comes into sight first: what is taken hold of must still be there.
+    spotOf(target, twips);
+    const Spot from = gripOf(source);
+    const Spot to = spotOf(target, twips);
+    bringForward(from.widget);
+    const QPointer<QWidget> self(from.widget);
+    const QPointF start = from.place;
+    const QPointF end = from.widget->mapFromGlobal(to.widget->mapToGlobal(QPointF(to.place)));
+    sendMouse(from.widget, QEvent::MouseButtonPress, start, Qt::LeftButton, Qt::LeftButton);
     constexpr int moves = 4;
     for (int i = 1; i <= moves && self; ++i)
-        sendMouse(source, QEvent::MouseMove, from + (to - from) * i / moves, Qt::NoButton, Qt::LeftButton);
+        sendMouse(from.widget, QEvent::MouseMove, start + (end - start) * i / moves, Qt::NoButton,
+                  Qt::LeftButton);
     if (self)
-        sendMouse(source, QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+        sendMouse(from.widget, QEvent::MouseButtonRelease, end, Qt::LeftButton, Qt::NoButton);
 }
 
 void focus(QWidget *widget)
@@ -153,8 +215,32 @@ void typeInto(QWidget *widget, const QString &text)
     }
 }
 
+namespace
+{
+
+void slideTo(QAbstractSlider *slider, const QString &text)
+{
+    bool number = false;
+    const int value = text.toInt(&number);
+    if (!number || value < slider->minimum() || value > slider->maximum())
+        throw Failure(QStringLiteral("%1 goes from %2 to %3")
+                          .arg(slider->objectName())
+                          .arg(slider->minimum())
+                          .arg(slider->maximum()));
+    focus(slider);
+    slider->setSliderDown(true);
+    slider->setSliderPosition(value);
+    slider->setSliderDown(false);
+}
+
+} // namespace
+
 void replaceText(QWidget *control, const QString &text)
 {
+    if (auto *slider = qobject_cast<QAbstractSlider *>(control)) {
+        slideTo(slider, text);
+        return;
+    }
     if (auto *date = qobject_cast<QTimeEdit *>(control)) {
         // Its parts are typed one by one and correct each other on the way; the whole is what is meant.
         const QTime moment = QTime::fromString(text, date->displayFormat());

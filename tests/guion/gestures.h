@@ -1,5 +1,7 @@
 #pragma once
 
+#include "guion/windows.h"
+
 #include <QPoint>
 #include <QString>
 #include <QWidget>
@@ -10,9 +12,10 @@ namespace guion
 
 enum class Click { Single, Double, Right };
 void click(QWidget *widget, Click kind);
+void click(const Target &target, Click kind);
 void clickAt(QWidget *widget, QPoint place, Click kind = Click::Single, Qt::KeyboardModifiers keys = {});
-/// Presses on the middle of `source`, moves and lets go at a place of `target`.
-void drag(QWidget *source, QWidget *target, QPoint place);
+/// Takes hold of the middle of `source`, moves and lets go at a place of `target`, in twips from its corner.
+void drag(const Target &source, const Target &target, QPointF twips);
 
 /// Gives the widget the focus. Throws Failure when it takes none.
 void focus(QWidget *widget);

@@ -56,6 +56,16 @@ Result readRecord(const QString &file)
     return {numbers[0].toInt(), numbers[1].toInt(), numbers[2].trimmed().toInt()};
 }
 
+/// The screen of a desk, for the platform plugin that shows nothing.
+QString screen(const QDir &root)
+{
+    QFile file(root.filePath(QStringLiteral("pantalla.json")));
+    if (file.open(QIODevice::WriteOnly))
+        file.write(R"({"screens": [{"name": "escritorio", "x": 0, "y": 0, "width": 1366, "height": 768,
+                       "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    return QStringLiteral("offscreen:configfile=") + file.fileName();
+}
+
 /// Everything the program writes to lies below one folder of its own.
 QProcessEnvironment environmentIn(const QDir &root)
 {
@@ -73,8 +83,9 @@ QProcessEnvironment environmentIn(const QDir &root)
         environment.insert(QStringLiteral("GUION_CAPTURAS"), QDir(pictures).absolutePath());
     const bool display = environment.contains(QStringLiteral("DISPLAY")) ||
                          environment.contains(QStringLiteral("WAYLAND_DISPLAY"));
-    if (!display && !environment.contains(QStringLiteral("QT_QPA_PLATFORM")))
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    const QString plugin = environment.value(QStringLiteral("QT_QPA_PLATFORM"));
+    if (plugin == u"offscreen" || (!display && plugin.isEmpty()))
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), screen(root));
     QFile::setPermissions(root.filePath(QStringLiteral("sesion")),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     return environment;

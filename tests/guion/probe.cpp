@@ -1,7 +1,8 @@
 #include "guion/probe.h"
 
+#include "guion/choose.h"
 #include "guion/compare.h"
-#include "guion/windows.h"
+#include "platform/forms/chart.h"
 #include "platform/forms/colour.h"
 #include "platform/forms/dtpicker.h"
 #include "platform/forms/tag.h"
@@ -9,6 +10,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QAbstractSlider>
 #include <QAction>
 #include <QCalendarWidget>
 #include <QComboBox>
@@ -27,7 +29,6 @@
 #include <QTextEdit>
 #include <QTimeEdit>
 #include <QTreeWidget>
-#include <QTreeWidgetItemIterator>
 
 #include <functional>
 #include <map>
@@ -63,14 +64,6 @@ QString cell(const QAbstractItemModel &model, int row, int column)
     return model.index(row, column).data().toString();
 }
 
-std::vector<const QTreeWidgetItem *> nodes(const QTreeWidget &tree)
-{
-    std::vector<const QTreeWidgetItem *> all;
-    for (QTreeWidgetItemIterator it(const_cast<QTreeWidget *>(&tree)); *it; ++it)
-        all.push_back(*it);
-    return all;
-}
-
 QStringList entries(const QObject &object, bool &known)
 {
     QStringList texts;
@@ -85,8 +78,11 @@ QStringList entries(const QObject &object, bool &known)
         for (int i = 0; i < tabs->count(); ++i)
             texts.append(withoutMnemonic(tabs->tabText(i)));
     } else if (const auto *tree = as<QTreeWidget>(object)) {
-        for (const QTreeWidgetItem *node : nodes(*tree))
+        for (const QTreeWidgetItem *node : visibleNodes(*tree))
             texts.append(node->text(0));
+    } else if (const auto *chart = dynamic_cast<const forms::Charted *>(&object)) {
+        for (const forms::ChartValue &entry : chart->chartValues())
+            texts.append(entry.label + u'=' + scriptForm(basic::Value(entry.value)));
     } else {
         known = false;
     }
@@ -121,10 +117,56 @@ std::optional<QString> listIndex(const QObject &object, const Arguments &)
     if (const auto *tabs = as<QTabWidget>(object))
         return QString::number(tabs->currentIndex());
     if (const auto *tree = as<QTreeWidget>(object)) {
-        const auto all = nodes(*tree);
-        const auto place = std::find(all.begin(), all.end(), tree->currentItem());
-        return QString::number(place == all.end() ? -1 : place - all.begin());
+        return QString::number(visibleNodes(*tree).indexOf(tree->currentItem()));
     }
+    return {};
+}
+
+QString currentCell(const QAbstractItemView &view)
+{
+    return view.currentIndex().data().toString();
+}
+
+/// With the mnemonic's mark.
+QString captionOf(const QObject &object)
+{
+    if (const auto *button = as<QAbstractButton>(object))
+        return button->text();
+    if (const auto *group = as<QGroupBox>(object))
+        return group->title();
+    if (const auto *action = as<QAction>(object))
+        return action->text();
+    if (const auto *label = as<QLabel>(object))
+        return label->text();
+    return {};
+}
+
+QString textOf(const QObject &object)
+{
+    if (const auto *line = as<QLineEdit>(object))
+        return line->text();
+    if (const auto *memo = as<QPlainTextEdit>(object))
+        return memo->toPlainText();
+    if (const auto *rich = as<QTextEdit>(object))
+        return rich->toPlainText();
+    if (const auto *combo = as<QComboBox>(object))
+        return combo->currentText();
+    if (const auto *label = as<QLabel>(object))
+        return label->buddy() ? withoutMnemonic(label->text()) : label->text();
+    if (const auto *spin = as<QAbstractSpinBox>(object))
+        return spin->text();
+    if (const auto *calendar = as<QCalendarWidget>(object))
+        return calendar->selectedDate().toString(u"dd/MM/yyyy");
+    if (const auto *tabs = as<QTabWidget>(object))
+        return withoutMnemonic(tabs->tabText(tabs->currentIndex()));
+    if (const auto *view = as<QAbstractItemView>(object))
+        return currentCell(*view);
+    if (const auto *bar = as<QStatusBar>(object))
+        return bar->currentMessage();
+    if (as<QAbstractButton>(object) || as<QGroupBox>(object) || as<QAction>(object))
+        return withoutMnemonic(captionOf(object));
+    if (const auto *widget = as<QWidget>(object))
+        return widget->windowTitle();
     return {};
 }
 
@@ -144,7 +186,9 @@ std::optional<QString> value(const QObject &object, const Arguments &)
         return QString::number(number->value());
     if (const auto *bar = as<QProgressBar>(object))
         return QString::number(bar->value());
-    return visibleText(object);
+    if (const auto *slider = as<QAbstractSlider>(object))
+        return QString::number(slider->value());
+    return textOf(object);
 }
 
 const QAbstractItemModel *gridModel(const QObject &object)
@@ -233,7 +277,7 @@ std::optional<QString> visible(const QObject &object, const Arguments &)
 
 const std::map<QString, Reader> &readers()
 {
-    static const Reader text = [](const QObject &object, const Arguments &) { return visibleText(object); };
+    static const Reader text = [](const QObject &object, const Arguments &) { return textOf(object); };
     static const std::map<QString, Reader> table{
         {"Caption", text},
         {"Text", text},
@@ -264,61 +308,37 @@ const std::map<QString, Reader> &readers()
     return table;
 }
 
-QString currentCell(const QAbstractItemView &view)
+/// What is read of a drawn item; its place counts from the corner of the drawing.
+const std::map<QString, QString (*)(const forms::DrawnItem &)> &drawnReaders()
 {
-    return view.currentIndex().data().toString();
+    using Item = forms::DrawnItem;
+    static const std::map<QString, QString (*)(const Item &)> table{
+        {"Caption", [](const Item &i) { return i.caption; }},
+        {"Text", [](const Item &i) { return i.caption; }},
+        {"ToolTipText", [](const Item &i) { return i.toolTip; }},
+        {"Tag", [](const Item &i) { return i.tag; }},
+        {"Enabled", [](const Item &i) { return scriptForm(i.enabled); }},
+        {"BackColor", [](const Item &i) { return QString::number(forms::toColourValue(i.backColor)); }},
+        {"ForeColor", [](const Item &i) { return QString::number(forms::toColourValue(i.foreColor)); }},
+        {"Left", [](const Item &i) { return QString::number(qRound(i.place.left())); }},
+        {"Top", [](const Item &i) { return QString::number(qRound(i.place.top())); }},
+        {"Width", [](const Item &i) { return QString::number(qRound(i.place.width())); }},
+        {"Height", [](const Item &i) { return QString::number(qRound(i.place.height())); }},
+    };
+    return table;
 }
 
-} // namespace
-
-QString rawText(const QObject &object)
+std::optional<QString> readDrawn(const Target &target, const QString &property)
 {
-    if (const auto *button = as<QAbstractButton>(object))
-        return button->text();
-    if (const auto *group = as<QGroupBox>(object))
-        return group->title();
-    if (const auto *action = as<QAction>(object))
-        return action->text();
-    if (const auto *label = as<QLabel>(object))
-        return label->text();
-    return visibleText(object);
+    if (property == u"Visible") {
+        const auto *drawing = qobject_cast<const QWidget *>(target.object);
+        return scriptForm(target.drawn->visible && drawing->isVisible());
+    }
+    const auto reader = drawnReaders().find(property);
+    return reader == drawnReaders().end() ? std::nullopt : std::optional(reader->second(*target.drawn));
 }
 
-QString visibleText(const QObject &object)
-{
-    if (const auto *line = as<QLineEdit>(object))
-        return line->text();
-    if (const auto *memo = as<QPlainTextEdit>(object))
-        return memo->toPlainText();
-    if (const auto *rich = as<QTextEdit>(object))
-        return rich->toPlainText();
-    if (const auto *combo = as<QComboBox>(object))
-        return combo->currentText();
-    if (const auto *label = as<QLabel>(object))
-        return label->buddy() ? withoutMnemonic(label->text()) : label->text();
-    if (const auto *spin = as<QAbstractSpinBox>(object))
-        return spin->text();
-    if (const auto *calendar = as<QCalendarWidget>(object))
-        return calendar->selectedDate().toString(u"dd/MM/yyyy");
-    if (const auto *tabs = as<QTabWidget>(object))
-        return withoutMnemonic(tabs->tabText(tabs->currentIndex()));
-    if (const auto *view = as<QAbstractItemView>(object))
-        return currentCell(*view);
-    if (const auto *bar = as<QStatusBar>(object))
-        return bar->currentMessage();
-    if (as<QAbstractButton>(object) || as<QGroupBox>(object) || as<QAction>(object))
-        return withoutMnemonic(rawText(object));
-    if (const auto *widget = as<QWidget>(object))
-        return widget->windowTitle();
-    return {};
-}
-
-bool isPropertyName(const QString &name)
-{
-    return readers().count(name) != 0;
-}
-
-QString readProperty(const QObject &object, const Property &property)
+std::optional<QString> readControl(const QObject &object, const Property &property)
 {
     if (!object.isWidgetType() && !as<QAction>(object)) {
         const QVariant value = object.property(property.name.toUtf8().constData());
@@ -326,7 +346,30 @@ QString readProperty(const QObject &object, const Property &property)
             return value.typeId() == QMetaType::Bool ? scriptForm(value.toBool()) : value.toString();
     }
     const auto reader = readers().find(property.name);
-    const auto read = reader == readers().end() ? std::nullopt : reader->second(object, property.arguments);
+    return reader == readers().end() ? std::nullopt : reader->second(object, property.arguments);
+}
+
+} // namespace
+
+QString rawText(const Target &target)
+{
+    const QString caption = target.drawn ? QString() : captionOf(*target.object);
+    return caption.isEmpty() ? visibleText(target) : caption;
+}
+
+QString visibleText(const Target &target)
+{
+    return target.drawn ? target.drawn->caption : textOf(*target.object);
+}
+
+bool isPropertyName(const QString &name)
+{
+    return readers().count(name) != 0;
+}
+
+QString readProperty(const Target &target, const Property &property)
+{
+    const auto read = target.drawn ? readDrawn(target, property.name) : readControl(*target.object, property);
     if (!read)
         throw Failure(QStringLiteral("the control has no %1").arg(property.name));
     return *read;

@@ -18,7 +18,12 @@ namespace guion
 namespace
 {
 
-constexpr int patienceMs = 5000;
+/// How long a step waits for what it is about; the scripts that must fail do not wait so long for it.
+int patienceMs()
+{
+    const int given = qEnvironmentVariableIntValue("GUION_PACIENCIA");
+    return given > 0 ? given : 5000;
+}
 constexpr int startUpPatienceMs = 60000;
 constexpr int retryMs = 20;
 
@@ -155,7 +160,7 @@ void Runner::prepare(const Step &step, const Command &known, Deed &deed)
 /// True when the step is to be tried again: what it is about may still come.
 bool Runner::waitFor(const Failure &failure)
 {
-    if (!dynamic_cast<const Missing *>(&failure) || waiting_.elapsed() >= patienceMs)
+    if (!dynamic_cast<const Missing *>(&failure) || waiting_.elapsed() >= patienceMs())
         return false;
     next(retryMs);
     return true;

@@ -9,8 +9,10 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QPushButton>
 #include <QStackedWidget>
 #include <QTabWidget>
+#include <QToolButton>
 
 namespace guion
 {
@@ -88,33 +90,45 @@ QWidget *findWidget(QWidget *window, const Address::Part &part)
     return hidden;
 }
 
-/// A widget, or an element that a widget draws itself and keeps as a named object.
-QObject *findControl(QWidget *window, const Address::Part &part)
+/// An item that a widget of the window draws itself; one in sight comes before one that is not.
+Target findDrawn(QWidget *window, const Address::Part &part)
 {
-    QObject *found = findWidget(window, part);
-    return found || part.isCaption ? found : window->findChild<QObject *>(part.name);
+    Target hidden;
+    for (QWidget *widget : window->findChildren<QWidget *>()) {
+        const auto *drawing = dynamic_cast<const forms::Drawn *>(widget);
+        if (!drawing || windowOf(widget) != window)
+            continue;
+        for (const forms::DrawnItem &item : drawing->drawnItems()) {
+            if ((part.isCaption ? item.caption : item.name) != part.name)
+                continue;
+            if (item.visible && widget->isVisible())
+                return {widget, item};
+            hidden = {widget, item};
+        }
+    }
+    return hidden;
 }
 
-QObject *findInActive(const Address::Part &part)
+/// A widget, an item that one draws, or a part of the window without a face: its data, its timers.
+Target findControl(QWidget *window, const Address::Part &part)
+{
+    if (QWidget *widget = findWidget(window, part))
+        return {widget};
+    if (Target drawn = findDrawn(window, part))
+        return drawn;
+    return {part.isCaption ? nullptr : window->findChild<QObject *>(part.name)};
+}
+
+Target findInActive(const Address::Part &part)
 {
     QWidget *window = activeWindow();
     if (!window)
-        return nullptr;
-    QObject *found = findControl(window, part);
+        return {};
+    Target found = findControl(window, part);
     // The bars of the main window stay at hand while a child is active.
     if (!found && !QApplication::activeModalWidget() && mainWindow() && mainWindow() != window)
         found = findControl(mainWindow(), part);
-    return found || part.isCaption ? found : findAction(part.name);
-}
-
-QAction *actionIn(const QWidget *window, const QString &name)
-{
-    for (QAction *action : window->findChildren<QAction *>(name))
-        return action;
-    for (QAction *action : window->actions())
-        if (action->objectName() == name)
-            return action;
-    return nullptr;
+    return found || part.isCaption ? found : Target{findAction(part.name)};
 }
 
 QAction *actionOfMenu(const QMenu *menu, const QString &name)
@@ -126,6 +140,37 @@ QAction *actionOfMenu(const QMenu *menu, const QString &name)
             if (QAction *found = actionOfMenu(action->menu(), name))
                 return found;
     }
+    return nullptr;
+}
+
+/// The menu that a button opens.
+const QMenu *menuOf(const QWidget *widget)
+{
+    if (const auto *button = qobject_cast<const QPushButton *>(widget))
+        return button->menu();
+    const auto *tool = qobject_cast<const QToolButton *>(widget);
+    return tool ? tool->menu() : nullptr;
+}
+
+QAction *actionOf(const QWidget *widget, const QString &name)
+{
+    for (QAction *action : widget->actions())
+        if (action->objectName() == name)
+            return action;
+    const QMenu *menu = menuOf(widget);
+    return menu ? actionOfMenu(menu, name) : nullptr;
+}
+
+/// An item of the window's menus, or of a menu that one of its controls opens.
+QAction *actionIn(const QWidget *window, const QString &name)
+{
+    if (auto *action = window->findChild<QAction *>(name))
+        return action;
+    QList<QWidget *> widgets = window->findChildren<QWidget *>();
+    widgets.prepend(const_cast<QWidget *>(window));
+    for (const QWidget *widget : widgets)
+        if (QAction *action = actionOf(widget, name))
+            return action;
     return nullptr;
 }
 
@@ -185,21 +230,21 @@ QString describeWindows()
     return lines.isEmpty() ? QStringLiteral("none") : lines.join(QStringLiteral(", "));
 }
 
-QObject *find(const Address &address)
+Target find(const Address &address)
 {
     const Address::Part &first = address.parts.front();
     if (address.parts.size() > 2)
         throw Failure(QStringLiteral("%1 is no window and control").arg(shown(address)));
     QWidget *window = findWindow(first);
-    QObject *found = nullptr;
+    Target found;
     if (address.parts.size() == 1)
-        found = window ? window : findInActive(first);
+        found = window ? Target{window} : findInActive(first);
     else if (!window)
         throw Missing(QStringLiteral("no window %1 is open").arg(first.name));
     else
         found = findControl(window, address.parts[1]);
     if (!found && address.parts.size() == 2 && !address.parts[1].isCaption)
-        found = actionIn(window, address.parts[1].name);
+        found = {actionIn(window, address.parts[1].name)};
     if (!found)
         throw Missing(QStringLiteral("there is no control %1").arg(shown(address)));
     return found;
@@ -207,25 +252,37 @@ QObject *find(const Address &address)
 
 QWidget *findWidget(const Address &address)
 {
-    auto *widget = qobject_cast<QWidget *>(find(address));
-    if (!widget)
-        throw Failure(QStringLiteral("%1 is a menu item").arg(shown(address)));
+    const Target found = find(address);
+    auto *widget = qobject_cast<QWidget *>(found.object);
+    if (!widget || found.drawn)
+        throw Failure(QStringLiteral("%1 is no control").arg(shown(address)));
     return widget;
 }
 
-QWidget *findReachable(const Address &address)
+Target findReachable(const Address &address)
 {
-    QWidget *widget = findWidget(address);
+    const Target found = find(address);
+    auto *widget = qobject_cast<QWidget *>(found.object);
+    if (!widget)
+        throw Failure(QStringLiteral("%1 is a menu item").arg(shown(address)));
     turnPagesTo(widget);
     const QWidget *modal = QApplication::activeModalWidget();
     if (modal && widget != modal && !modal->isAncestorOf(widget))
         throw Missing(
             QStringLiteral("%1 lies behind the modal window %2").arg(shown(address), nameOf(modal)));
-    if (!widget->isVisible())
+    if (!widget->isVisible() || (found.drawn && !found.drawn->visible))
         throw Missing(QStringLiteral("%1 is not visible").arg(shown(address)));
-    if (!widget->isEnabled())
+    if (!widget->isEnabled() || (found.drawn && !found.drawn->enabled))
         throw Failure(QStringLiteral("%1 is disabled").arg(shown(address)));
-    return widget;
+    return found;
+}
+
+QWidget *findReachableWidget(const Address &address)
+{
+    const Target found = findReachable(address);
+    if (found.drawn)
+        throw Failure(QStringLiteral("%1 is drawn and takes no such step").arg(shown(address)));
+    return qobject_cast<QWidget *>(found.object);
 }
 
 QAction *findAction(const QString &name)

@@ -1,7 +1,6 @@
 #include "practice.h"
 
 #include "clinical/visits/examen.h"
-#include "core/database/actualiza.h"
 #include "core/session/session.h"
 #include "core/session/startup.h"
 
@@ -33,11 +32,9 @@ protected:
     {
         folder_ = std::make_unique<QTemporaryDir>();
         const QString path = folder_->filePath(u"BASE.MDB"_s);
-        ASSERT_TRUE(QFile::copy(QStringLiteral(DELIVERED_BASE), path));
-        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+        ASSERT_TRUE(QFile::copy(QStringLiteral(UPGRADED_BASE), path));
         MODULE11::valoresIniciales();
         BaseDatos.open(path, false, false, MODULE11::conexionDeLaBase());
-        MODULE11::ActualizaBase();
         practica::Size size;
         size.patients = patients;
         size.visits = visits;

@@ -1,5 +1,7 @@
+#include "answers.h"
 #include "delivered.h"
 
+#include "core/session/screens.h"
 #include "core/session/session.h"
 #include "core/session/startup.h"
 #include "core/windows/Vademecum.h"
@@ -7,18 +9,12 @@
 #include "platform/basic/environment.h"
 #include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
-#include "platform/forms/boxes.h"
 #include "platform/forms/colour.h"
 #include "practice/appointments/herramientaHorarios.h"
 #include "practice/appointments/horarios.h"
 #include "practice/appointments/turnos.h"
 
 #include <gtest/gtest.h>
-
-#include <QAbstractButton>
-#include <QApplication>
-#include <QElapsedTimer>
-#include <QTimer>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -200,31 +196,6 @@ TEST_F(AppointmentBook, badIntervalTouchesNothingAndAFailureKeepsWhatWasWritten)
 namespace
 {
 
-/// Answers the next boxes with these buttons and keeps their texts.
-class Answers : public QObject
-{
-public:
-    explicit Answers(QStringList captions) : captions_(std::move(captions)) { startTimer(5); }
-    QStringList texts;
-
-protected:
-    void timerEvent(QTimerEvent *) override
-    {
-        QWidget *window = QApplication::activeModalWidget();
-        const auto box = window ? forms::describeBox(window) : std::nullopt;
-        if (!box || captions_.isEmpty())
-            return;
-        texts += box->text;
-        const QString caption = captions_.takeFirst();
-        for (auto *button : window->findChildren<QAbstractButton *>())
-            if (button->text().remove(u'&') == caption)
-                button->click();
-    }
-
-private:
-    QStringList captions_;
-};
-
 template <class Control>
 Control *in(QWidget &tool, const char *name)
 {
@@ -243,7 +214,7 @@ TEST_F(AppointmentBook, toolAsksBeforeItWritesAndResetsItsDays)
     const auto press = [&](const char *name, const QStringList &captions) {
         Answers answers(captions);
         in<QAbstractButton>(tool, name)->click();
-        return answers.texts.isEmpty() ? QString() : answers.texts.last();
+        return answers.last();
     };
     EXPECT_TRUE(press("Command7", {u"Cancelar"_s}).startsWith(u"Atención, desea eliminar"));
     EXPECT_EQ(press("Command7", {u"No"_s, u"Aceptar"_s}), u"Error, seleccione un profesional!");
@@ -276,18 +247,15 @@ TEST_F(AppointmentBook, toolAsksBeforeItWritesAndResetsItsDays)
     EXPECT_EQ(one(u"Select count(*) from Turnos"_s), u"0");
 }
 
-TEST_F(AppointmentBook, aYearOfPlacesIsMadeInSeconds)
+TEST_F(AppointmentBook, aYearOfPlacesLeavesTheOtherDaysFree)
 {
     horarios::Esquema year{1, u"Dra. Uno"_s, QDate(2024, 1, 1), QDate(2024, 12, 31), {}, {}, 15};
     year.horas = {QTime(8, 0), QTime(13, 0), QTime(14, 0), QTime(19, 0)};
     for (const std::size_t day : {2u, 3u, 4u, 5u, 6u})
         year.dias.set(day);
-    QElapsedTimer timer;
-    timer.start();
     horarios::aplicar(year, true);
-    RecordProperty("milliseconds", static_cast<int>(timer.elapsed()));
     EXPECT_EQ(one(u"Select count(*) from Turnos"_s), QString::number(262 * 40));
-    EXPECT_LT(timer.elapsed(), 5000);
+    EXPECT_EQ(one(u"Select count(*) from Turnos where Weekday(Fecha) in (1, 7)"_s), u"0");
 }
 
 TEST_F(AppointmentBook, twoStationsSeeEachOthersBookingsAndAStaleOneOverwrites)
@@ -326,15 +294,20 @@ TEST_F(AppointmentBook, mainWindowListsTodaysPatientsOfItsDoctor)
         u"INSERT INTO Turnos (Fecha, Hora, Dr, Paciente, idPaciente) VALUES (cdate('18/03/2024'), '10:00', 'Dr. Dos', 'Ajeno', 8)"_s);
     panInicial welcome;
     forms::Label *count = nullptr;
-    QTimer::singleShot(0, &welcome, [&] {
-        count = welcome.findChild<forms::Label *>(u"Label4"_s);
+    onceOpen([&](forms::Form &form) {
+        count = form.findChild<forms::Label *>(u"Label4"_s);
         EXPECT_EQ(count->text(), u"(tiene asignado 4 turnos para hoy.)"); // free places count too
-        welcome.unload();
+        form.unload();
     });
     welcome.showModal();
     EXPECT_NE(count, nullptr);
 
     Vademecum window;
+    auto *timer = window.findChild<QTimer *>(u"Timer1"_s);
+    ASSERT_NE(timer, nullptr);
+    EXPECT_TRUE(timer->isActive());
+    EXPECT_EQ(timer->interval(), 65534);
+    const auto tick = [timer] { QMetaObject::invokeMethod(timer, "timeout"); };
     const auto names = [&] {
         QStringList texts;
         for (const auto *label : window.findChildren<forms::Label *>())
@@ -343,12 +316,18 @@ TEST_F(AppointmentBook, mainWindowListsTodaysPatientsOfItsDoctor)
         return texts;
     };
     EXPECT_TRUE(names().isEmpty());
-    window.actualizarPacientesDeHoy();
+    tick();
     EXPECT_EQ(names(), (QStringList{"De las 09:00 7", "De las 09:40 7"}));
+    // A name in the bar opens the patient's record.
+    run({"Delete * from Usuarios"});
+    screens::add("panVisitas", [] { return std::make_unique<forms::Form>(u"panVisitas"_s); });
+    emit window.findChild<forms::Label *>(u"lblPac(1)"_s)->clicked();
+    EXPECT_EQ(forms::openForms().last()->name(), u"panVisitas"_s);
+    EXPECT_EQ(forms::openForms().last()->tag(), u"7"_s);
     BaseDatos.execute(u"Update Turnos set idPaciente = 0 where Hora = '09:40'"_s);
-    window.actualizarPacientesDeHoy();
+    tick();
     EXPECT_EQ(names(), QStringList{"De las 09:00 7"});
     BaseDatos.execute(u"Update Turnos set Fecha = cdate('19/03/2024') where Hora = '09:00'"_s);
-    window.actualizarPacientesDeHoy();
+    tick();
     EXPECT_TRUE(names().isEmpty());
 }

@@ -1,34 +1,20 @@
-#include "core/session/session.h"
-#include "platform/basic/environment.h"
+#include "delivered.h"
+
 #include "practice/professionals/calendarioAnual.h"
-
-#include <QElapsedTimer>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
 
-class CalendarioTest : public testing::Test
+class CalendarioTest : public DeliveredBase
 {
 protected:
     void SetUp() override
     {
-        MODULE11::BaseDatos.create(carpeta.filePath(u"BASE.MDB"_s), u";PWD=prueba"_s);
-        MODULE11::BaseDatos.execute(
-            u"CREATE TABLE DisTurnos (idProfesional LONG, Fecha DATE, desde1 TEXT(5), hasta1 TEXT(5),"
-            " desde2 TEXT(5), hasta2 TEXT(5))"_s);
+        DeliveredBase::SetUp();
         basic::setClock(QDateTime(QDate(2024, 3, 15), QTime(10, 30)));
     }
-    void TearDown() override
-    {
-        basic::setClock({});
-        MODULE11::BaseDatos.close();
-    }
-
     void atiende(qint64 profesional, QDate dia, const char16_t *desde = u"08:00")
     {
         dao::Recordset filas = MODULE11::BaseDatos.openRecordset(u"DisTurnos"_s);
@@ -38,8 +24,6 @@ protected:
         filas[u"desde1"] = desde;
         filas.update();
     }
-
-    QTemporaryDir carpeta;
 };
 
 QStringList negritas(const practice::CalendarioAnual &calendario)
@@ -73,25 +57,6 @@ TEST_F(CalendarioTest, WorkingDaysOfTheYearInViewAreBold)
     calendario.setProfesional(2);
     ano->setText(u"2024"_s);
     EXPECT_EQ(negritas(calendario), QStringList{u"2024-05-05"_s});
-}
-
-TEST_F(CalendarioTest, AFullYearIsDrawnAtOnce)
-{
-    MODULE11::BaseDatos.beginTrans();
-    for (int i = 0; i < 250; ++i)
-        atiende(1, QDate(2024, 1, 1).addDays(i));
-    MODULE11::BaseDatos.commitTrans();
-    practice::CalendarioAnual calendario;
-    calendario.resize(860, 300);
-    calendario.setProfesional(2);
-    calendario.grab();
-    QElapsedTimer reloj;
-    reloj.start();
-    calendario.setProfesional(1);
-    calendario.grab();
-    EXPECT_LT(reloj.elapsed(), 100);
-    RecordProperty("milliseconds", std::to_string(reloj.elapsed()));
-    EXPECT_EQ(negritas(calendario).size(), 250);
 }
 
 } // namespace

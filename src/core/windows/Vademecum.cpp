@@ -76,6 +76,7 @@ Vademecum::Vademecum()
     setStatusBar(&StatusBar1);
     resize(1280, 720);
 
+    Timer1.setParent(this);
     connect(&Timer1, &QTimer::timeout, this, &Vademecum::timer1Timer);
     Timer1.start();
 }

@@ -9,11 +9,6 @@
 namespace charts
 {
 
-Marcador::Marcador(int indice, QPointF centro, QString tip) : centro_(centro), tip_(std::move(tip))
-{
-    setObjectName(QStringLiteral("eldot(%1)").arg(indice));
-}
-
 CapaDeMarcadores::CapaDeMarcadores(QWidget *parent, QPointF origen) : QWidget(parent), origen_(origen)
 {
     setObjectName(QStringLiteral("capaDeMarcadores"));
@@ -27,15 +22,29 @@ void CapaDeMarcadores::quitar()
 
 void CapaDeMarcadores::poner(QPointF centro, const QString &tip)
 {
-    eldot_.push_back(std::make_unique<Marcador>(static_cast<int>(eldot_.size()), centro, tip));
-    eldot_.back()->setParent(this);
+    eldot_.push_back({QRectF(centro - QPointF(lado, lado) / 2, QSizeF(lado, lado)), tip});
     update();
+}
+
+std::vector<forms::DrawnItem> CapaDeMarcadores::drawnItems() const
+{
+    std::vector<forms::DrawnItem> items;
+    for (const Marcador &marcador : eldot_) {
+        items.push_back({QStringLiteral("eldot(%1)").arg(items.size()), marcador.lugar});
+        items.back().toolTip = marcador.tip;
+    }
+    return items;
+}
+
+QPoint CapaDeMarcadores::reveal(QPointF twips)
+{
+    return ((twips - origen_) / forms::twipsPerPixel).toPoint();
 }
 
 void CapaDeMarcadores::paintEvent(QPaintEvent *event)
 {
     // One drawing of the marker serves all: it is stamped at each point.
-    const double pixels = forms::toPixels(Marcador::lado);
+    const double pixels = forms::toPixels(lado);
     const double ratio = devicePixelRatioF() * 2;
     QPixmap sello(QSize(static_cast<int>(pixels * ratio), static_cast<int>(pixels * ratio)));
     sello.setDevicePixelRatio(ratio);
@@ -49,19 +58,19 @@ void CapaDeMarcadores::paintEvent(QPaintEvent *event)
     }
     QPainter painter(this);
     const QRectF visible = QRectF(event->rect()).adjusted(-pixels, -pixels, pixels, pixels);
-    for (const auto &marcador : eldot_) {
-        const QPointF esquina = (QPointF(marcador->left(), marcador->top()) - origen_) / forms::twipsPerPixel;
+    for (const Marcador &marcador : eldot_) {
+        const QPointF esquina = (marcador.lugar.topLeft() - origen_) / forms::twipsPerPixel;
         if (visible.contains(esquina))
             painter.drawPixmap(esquina, sello);
     }
 }
 
-const Marcador *CapaDeMarcadores::en(QPointF pixel) const
+const CapaDeMarcadores::Marcador *CapaDeMarcadores::en(QPointF pixel) const
 {
     const QPointF twips = pixel * forms::twipsPerPixel + origen_;
     for (auto marcador = eldot_.rbegin(); marcador != eldot_.rend(); ++marcador)
-        if (QRectF((*marcador)->left(), (*marcador)->top(), Marcador::lado, Marcador::lado).contains(twips))
-            return marcador->get();
+        if (marcador->lugar.contains(twips))
+            return &*marcador;
     return nullptr;
 }
 
@@ -71,7 +80,7 @@ bool CapaDeMarcadores::event(QEvent *event)
         return QWidget::event(event);
     const auto *help = static_cast<QHelpEvent *>(event);
     if (const Marcador *marcador = en(help->pos()))
-        QToolTip::showText(help->globalPos(), marcador->tip(), this);
+        QToolTip::showText(help->globalPos(), marcador->tip, this);
     else
         QToolTip::hideText();
     return true;

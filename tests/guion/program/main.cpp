@@ -1,9 +1,9 @@
 // The runner of the scripts over the whole program.
 #include "guion/program.h"
+#include "guion/script.h"
 
 #include "subsystems.h"
 
-#include "core/database/actualiza.h"
 #include "core/session/ending.h"
 #include "core/session/session.h"
 #include "core/session/startup.h"
@@ -26,14 +26,9 @@ public:
     {
         guion::copyDelivered(QStringLiteral(DELIVERED), folder);
         const QString base = QDir(folder).filePath(databaseFile());
-        if (!withDatabase) {
-            QFile::remove(base);
-            return;
-        }
-        MODULE11::valoresIniciales();
-        MODULE11::BaseDatos.open(base, false, false, connect());
-        MODULE11::ActualizaBase();
-        MODULE11::BaseDatos.close();
+        QFile::remove(base);
+        if (withDatabase && !QFile::copy(QStringLiteral(UPGRADED_BASE), base))
+            throw guion::Failure(QStringLiteral("the database cannot be delivered"));
     }
 
     bool start(const QString &word) override

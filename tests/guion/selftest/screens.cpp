@@ -1,6 +1,7 @@
 #include "screens.h"
 
 #include "datos.h"
+#include "dibujo.h"
 #include "platform/basic/environment.h"
 #include "platform/basic/errors.h"
 #include "platform/forms/boxes.h"
@@ -244,6 +245,8 @@ Principal::Principal()
     connect(addItem(menu, u"menuHija"_s, u"Hija"_s), &QAction::triggered, this, &Principal::openChild);
     connect(addItem(menu, u"menuDatos"_s, u"Datos"_s), &QAction::triggered, this,
             [] { panDatos().showModal(); });
+    connect(addItem(menu, u"menuDibujo"_s, u"Dibujo"_s), &QAction::triggered, this,
+            [] { panDibujo().showModal(); });
     connect(addItem(menu, u"menuFin"_s, u"Salir"_s), &QAction::triggered, this,
             [] { QCoreApplication::exit(); });
     connect(addItem(menu, u"menuCae"_s, u"Cae"_s), &QAction::triggered, this, [] { std::abort(); });

@@ -1,3 +1,4 @@
+#include "answers.h"
 #include "platform/basic/environment.h"
 #include "platform/dao/database.h"
 #include "platform/forms/controls.h"
@@ -190,13 +191,8 @@ TEST_F(DataTest, gridStaysOnARowThatCannotBeWritten)
     data.refresh();
     grid.setSource(data, {{u"Artículo"_s, u"Nombre"_s}});
     price.setText(u"caro"_s);
-    bool told = false;
-    QTimer::singleShot(0, qApp, [&] {
-        told = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        QApplication::activeModalWidget()->close();
-    });
+    Answers answers({u"Aceptar"_s});
     grid.setCurrentRow(2);
-    EXPECT_TRUE(told);
     EXPECT_EQ(grid.currentRow(), 0);
     EXPECT_EQ(price.text(), u"caro"_s);
 }

@@ -1,3 +1,4 @@
+#include "answers.h"
 #include "platform/forms/boxes.h"
 #include "platform/forms/controlarray.h"
 #include "platform/forms/controls.h"
@@ -80,7 +81,7 @@ TEST(Form, hearsOfItsActivationAfterAnotherFormAndNotAfterABox)
 {
     Counting outer(u"panAfuera"_s), inner(u"panAdentro"_s);
     whileWaiting([&] {
-        whileWaiting([] { QApplication::activeModalWidget()->close(); });
+        Answers answers({u"Aceptar"_s});
         forms::msgBox(u"texto"_s, forms::Icon::None, u"Aviso"_s);
         EXPECT_EQ(outer.activations, 1);
         whileWaiting([&] { inner.unload(); });
