@@ -1,7 +1,6 @@
 #include "platform/dao/database.h"
 
 #include "platform/dao/embedded/embeddedengine.h"
-#include "platform/dao/embedded/emitter.h"
 #include "platform/dao/embedded/key.h"
 
 #include <QDir>
@@ -9,8 +8,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-
-#include ENGINE_HEADER
 
 /// Work on a closed file as a whole. Both operations write a new file under another name first, so that a
 /// failure midway leaves what there was.
@@ -82,7 +79,7 @@ private:
     void reopen()
     {
         source_.reset(); // a connection that has met a damaged page reads no more
-        source_ = openEmbedded(from_, password_, {.readOnly = true, .salvage = true});
+        source_ = openEmbedded(from_, password_, {.as = {.readOnly = true}, .salvage = true});
     }
 
     void copyIndex(const Table &table, IndexDef index)
@@ -135,7 +132,7 @@ private:
         sequence->bind(0, highest);
         sequence->bind(1, table.name);
         if (highest < qint64(1) << 40)
-            sequence->step();
+            sequence->run();
     }
 
     /// Copies the rows of a range of keys; on a damaged page what lies before it and behind it, then each
@@ -170,10 +167,9 @@ private:
             const StatementRun run(*select);
             select->bind(0, first);
             select->bind(1, last);
-            auto *const from = statementOf(*select);
             while (select->step()) {
                 reached = select->integer(0);
-                copyRow(from);
+                copyRow(*select);
             }
             return {};
         } catch (const Error &) {
@@ -183,18 +179,29 @@ private:
         }
     }
 
-    static sqlite3_stmt *statementOf(EngineStatement &statement)
+    void copyRow(const EngineStatement &from)
     {
-        return static_cast<sqlite3_stmt *>(statement.nativeHandle());
-    }
-
-    void copyRow(sqlite3_stmt *from)
-    {
-        sqlite3_stmt *const to = statementOf(*insert_);
-        for (int i = 0; i < columns_; ++i)
-            sqlite3_bind_value(to, i + 1, sqlite3_column_value(from, i));
-        const StatementRun run(*insert_);
-        insert_->step();
+        using Cell = EngineStatement::Cell;
+        cells_.resize(static_cast<size_t>(columns_));
+        from.cells(0, cells_);
+        for (int i = 0; i < columns_; ++i) {
+            const Cell &cell = cells_[static_cast<size_t>(i)];
+            switch (cell.content) {
+            case Cell::Null:
+                insert_->bind(i, basic::Value(basic::Null()));
+                break;
+            case Cell::Integer:
+                insert_->bind(i, cell.integer);
+                break;
+            case Cell::Real:
+                insert_->bind(i, basic::Value(cell.real));
+                break;
+            case Cell::Text:
+                insert_->bindText(i, cell.text);
+                break;
+            }
+        }
+        insert_->insert();
     }
 
     QString from_;
@@ -202,6 +209,7 @@ private:
     EmbeddedEngine to_;
     std::unique_ptr<EmbeddedEngine> source_;
     std::unique_ptr<EngineStatement> insert_;
+    std::vector<EngineStatement::Cell> cells_;
     QString select_;
     int columns_ = 0;
     int failures_ = 0;

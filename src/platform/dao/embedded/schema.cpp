@@ -2,7 +2,6 @@
 
 #include "platform/dao/dialect/names.h"
 #include "platform/dao/dialect/types.h"
-#include "platform/dao/embedded/emitter.h"
 
 #include <algorithm>
 
@@ -225,33 +224,21 @@ void EmbeddedEngine::rebuild(const Table &table, const std::vector<FieldDef> &co
                                         : u"INSERT INTO "_s + fresh + u" ("_s + list + u") SELECT "_s + list +
                                               u" FROM "_s + engineName(table.name) + u" ORDER BY "_s +
                                               engineName(table.keyColumn);
-    const bool own = !inTransaction();
-    if (own)
-        begin();
-    try {
-        run((u"CREATE TABLE "_s + fresh + u" ("_s + columnList(columns) + u')').toUtf8());
-        run(copy.toUtf8());
-        run((u"DROP TABLE "_s + engineName(table.name)).toUtf8());
-        run((u"ALTER TABLE "_s + fresh + u" RENAME TO "_s + engineName(table.name)).toUtf8());
-        for (const IndexDef &index : table.indexes)
-            run(createIndexSql(table.name, index).toUtf8());
-        if (own)
-            commit();
-    } catch (const Error &) {
-        if (own)
-            rollback();
-        throw;
-    }
+    run((u"CREATE TABLE "_s + fresh + u" ("_s + columnList(columns) + u')').toUtf8());
+    run(copy.toUtf8());
+    run((u"DROP TABLE "_s + engineName(table.name)).toUtf8());
+    run((u"ALTER TABLE "_s + fresh + u" RENAME TO "_s + engineName(table.name)).toUtf8());
+    for (const IndexDef &index : table.indexes)
+        run(createIndexSql(table.name, index).toUtf8());
 }
 
 void EmbeddedEngine::saveQuery(const QString &name, const QString &text)
 {
     const auto statement =
         prepare(u"INSERT OR REPLACE INTO "_s + engineName(queriesTable) + u" VALUES (?, ?)"_s);
-    const StatementRun run(*statement);
     statement->bind(0, name);
     statement->bind(1, text);
-    statement->step();
+    statement->run();
 }
 
 Table EmbeddedEngine::createScratchTable(const std::vector<FieldDef> &columns)
