@@ -396,7 +396,10 @@ std::unique_ptr<EmbeddedEngine> openEmbedded(const QString &path, const QString 
     const bool plain = isPlainDatabase(path);
     const QByteArray key = plain || password.isEmpty() ? QByteArray() : rawKey(password, saltOf(path));
     try {
-        return std::make_unique<EmbeddedEngine>(path, key, options);
+        auto engine = std::make_unique<EmbeddedEngine>(path, key, options);
+        if (!key.isEmpty() && !options.salvage)
+            rememberSalt(path);
+        return engine;
     } catch (const Error &error) {
         // A first page that the key does not fit reads as no database at all.
         if (error.number() == Error::NotADatabase && !plain)

@@ -1,6 +1,7 @@
 #include "platform/dao/database.h"
 
 #include "platform/dao/embedded/embeddedengine.h"
+#include "platform/dao/embedded/firstpage.h"
 #include "platform/dao/embedded/key.h"
 
 #include <QDir>
@@ -215,6 +216,14 @@ private:
     int failures_ = 0;
 };
 
+/// The pages that describe the tables can be read.
+bool readsCatalogue(const QString &path, const QString &password)
+{
+    return basic::ignoring(
+        {Error::FileDamaged, Error::WrongPassword, Error::NotADatabase, Error::NotATable, Error::Engine},
+        [&] { openEmbedded(path, password, {.as = {.readOnly = true}, .salvage = true})->readCatalogue(); });
+}
+
 } // namespace
 
 void compactDatabase(const QString &source, const QString &destination, const QString &destinationLocale,
@@ -247,8 +256,13 @@ void repairDatabase(const QString &path, const QString &connect)
 {
     const QString password = passwordOf(connect);
     const Unfinished fresh(path + QStringLiteral(".tmp"));
+    const Unfinished headed(path + QStringLiteral(".cabeza"));
+    const bool plain = isPlainDatabase(path);
+    const bool catalogued = readsCatalogue(path, password);
+    if (!catalogued && !plain)
+        copyWithNewFirstPage(path, headed.path(), password);
     {
-        Rescue rescue(path, fresh.path(), isPlainDatabase(path) ? QString() : password);
+        Rescue rescue(catalogued || plain ? path : headed.path(), fresh.path(), plain ? QString() : password);
         rescue.run();
     }
     QString aside = path + QStringLiteral(".dañada");

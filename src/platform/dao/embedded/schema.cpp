@@ -107,6 +107,7 @@ QString createIndexSql(const QString &table, const IndexDef &index)
 EngineCatalogue EmbeddedEngine::readCatalogue()
 {
     EngineCatalogue catalogue;
+    bool queriesKept = false;
     const auto columns = prepare(u"SELECT m.name, p.name, p.type, p.pk FROM main.sqlite_schema AS m, "
                                  "pragma_table_info(m.name, 'main') AS p WHERE m.type = 'table' "
                                  "AND m.name NOT GLOB 'sqlite_*' ORDER BY m.rowid, p.cid"_s);
@@ -115,8 +116,10 @@ EngineCatalogue EmbeddedEngine::readCatalogue()
         while (columns->step()) {
             const QString tableName = QString::fromUtf8(columns->text(0));
             const QString name = QString::fromUtf8(columns->text(1));
-            if (tableName == queriesTable)
+            if (tableName == queriesTable) {
+                queriesKept = true;
                 continue;
+            }
             if (catalogue.tables.empty() || catalogue.tables.back().name != tableName)
                 catalogue.tables.push_back({tableName, {}, {}, u"rowid"_s, -1, {}});
             Table &table = catalogue.tables.back();
@@ -149,6 +152,8 @@ EngineCatalogue EmbeddedEngine::readCatalogue()
             table->indexes.back().fields << QString::fromUtf8(indexes->text(2));
         }
     }
+    if (!queriesKept) // in what was left of a damaged file
+        return catalogue;
     const auto queries = prepare(u"SELECT nombre, texto FROM "_s + engineName(queriesTable));
     const StatementRun run(*queries);
     while (queries->step())

@@ -97,9 +97,14 @@ bool waitFor(int file, off_t byte, const Deadline &deadline)
 
 } // namespace
 
+QString queueFile(const QString &databaseFile)
+{
+    return databaseFile + QStringLiteral(".cola");
+}
+
 WriteQueue::WriteQueue(const QString &databaseFile)
-    : file_(::open(QFile::encodeName(databaseFile + QStringLiteral(".cola")).constData(),
-                   O_RDWR | O_CREAT | O_CLOEXEC, 0660))
+    : file_(
+          ::open(QFile::encodeName(queueFile(databaseFile)).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0660))
 {
 }
 

@@ -5,6 +5,9 @@
 namespace dao
 {
 
+/// The file that keeps the queue of a database's stations, beside it.
+QString queueFile(const QString &databaseFile);
+
 /// The queue in which the stations of one file wait to write. The engine's own locks let in whoever asks at
 /// the right moment, so that of many stations that write without a pause one may wait for minutes. Here each
 /// takes its turn: the system hands the lock on in the order in which it was asked for, on a network share
