@@ -210,12 +210,13 @@ EmbeddedEngine::EmbeddedEngine(const QString &path, const QByteArray &key, const
     run("PRAGMA cipher_log_level = NONE");
     if (enciphered_)
         sqlite3_key(db, key.constData(), static_cast<int>(key.size()));
+    // Before anything is read, else a file shorter than its first page says is refused whole.
+    if (options.salvage)
+        run("PRAGMA writable_schema = ON");
     registerDialect(db);
     run("PRAGMA cache_size = -65536; PRAGMA foreign_keys = OFF; PRAGMA temp_store = MEMORY");
     if (options.create)
         run("CREATE TABLE \"_consultas\" (nombre TEXT PRIMARY KEY COLLATE ESPANOL, texto TEXT)");
-    if (options.salvage)
-        run("PRAGMA writable_schema = ON"); // else a file shorter than its first page says is refused whole
     run("SELECT count(*) FROM sqlite_schema");
     if (options.as.exclusive)
         run("PRAGMA locking_mode = EXCLUSIVE");
