@@ -152,7 +152,8 @@ TEST_F(MaintenanceTest, repairKeepsTheRowsOfReadablePages)
 namespace
 {
 
-/// As many tables as a practice has: what describes them fills pages of its own, to which the first one leads.
+/// As many tables as a practice has: what describes them fills pages of its own, to which the first one
+/// leads.
 class LostPagesTest : public MaintenanceTest
 {
 protected:
