@@ -36,7 +36,11 @@ class Unfinished
 {
 public:
     explicit Unfinished(QString path) : path_(std::move(path)) { QFile::remove(path_); }
-    ~Unfinished() { QFile::remove(path_); }
+    ~Unfinished()
+    {
+        QFile::remove(path_);
+        QFile::remove(queueFile(path_));
+    }
     Unfinished(const Unfinished &) = delete;
     Unfinished &operator=(const Unfinished &) = delete;
     const QString &path() const { return path_; }
