@@ -118,6 +118,10 @@ TEST_F(MaintenanceTest, compactingKeepsEverythingUnderTheNewPassword)
     EXPECT_TRUE(db.check().isEmpty());
     dao::compactDatabase(path(), path("C3.MDB"), ";LANGID=0x0409", ";pwd=clave0001");
     EXPECT_EQ(opening(path("C3.MDB")), 0) << "without a new password the old one stays";
+    writeFile("C4.MDB-journal", QByteArray(5000, 'x'));
+    dao::compactDatabase(path(), path("C4.MDB"), "", ";pwd=clave0001");
+    EXPECT_FALSE(QFile::exists(path("C4.MDB-journal"))) << "an old journal is not of the new file";
+    EXPECT_EQ(QDir(folder.path()).entryList({"*.tmp*"}), QStringList());
 }
 
 TEST_F(MaintenanceTest, repairKeepsTheRowsOfReadablePages)

@@ -42,7 +42,7 @@ qint64 millisecondsToEnter(WriteQueue &queue, int longest)
 TEST_F(TurnTest, stationsThatWriteWithoutAPauseTakeTurns)
 {
     constexpr int stations = 4;
-    constexpr int turns = 120;
+    constexpr int turns = 100;
     std::atomic<int> inside = 0;
     std::atomic<bool> together = false;
     std::atomic<int> ready = 0;
@@ -57,7 +57,7 @@ TEST_F(TurnTest, stationsThatWriteWithoutAPauseTakeTurns)
                 queue.enter(longWait);
                 together = together || ++inside != 1;
                 order.push_back(station);
-                QThread::usleep(200);
+                QThread::msleep(2);
                 --inside;
                 queue.leave();
             }

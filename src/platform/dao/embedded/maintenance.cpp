@@ -26,6 +26,11 @@ QString quoted(QByteArray text)
     return u'\'' + QString::fromUtf8(text.replace('\'', "''")) + u'\'';
 }
 
+QString journalOf(const QString &path)
+{
+    return path + QStringLiteral("-journal");
+}
+
 void requireClosed(EmbeddedEngine &engine)
 {
     engine.run("BEGIN IMMEDIATE; ROLLBACK");
@@ -35,17 +40,15 @@ void requireClosed(EmbeddedEngine &engine)
 class Unfinished
 {
 public:
-    explicit Unfinished(QString path) : path_(std::move(path)) { QFile::remove(path_); }
-    ~Unfinished()
-    {
-        QFile::remove(path_);
-        QFile::remove(queueFile(path_));
-    }
+    explicit Unfinished(QString path) : path_(std::move(path)) { clear(); }
+    ~Unfinished() { clear(); }
     Unfinished(const Unfinished &) = delete;
     Unfinished &operator=(const Unfinished &) = delete;
     const QString &path() const { return path_; }
     void keepAs(const QString &name) const
     {
+        // A journal that was left of another file of this name must not be played back into this one.
+        QFile::remove(journalOf(name));
         if (!QFile::rename(path_, name))
             throw Error(
                 Error::ReadOnly,
@@ -53,6 +56,12 @@ public:
     }
 
 private:
+    void clear() const
+    {
+        for (const QString &file : {path_, journalOf(path_), queueFile(path_)})
+            QFile::remove(file);
+    }
+
     QString path_;
 };
 
@@ -272,10 +281,9 @@ void repairDatabase(const QString &path, const QString &connect)
     QString aside = path + QStringLiteral(".dañada");
     for (int i = 2; QFile::exists(aside); ++i)
         aside = path + QStringLiteral(".dañada%1").arg(i);
-    // A journal of the damaged file must not be played back into the mended one.
-    const QString journal = path + QStringLiteral("-journal");
-    QFile::remove(aside + QStringLiteral("-journal"));
-    QFile::rename(journal, aside + QStringLiteral("-journal"));
+    // A journal of the damaged file goes with it.
+    QFile::remove(journalOf(aside));
+    QFile::rename(journalOf(path), journalOf(aside));
     if (!QFile::rename(path, aside))
         throw Error(Error::ReadOnly, QStringLiteral("No se pudo apartar el archivo dañado."));
     try {
