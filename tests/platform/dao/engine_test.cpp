@@ -1,6 +1,9 @@
 #include "fixture.h"
 
+#include "platform/basic/runtime.h"
 #include "platform/dao/dialect/functions.h"
+
+#include <algorithm>
 
 using dao::Error;
 
@@ -125,6 +128,56 @@ TEST_F(DaoTest, theEngineKnowsEveryFunctionOfTheDialect)
             QString("Select %1(%2) from T").arg(function.name.toString(), operands.join(", "));
         EXPECT_EQ(errorOf([&] { EXPECT_EQ(db.openRecordset(sql).rowCount(), 1); }), 0) << sql.toStdString();
     }
+}
+
+/// Whatever numbers and texts a function meets, it gives a value or an error of its own; the sanitizers look
+/// on.
+TEST_F(DaoTest, noFunctionIsTakenOutOfItsBounds)
+{
+    run({"CREATE TABLE T (n DOUBLE, f DATE, t TEXT(20), m CURRENCY)"});
+    auto rows = db.openRecordset("T");
+    for (const double number : {1e300, -1e300, 9.3e18, -9.3e18, 3e9, -3e9, 0.0, -0.5}) {
+        rows.addNew();
+        rows[u"n"] = number;
+        rows[u"f"] = basic::Date::fromSerial(number);
+        rows[u"t"] = basic::format(number, u"0").left(20);
+        rows[u"m"] = basic::Currency::fromDouble(std::clamp(number, -9e14, 9e14));
+        rows.update();
+    }
+    rows.addNew();
+    rows.update();
+    const QStringList columns{"n", "f", "t", "m", "'yyyy'", "'h'", "'q'", QString(400, u'9')};
+    int answers = 0;
+    const auto ask = [&](const QString &expression) {
+        for (const char *row : {"n > 1e200", "n < -1e200", "n > 1e18 and n < 1e19", "n < -1e18 and n > -1e19",
+                                "n = 3000000000.0", "n = 0", "n is null"}) {
+            answers += errorOf([&] { all(QString("Select %1 from T where %2").arg(expression, row)); }) == 0;
+        }
+    };
+    for (const dao::FunctionDef &function : dao::functions()) {
+        const QString call = function.name.toString() + "(%1)";
+        for (const QString &a : columns) {
+            if (function.fewest <= 1)
+                ask(call.arg(a));
+            for (const QString &b : columns) {
+                if (function.fewest <= 2 && function.most >= 2)
+                    ask(call.arg(a + ", " + b));
+                if (function.most >= 3)
+                    ask(call.arg(a + ", " + b + ", n"));
+                if (function.most >= 3)
+                    ask(call.arg(a + ", " + b + ", f"));
+            }
+        }
+    }
+    for (const char *sign : {"+", "-", "*", "/", "\\", "mod", "^", "&", "=", "<"}) {
+        for (const QString &a : columns)
+            for (const QString &b : columns)
+                ask(QString("%1 %2 %3").arg(a, sign, b));
+    }
+    EXPECT_GT(answers, 1000);
+    EXPECT_EQ(all("Select dateserial(n, 1, 1) from T where n > 1e200"), "31/12/9999");
+    EXPECT_EQ(all("Select dateadd('yyyy', n, #1/1/2024#) from T where n > 1e200"), "31/12/9999");
+    EXPECT_EQ(all("Select instr(n, 'abc', 'c') from T where n < -1e200"), "3");
 }
 
 TEST_F(DaoTest, tablesWithoutColumnsToFillGiveTheirKeysToo)
