@@ -3,6 +3,8 @@
 #include "platform/basic/runtime.h"
 #include "platform/dao/dialect/functions.h"
 
+#include <QElapsedTimer>
+
 #include <algorithm>
 
 using dao::Error;
@@ -74,7 +76,7 @@ TEST_F(DaoTest, aBatchThatAnErrorLeavesKeepsWhatWasWrittenBefore)
 {
     run({"CREATE TABLE T (n LONG)"});
     openOther();
-    other.setPatience(50);
+    other.setPatience(300);
     const auto seen = [&] { return other.openRecordset("Select count(*) from T").value(0).integer(); };
     try {
         dao::Batch outer(db);
@@ -85,7 +87,11 @@ TEST_F(DaoTest, aBatchThatAnErrorLeavesKeepsWhatWasWrittenBefore)
             inner.commit();
         }
         EXPECT_EQ(seen(), 0) << "the outermost commits";
+        QElapsedTimer waiting;
+        waiting.start();
         EXPECT_EQ(errorOf([&] { other.execute("INSERT INTO T VALUES (3)"); }), Error::Locked);
+        EXPECT_GE(waiting.elapsed(), 280);
+        EXPECT_LT(waiting.elapsed(), 580) << "waiting for a turn and for the file is one wait";
         db.execute("INSERT INTO T VALUES (99999999999)");
         FAIL();
     } catch (const Error &error) {

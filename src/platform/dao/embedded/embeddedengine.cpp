@@ -298,11 +298,15 @@ void EmbeddedEngine::rollbackToSavepoint() noexcept
 
 void EmbeddedEngine::takeTurn()
 {
+    QElapsedTimer queueing;
+    queueing.start();
     queue_.enter(waiting_.patienceMs);
+    waiting_.spentMs = queueing.elapsed();
 }
 
 void EmbeddedEngine::giveTurn() noexcept
 {
+    waiting_.spentMs = 0;
     queue_.leave();
 }
 
@@ -318,7 +322,7 @@ int EmbeddedEngine::waitForTheFile(void *waiting, int attempts)
     auto &own = *static_cast<Waiting *>(waiting);
     if (attempts == 0)
         own.since.start();
-    if (own.since.elapsed() > own.patienceMs)
+    if (own.since.elapsed() + own.spentMs > own.patienceMs)
         return 0;
     QThread::usleep(static_cast<unsigned long>(QRandomGenerator::global()->bounded(300, 3000)));
     return 1;

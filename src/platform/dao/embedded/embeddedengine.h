@@ -73,6 +73,7 @@ private:
     /// For another station that was found to hold the file.
     struct Waiting {
         QElapsedTimer since;
+        qint64 spentMs = 0; ///< in the queue, for the same work
         int patienceMs = 15000;
     };
     Waiting waiting_;
