@@ -1,7 +1,8 @@
 #include "visits.h"
 
+#include "samplevisit.h"
+
 #include "clinical/visits/consulta.h"
-#include "clinical/visits/examen.h"
 #include "core/session/screens.h"
 #include "core/session/session.h"
 #include "platform/basic/environment.h"
@@ -52,15 +53,7 @@ void recording(const QString &patient, const Report &report)
     const qint64 before = BaseDatos.openRecordset(u"Select max(idConsulta) from Consulta"_s)[0].integer();
     const basic::Value lastVisit = BaseDatos.openRecordset(
         u"Select [Ultima fecha visita] from Pacientes where Numero = "_s + patient)[0];
-    consultas::Visita visit;
-    visit.fecha = basic::today();
-    visit.hora = u"10:00"_s;
-    visit.motivo = u"Banco de pruebas"_s;
-    visit.renglones[consultas::Sintomas] = {{u"Fiebre"_s, 1}, {u"Tos"_s, 3}};
-    visit.renglones[consultas::Tratamientos] = {{u"Paracetamol"_s, 1}, {u"Amoxicilina"_s, 4}};
-    visit.renglones[consultas::Diagnosticos] = {{u"Otitis media aguda"_s, 12}};
-    for (const examen::Item &item : examen::items())
-        visit.examen.push_back({QString::fromUtf8(item.titulo), u"Sin particularidades"_s});
+    const consultas::Visita visit = sampleVisit();
     std::vector<double> times;
     for (int i = 0; i < 20; ++i)
         times.push_back(elapsed([&] { registrarConsulta(patient, visit); }));

@@ -34,3 +34,7 @@ add_library(sanirell_warnings INTERFACE)
 target_compile_options(sanirell_warnings INTERFACE
     $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion
     -Wnon-virtual-dtor -Woverloaded-virtual -Werror ${SANIRELL_PCH_FLAGS}>)
+# What the sanitizers put in makes the compiler see uninitialised values where there are none.
+if(SANIRELL_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(sanirell_warnings INTERFACE -Wno-maybe-uninitialized)
+endif()

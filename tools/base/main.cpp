@@ -56,7 +56,8 @@ void make(const QString &file, const QDir &data)
     seeds::fill(base, data);
     base.commitTrans();
     base.close();
-    QFile::remove(unfinished + u"-journal"_s);
+    for (const QString &left : {u"-journal"_s, u".cola"_s})
+        QFile::remove(unfinished + left);
     QFile::remove(file);
     if (!QFile::rename(unfinished, file))
         throw std::runtime_error("cannot write " + file.toStdString());

@@ -4,6 +4,7 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <array>
 
 namespace basic
@@ -158,20 +159,23 @@ qint64 dateDiff(QStringView interval, Date from, Date to)
 Date dateAdd(QStringView interval, int count, Date from)
 {
     const QDate day = from.date();
-    if (interval == u"m")
-        return Date(day.addMonths(count), from.time());
-    if (interval == u"q")
-        return Date(day.addMonths(3 * count), from.time());
-    if (interval == u"yyyy")
-        return Date(day.addYears(count), from.time());
-    if (interval == u"ww")
-        return Date(day.addDays(7LL * count), from.time());
     if (interval == u"h" || interval == u"n" || interval == u"s") {
         const qint64 step = interval == u"h" ? 3600 : interval == u"n" ? 60 : 1;
         const qint64 seconds = secondsOf(from) + step * count;
         return Date::fromSerial(static_cast<double>(seconds) / 86400.0);
     }
-    return Date(day.addDays(count), from.time());
+    constexpr int beyondTheCalendar = 4'000'000; // days, from its first to its last
+    count = std::clamp(count, -beyondTheCalendar, beyondTheCalendar);
+    QDate sum = day.addDays(count);
+    if (interval == u"m")
+        sum = day.addMonths(count);
+    else if (interval == u"q")
+        sum = day.addMonths(3 * count);
+    else if (interval == u"yyyy")
+        sum = day.addYears(count);
+    else if (interval == u"ww")
+        sum = day.addDays(7LL * count);
+    return Date::fromSerial(Date(sum, from.time()).serial());
 }
 
 double timer()

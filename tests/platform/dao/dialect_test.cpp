@@ -98,3 +98,36 @@ TEST_F(DaoTest, valuesBecomeParametersOfOneStatement)
               (std::vector<basic::Value>{u"y'z", basic::Currency::fromDouble(20), qint64(4)}));
     EXPECT_EQ(errorOf([&] { dao::translate(db, "Select a from T where b = "); }), dao::Error::SyntaxError);
 }
+
+/// A statement deeper than the stack is refused, whatever it is made of.
+TEST_F(DaoTest, aStatementWithoutEndIsRefusedAndNotFollowed)
+{
+    run({"CREATE TABLE T (n LONG, t TEXT(10))"});
+    constexpr int times = 20000;
+    const auto repeated = [](const char *text) { return QString(text).repeated(times); };
+    const QStringList endless{
+        "Select n from T where n = 1" + repeated(" + 1"),
+        "Select n from T where n = 1" + repeated(" or n = 1"),
+        "Select n from T where t = 'a'" + repeated(" & 'b'"),
+        "Select n from T where n is null" + repeated(" is null"),
+        "Select n from T where n between 1 and 2" + repeated(" between 1 and 2"),
+        "Select n from T where t like 'a'" + repeated(" like 'b'"),
+        "Select n from T where n in (1)" + repeated(" in (1)"),
+        "Select n from T where n = 1" + repeated(" = 1"),
+        "Select n from T where n = 2" + repeated(" ^ 2"),
+        "Select n from T where " + repeated("not ") + "n = 1",
+        "Select n from T where n = " + repeated("- ") + "1",
+        "Select n from T where " + repeated("(") + "n = 1" + repeated(")"),
+        "Select " + repeated("abs(") + "n" + repeated(")") + " from T",
+        "Select n from T where n in " + repeated("(Select n from T where n in ") + "(1)" + repeated(")"),
+        "Select n from " + repeated("(") + "T" + repeated(")"),
+        "Select T.n from T" + repeated(" inner join T as u on T.n = u.n"),
+        "Select n from T" + repeated(", T"),
+        "Select n from T" + repeated(" union Select n from T"),
+    };
+    for (const QString &sql : endless)
+        EXPECT_NE(errorOf([&] { db.openRecordset(sql); }), 0) << sql.left(60).toStdString();
+    EXPECT_EQ(
+        db.openRecordset("Select n from T where n in (1" + QString(", 2").repeated(3000) + ")").rowCount(),
+        0);
+}

@@ -118,6 +118,10 @@ TEST_F(MaintenanceTest, compactingKeepsEverythingUnderTheNewPassword)
     EXPECT_TRUE(db.check().isEmpty());
     dao::compactDatabase(path(), path("C3.MDB"), ";LANGID=0x0409", ";pwd=clave0001");
     EXPECT_EQ(opening(path("C3.MDB")), 0) << "without a new password the old one stays";
+    writeFile("C4.MDB-journal", QByteArray(5000, 'x'));
+    dao::compactDatabase(path(), path("C4.MDB"), "", ";pwd=clave0001");
+    EXPECT_FALSE(QFile::exists(path("C4.MDB-journal"))) << "an old journal is not of the new file";
+    EXPECT_EQ(QDir(folder.path()).entryList({"*.tmp*"}), QStringList());
 }
 
 TEST_F(MaintenanceTest, repairKeepsTheRowsOfReadablePages)
@@ -147,6 +151,139 @@ TEST_F(MaintenanceTest, repairKeepsTheRowsOfReadablePages)
     db.execute("INSERT INTO Turnos (Paciente) VALUES (1)");
     EXPECT_EQ(one("Select max(idTurno) from Turnos").integer(), 51);
     EXPECT_NE(db.tableDef(u"Pacientes").index(u"Nombre"), nullptr);
+}
+
+namespace
+{
+
+/// As many tables as a practice has: what describes them fills pages of its own, to which the first one
+/// leads.
+class LostPagesTest : public MaintenanceTest
+{
+protected:
+    void SetUp() override
+    {
+        MaintenanceTest::SetUp();
+        reopen();
+        db.beginTrans();
+        for (int i = 0; i < tables; ++i) {
+            const QString table = QString("Tabla%1").arg(i);
+            db.execute(QString("CREATE TABLE %1 (id COUNTER, Nombre TEXT(50), Detalle MEMO, Fecha DATE)")
+                           .arg(table));
+            db.execute(QString("CREATE INDEX Nombre ON %1 (Nombre)").arg(table));
+            db.execute(QString("INSERT INTO %1 (Nombre) VALUES ('fila de %1')").arg(table));
+        }
+        // Rebuilt tables leave free pages that still describe them as they were.
+        for (int i = 0; i < tables; i += 3)
+            db.widenText(QString("Tabla%1").arg(i), "Nombre", 60);
+        db.commitTrans();
+        db.close();
+    }
+
+    void reopen() { db.open(path(), false, false, ";PWD=clave0001"); }
+    void repairAndExpectAllRows()
+    {
+        dao::repairDatabase(path(), ";pwd=clave0001");
+        reopen();
+        EXPECT_TRUE(db.check().isEmpty());
+        EXPECT_EQ(one("Select count(*) from Pacientes where Nombre = 'Paciente ' & Numero").integer(), rows);
+        EXPECT_EQ(db.queryNames(), QStringList{"Todos"});
+        for (int i = 0; i < tables; ++i) {
+            const QString table = QString("Tabla%1").arg(i);
+            EXPECT_EQ(all("Select id, Nombre from " + table), "1,fila de " + table);
+            EXPECT_EQ(db.tableDef(table).field(u"Nombre")->size, i % 3 == 0 ? 60 : 50);
+            EXPECT_NE(db.tableDef(table).index(u"Nombre"), nullptr);
+        }
+        EXPECT_EQ(QDir(folder.path()).entryList({"*.tmp*", "*.cabeza*"}), QStringList());
+        db.close();
+    }
+
+    static constexpr int tables = 60;
+};
+
+} // namespace
+
+TEST_F(LostPagesTest, aLostFirstPageIsMadeAnew)
+{
+    const QByteArray sound = contents(path());
+    overwrite(path(), 2000, QByteArray(16, '\x5A'));
+    EXPECT_NE(opening(path()), 0);
+    EXPECT_EQ(errorOf([&] { dao::repairDatabase(path(), ";pwd=otra"); }), Error::WrongPassword);
+    repairAndExpectAllRows();
+
+    // The salt at its head is lost with it, and the whole first half of the disk's track.
+    for (const char filling : {'\0', '\x5A'}) {
+        QFile::remove(path());
+        writeFile("BASE.MDB", QByteArray(4096, filling) + sound.sliced(4096));
+        overwrite(path("BASE.MDB.cola"), 0, sound.first(16));
+        repairAndExpectAllRows();
+    }
+}
+
+TEST_F(LostPagesTest, whatDescribesOnlySomeTablesIsLostWithThemAlone)
+{
+    const QByteArray sound = contents(path());
+    const qint64 pages = sound.size() / 4096;
+    int lost = 0;
+    for (qint64 page = pages - 1; page > 0 && lost == 0; --page) {
+        QFile::remove(path());
+        writeFile("BASE.MDB", sound);
+        overwrite(path(), page * 4096 + 50, QByteArray(16, '\x5A'));
+        dao::Database own;
+        if (errorOf([&] { own.open(path(), false, false, ";PWD=clave0001"); }) == 0)
+            continue;
+        ++lost;
+        dao::repairDatabase(path(), ";pwd=clave0001");
+        reopen();
+        EXPECT_TRUE(db.check().isEmpty());
+        EXPECT_GT(db.tableNames().size(), tables / 2);
+        EXPECT_LT(db.tableNames().size(), tables + 2);
+        for (const QString &table : db.tableNames().filter("Tabla"))
+            EXPECT_EQ(all("Select Nombre from " + table), "fila de " + table);
+        db.close();
+    }
+    EXPECT_EQ(lost, 1) << "no page of the catalogue was met";
+}
+
+TEST_F(MaintenanceTest, repairTakesFilesThatWereCutOrHaveBytesTooMany)
+{
+    const QByteArray sound = contents(path());
+    for (const qsizetype size : {sound.size() * 9 / 10, sound.size() * 9 / 10 / 4096 * 4096,
+                                 sound.size() + 1000, sound.size() + 8192}) {
+        SCOPED_TRACE(size);
+        QFile::remove(path());
+        writeFile("BASE.MDB", sound.first(std::min(size, sound.size())) +
+                                  QByteArray(std::max<qsizetype>(size - sound.size(), 0), '\0'));
+        dao::repairDatabase(path(), ";pwd=clave0001");
+        db.open(path(), false, false, ";PWD=clave0001");
+        const qint64 kept = one("Select count(*) from Pacientes where len(Notas) = 200").integer();
+        EXPECT_EQ(kept == rows, size >= sound.size());
+        EXPECT_GT(kept, rows * 4 / 5);
+        EXPECT_TRUE(db.check().isEmpty());
+        db.close();
+    }
+}
+
+TEST_F(MaintenanceTest, oneDamagedPageDoesNotKeepTheRestFromBeingRead)
+{
+    db.open(path(), false, false, ";PWD=clave0001");
+    auto turnos = db.openRecordset("Select * from Turnos");
+    overwrite(path(), contents(path()).size() / 4096 / 2 * 4096 + 100, QByteArray(64, '\x5A'));
+    other.open(path(), false, false, ";PWD=clave0001");
+    for (int again = 0; again < 2; ++again) {
+        auto rs = other.openRecordset("Select * from Turnos");
+        EXPECT_EQ(errorOf([&] {
+                      auto patients = other.openRecordset("Select Notas from Pacientes");
+                      for (; !patients.eof(); patients.moveNext())
+                          patients.value(0);
+                  }),
+                  Error::FileDamaged);
+        rs.moveLast();
+        EXPECT_EQ(rs[u"idTurno"].integer(), 40) << "a recordset that was open goes on";
+        EXPECT_EQ(other.openRecordset("Select max(Numero) from Pacientes").value(0).integer(), rows);
+        other.execute("UPDATE Turnos SET Paciente = 7 WHERE idTurno = 1");
+    }
+    EXPECT_EQ(turnos[u"Paciente"].integer(), 7);
 }
 
 TEST_F(MaintenanceTest, repairOfASoundFileChangesNoRow)

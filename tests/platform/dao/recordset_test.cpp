@@ -1,5 +1,9 @@
 #include "fixture.h"
 
+#include "platform/dao/embedded/embeddedengine.h"
+
+#include <set>
+
 using dao::Error;
 using dao::Recordset;
 using namespace Qt::StringLiterals;
@@ -261,6 +265,54 @@ TEST_F(RecordsetTest, joinIsEditedByTableAndDeletedOnTheManySide)
     rs.deleteRow();
     EXPECT_EQ(all("Select Motivo from Consulta order by idConsulta"), "Control|Sin ficha");
     EXPECT_EQ(one("Select count(*) from Pacientes").integer(), 5);
+}
+
+/// What other programs have left in a file: texts that are none, and those that differ in what nobody sees.
+TEST_F(RecordsetTest, aWalkByIndexComesToItsEndWhateverTheTextsAre)
+{
+    run({"CREATE TABLE Raros (Nombre TEXT(20))", "CREATE INDEX Nombre ON Raros (Nombre)"});
+    const std::vector<QByteArray> texts{"Ana",
+                                        QByteArray("Ana\0", 4),
+                                        "\xEF\xBB\xBF"
+                                        "Ana",
+                                        "\xFF\xFE",
+                                        "\xC3",
+                                        "\xED\xA0\x80",
+                                        "A\xC3",
+                                        "\xEF\xBF\xBE",
+                                        "\xE2\x80\x8B",
+                                        "",
+                                        "zorro",
+                                        "\xF0\x9F"};
+    {
+        const auto engine = dao::openEmbedded(path(), "clave0001", {});
+        const auto insert = engine->prepare("INSERT INTO Raros (Nombre) VALUES (?)");
+        for (int copy = 0; copy < 2; ++copy) {
+            for (const QByteArray &text : texts) {
+                insert->bindText(0, text);
+                insert->insert();
+            }
+        }
+    }
+    auto rs = db.openRecordset("Raros");
+    rs.setIndex(u"Nombre");
+    const auto most = static_cast<int>(texts.size()) * 2;
+    std::vector<dao::Recordset::Bookmark> forwards;
+    for (rs.moveFirst(); !rs.eof() && static_cast<int>(forwards.size()) <= most; rs.moveNext())
+        forwards.push_back(rs.bookmark());
+    EXPECT_EQ(static_cast<int>(forwards.size()), most);
+    EXPECT_EQ(std::set(forwards.begin(), forwards.end()).size(), forwards.size());
+    std::vector<dao::Recordset::Bookmark> backwards;
+    for (rs.moveLast(); !rs.bof() && static_cast<int>(backwards.size()) <= most; rs.movePrevious())
+        backwards.insert(backwards.begin(), rs.bookmark());
+    EXPECT_EQ(backwards, forwards);
+    // What enters through the layer is clean, and found by what was typed.
+    rs.addNew();
+    rs[u"Nombre"] = QString(QChar(0xFEFF)) + "Bruno" + QChar(0x200B);
+    rs.update();
+    rs.seek(u"=", u"bruno");
+    EXPECT_FALSE(rs.noMatch());
+    EXPECT_EQ(rs[u"Nombre"].text(), "Bruno");
 }
 
 TEST_F(RecordsetTest, dynasetReadsItsKeysAsFarAsItIsVisited)

@@ -156,16 +156,22 @@ TEST_F(DaoTest, anExclusiveStationKeepsOthersOut)
     run({"CREATE TABLE T (n LONG)"});
     db.close();
     db.open(path(), true, false, QString::fromUtf16(connect));
+    constexpr int patience = 300;
+    QElapsedTimer timer;
+    timer.start();
     const pid_t child = inChild([&] {
-        alarm(60);
         dao::Database own;
+        own.setPatience(patience);
         const int error = errorOf([&] { own.open(path(), false, false, QString::fromUtf16(connect)); });
         _exit(error == dao::Error::Locked ? 7 : 1);
     });
-    usleep(200000);
     int status = 0;
-    EXPECT_EQ(waitpid(child, &status, WNOHANG), 0) << "it waits for its turn before it gives up";
-    db.close();
-    kill(child, SIGKILL);
     waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(WEXITSTATUS(status), 7);
+    EXPECT_GE(timer.elapsed(), patience) << "it waits for its turn before it gives up";
+    EXPECT_LT(timer.elapsed(), 10 * patience);
+    db.close();
+    openOther();
+    other.execute("INSERT INTO T VALUES (1)");
 }

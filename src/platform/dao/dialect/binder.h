@@ -41,6 +41,8 @@ struct Bound {
     bool timeDependent = false;         ///< holds today's date: means something else tomorrow
 
     const Select &select() const { return *std::get<SelectPtr>(statement); }
+    /// The rows of one table in the order in which they were entered.
+    bool naturalOrder() const { return tables.size() == 1 && select().orderBy.empty(); }
 };
 
 class Binder

@@ -10,8 +10,8 @@ namespace
 {
 // Deeper than any person nests parentheses, shallower than the stack.
 constexpr int deepestNesting = 200;
-// A chain of operators is a tree as deep as the chain is long.
-constexpr int mostOperators = 2000;
+// A chain of operators, predicates or joins is a tree as deep as the chain is long.
+constexpr int mostLinks = 2000;
 } // namespace
 
 class DepthGuard
@@ -54,10 +54,15 @@ ExprPtr QueryParser::node(ExprKind kind) const
     return expr;
 }
 
+void QueryParser::countLink()
+{
+    if (++links_ > mostLinks)
+        throw Error(Error::SyntaxError, QStringLiteral("La instrucción es demasiado compleja."));
+}
+
 ExprPtr QueryParser::binary(ExprKind kind, Operator op, ExprPtr left, ExprPtr right)
 {
-    if (++operators_ > mostOperators)
-        throw Error(Error::SyntaxError, QStringLiteral("La expresión es demasiado compleja."));
+    countLink();
     auto expr = std::make_unique<Expr>();
     expr->kind = kind;
     expr->op = op;
@@ -145,6 +150,7 @@ ExprPtr QueryParser::comparison()
 
 ExprPtr QueryParser::predicate(ExprPtr operand, bool negated)
 {
+    countLink();
     ExprPtr expr = node(ExprKind::IsNull);
     expr->negated = negated;
     expr->operands.push_back(std::move(operand));

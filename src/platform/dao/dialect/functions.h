@@ -21,8 +21,6 @@ struct FunctionDef {
     int most;
     Yields yields;
     Takes takes; ///< of every operand, unless the emitter knows better
-    /// What the engine is given: %1, %2... stand for the operands, a plain name is called with all of them.
-    const char16_t *engine;
     bool aggregate = false;
 };
 

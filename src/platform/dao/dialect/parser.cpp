@@ -83,6 +83,7 @@ std::unique_ptr<TableRef> QueryParser::joinedTables()
 {
     std::unique_ptr<TableRef> left = tableOrJoin();
     while (at(Word::Inner) || at(Word::Left) || at(Word::Right) || at(Word::Join)) {
+        countLink();
         auto join = std::make_unique<TableRef>();
         join->position = token().position;
         join->join = at(Word::Left) ? JoinKind::Left : at(Word::Right) ? JoinKind::Right : JoinKind::Inner;
@@ -103,6 +104,7 @@ std::unique_ptr<TableRef> QueryParser::joinedTables()
 std::unique_ptr<TableRef> QueryParser::tableOrJoin()
 {
     if (take(Symbol::Open)) {
+        countLink();
         std::unique_ptr<TableRef> inner = joinedTables();
         expect(Symbol::Close);
         return inner;

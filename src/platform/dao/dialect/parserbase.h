@@ -57,6 +57,7 @@ private:
     std::unique_ptr<TableRef> joinedTables();
     std::unique_ptr<TableRef> tableOrJoin();
 
+    void countLink();
     ExprPtr conjunction();
     ExprPtr negation();
     ExprPtr comparison();
@@ -76,7 +77,7 @@ private:
     ExprPtr binary(ExprKind kind, Operator op, ExprPtr left, ExprPtr right);
 
     int depth_ = 0;
-    int operators_ = 0;
+    int links_ = 0;
     friend class DepthGuard;
 };
 

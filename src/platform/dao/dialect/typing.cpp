@@ -32,7 +32,7 @@ void readLiteral(Expr &literal, ExprType as)
     const std::optional<double> number = basic::toNumber(*literal.literal.as<QString>());
     if (!number)
         throwMismatch(literal);
-    const auto whole = static_cast<qint64>(*number);
+    const auto whole = basic::nearestWhole(*number);
     const bool isWhole = static_cast<double>(whole) == *number;
     literal.literal = isWhole ? basic::Value(whole) : basic::Value(*number);
     literal.kind = ExprKind::Number;

@@ -75,6 +75,20 @@ public:
     }
 
     void reset() override { sqlite3_reset(statement_); }
+
+    qint64 run() override
+    {
+        const StatementRun whole(*this);
+        step();
+        return sqlite3_changes64(db_);
+    }
+
+    qint64 insert() override
+    {
+        run();
+        return sqlite3_last_insert_rowid(db_);
+    }
+
     bool isNull(int column) const override { return sqlite3_column_type(statement_, column) == SQLITE_NULL; }
     qint64 integer(int column) const override { return sqlite3_column_int64(statement_, column); }
     double real(int column) const override { return sqlite3_column_double(statement_, column); }
@@ -108,8 +122,6 @@ public:
             }
         }
     }
-
-    void *nativeHandle() const override { return statement_; }
 
 private:
     sqlite3 *db_;
@@ -181,13 +193,13 @@ void EmbeddedEngine::Close::operator()(sqlite3 *db) const
 EmbeddedEngine::EmbeddedEngine(const QString &path, const QByteArray &key, const Options &options)
     : queue_(path), enciphered_(!key.isEmpty())
 {
-    const int flags = options.readOnly ? SQLITE_OPEN_READONLY
-                                       : SQLITE_OPEN_READWRITE | (options.create ? SQLITE_OPEN_CREATE : 0);
+    const int flags = options.as.readOnly ? SQLITE_OPEN_READONLY
+                                          : SQLITE_OPEN_READWRITE | (options.create ? SQLITE_OPEN_CREATE : 0);
     sqlite3 *db = nullptr;
     const int code = sqlite3_open_v2(QFile::encodeName(path).constData(), &db,
                                      flags | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX, nullptr);
     db_.reset(db);
-    waiting_.patienceMs = options.patienceMs;
+    waiting_.patienceMs = options.as.patienceMs;
     if (code != SQLITE_OK)
         throw Error(options.create ? Error::ReadOnly : Error::FileNotFound,
                     QStringLiteral("No se pudo abrir el archivo '%1'.").arg(QDir::toNativeSeparators(path)));
@@ -198,26 +210,24 @@ EmbeddedEngine::EmbeddedEngine(const QString &path, const QByteArray &key, const
     run("PRAGMA cipher_log_level = NONE");
     if (enciphered_)
         sqlite3_key(db, key.constData(), static_cast<int>(key.size()));
+    // Before anything is read, else a file shorter than its first page says is refused whole.
+    if (options.salvage)
+        run("PRAGMA writable_schema = ON");
     registerDialect(db);
     run("PRAGMA cache_size = -65536; PRAGMA foreign_keys = OFF; PRAGMA temp_store = MEMORY");
     if (options.create)
         run("CREATE TABLE \"_consultas\" (nombre TEXT PRIMARY KEY COLLATE ESPANOL, texto TEXT)");
-    if (options.salvage)
-        run("PRAGMA writable_schema = ON"); // else a file shorter than its first page says is refused whole
     run("SELECT count(*) FROM sqlite_schema");
-    if (options.exclusive)
+    if (options.as.exclusive)
         run("PRAGMA locking_mode = EXCLUSIVE");
     // A journal that is truncated is right on network folders, where a shared memory file is not.
     run("PRAGMA journal_mode = TRUNCATE; PRAGMA synchronous = FULL");
-    if (options.exclusive && !readOnly())
+    if (options.as.exclusive && !readOnly())
         run("BEGIN EXCLUSIVE; COMMIT");
 }
 
-EmbeddedEngine::~EmbeddedEngine()
-{
-    schemaVersion_.reset();
-    dataVersion_.reset();
-}
+// The statements that it keeps end before the connection, by the order of its members.
+EmbeddedEngine::~EmbeddedEngine() = default;
 
 void EmbeddedEngine::run(const QByteArray &sql)
 {
@@ -235,16 +245,6 @@ std::unique_ptr<EngineStatement> EmbeddedEngine::prepare(const QString &sql)
     if (code != SQLITE_OK)
         throw engineError(db_.get(), code);
     return std::make_unique<EmbeddedStatement>(db_.get(), statement);
-}
-
-qint64 EmbeddedEngine::lastKey()
-{
-    return sqlite3_last_insert_rowid(db_.get());
-}
-
-qint64 EmbeddedEngine::changes()
-{
-    return sqlite3_changes64(db_.get());
 }
 
 void EmbeddedEngine::begin()
@@ -276,13 +276,37 @@ void EmbeddedEngine::rollback() noexcept
     giveTurn();
 }
 
+void EmbeddedEngine::setSavepoint()
+{
+    if (!setSavepoint_)
+        setSavepoint_ = prepare(QStringLiteral("SAVEPOINT paso"));
+    setSavepoint_->run();
+}
+
+void EmbeddedEngine::releaseSavepoint()
+{
+    if (!releaseSavepoint_)
+        releaseSavepoint_ = prepare(QStringLiteral("RELEASE paso"));
+    releaseSavepoint_->run();
+}
+
+void EmbeddedEngine::rollbackToSavepoint() noexcept
+{
+    if (inTransaction()) // a full disk takes all of it back by itself
+        sqlite3_exec(db_.get(), "ROLLBACK TO paso; RELEASE paso", nullptr, nullptr, nullptr);
+}
+
 void EmbeddedEngine::takeTurn()
 {
+    QElapsedTimer queueing;
+    queueing.start();
     queue_.enter(waiting_.patienceMs);
+    waiting_.spentMs = queueing.elapsed();
 }
 
 void EmbeddedEngine::giveTurn() noexcept
 {
+    waiting_.spentMs = 0;
     queue_.leave();
 }
 
@@ -298,7 +322,7 @@ int EmbeddedEngine::waitForTheFile(void *waiting, int attempts)
     auto &own = *static_cast<Waiting *>(waiting);
     if (attempts == 0)
         own.since.start();
-    if (own.since.elapsed() > own.patienceMs)
+    if (own.since.elapsed() + own.spentMs > own.patienceMs)
         return 0;
     QThread::usleep(static_cast<unsigned long>(QRandomGenerator::global()->bounded(300, 3000)));
     return 1;
@@ -307,6 +331,11 @@ int EmbeddedEngine::waitForTheFile(void *waiting, int attempts)
 bool EmbeddedEngine::inTransaction() const
 {
     return sqlite3_get_autocommit(db_.get()) == 0;
+}
+
+bool EmbeddedEngine::reservesName(const QString &name) const
+{
+    return name.startsWith(u'_') || name.contains(u'|') || name.startsWith(u"sqlite_", Qt::CaseInsensitive);
 }
 
 bool EmbeddedEngine::readOnly() const
@@ -353,6 +382,18 @@ QStringList EmbeddedEngine::check()
     return faults;
 }
 
+std::unique_ptr<Engine> openEngine(const QString &path, const QString &connect, const OpenOptions &options)
+{
+    return openEmbedded(path, passwordOf(connect), {.as = options});
+}
+
+std::unique_ptr<Engine> createEngine(const QString &path, const QString &connect)
+{
+    const QString password = passwordOf(connect);
+    const QByteArray key = password.isEmpty() ? QByteArray() : rawKey(password, freshSalt());
+    return std::make_unique<EmbeddedEngine>(path, key, EmbeddedEngine::Options{.create = true});
+}
+
 std::unique_ptr<EmbeddedEngine> openEmbedded(const QString &path, const QString &password,
                                              const EmbeddedEngine::Options &options)
 {
@@ -360,7 +401,10 @@ std::unique_ptr<EmbeddedEngine> openEmbedded(const QString &path, const QString 
     const bool plain = isPlainDatabase(path);
     const QByteArray key = plain || password.isEmpty() ? QByteArray() : rawKey(password, saltOf(path));
     try {
-        return std::make_unique<EmbeddedEngine>(path, key, options);
+        auto engine = std::make_unique<EmbeddedEngine>(path, key, options);
+        if (!key.isEmpty() && !options.salvage)
+            rememberSalt(path);
+        return engine;
     } catch (const Error &error) {
         // A first page that the key does not fit reads as no database at all.
         if (error.number() == Error::NotADatabase && !plain)

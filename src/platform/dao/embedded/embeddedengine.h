@@ -1,13 +1,13 @@
 #pragma once
 
-#include "platform/dao/engine/engine.h"
-
+#include "platform/dao/embedded/embeddedemitter.h"
 #include "platform/dao/embedded/turn.h"
+#include "platform/dao/engine/engine.h"
 #include "platform/dao/error.h"
+
 #include <QElapsedTimer>
 
 struct sqlite3;
-struct sqlite3_stmt;
 
 namespace dao
 {
@@ -17,10 +17,8 @@ class EmbeddedEngine : public Engine
 {
 public:
     struct Options {
+        OpenOptions as = {};
         bool create = false;
-        bool exclusive = false;
-        bool readOnly = false;
-        int patienceMs = 15000;
         bool salvage = false; ///< a file that was cut or has pages too many opens too
     };
 
@@ -28,9 +26,8 @@ public:
     EmbeddedEngine(const QString &path, const QByteArray &key, const Options &options);
     ~EmbeddedEngine() override;
 
+    const Emitter &emitter() const override { return emitter_; }
     std::unique_ptr<EngineStatement> prepare(const QString &sql) override;
-    qint64 lastKey() override;
-    qint64 changes() override;
     void takeTurn() override;
     void giveTurn() noexcept override;
     void begin() override;
@@ -38,7 +35,11 @@ public:
     void commit() override;
     void rollback() noexcept override;
     bool inTransaction() const override;
+    void setSavepoint() override;
+    void releaseSavepoint() override;
+    void rollbackToSavepoint() noexcept override;
     EngineCatalogue readCatalogue() override;
+    bool reservesName(const QString &name) const override;
     qint64 schemaVersion() override;
     qint64 dataVersion() override;
     void createTable(const QString &name, const std::vector<FieldDef> &columns) override;
@@ -72,12 +73,14 @@ private:
     /// For another station that was found to hold the file.
     struct Waiting {
         QElapsedTimer since;
+        qint64 spentMs = 0; ///< in the queue, for the same work
         int patienceMs = 15000;
     };
     Waiting waiting_;
+    EmbeddedEmitter emitter_;
     WriteQueue queue_;
     std::unique_ptr<sqlite3, Close> db_;
-    std::unique_ptr<EngineStatement> schemaVersion_, dataVersion_;
+    std::unique_ptr<EngineStatement> schemaVersion_, dataVersion_, setSavepoint_, releaseSavepoint_;
     bool enciphered_ = false;
     bool scratch_ = false;
     int scratchTables_ = 0;

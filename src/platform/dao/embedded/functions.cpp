@@ -5,6 +5,7 @@
 #include "platform/dao/dialect/collation.h"
 #include "platform/dao/dialect/like.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include ENGINE_HEADER
@@ -58,6 +59,12 @@ basic::Date date(sqlite3_value *value)
 qint64 whole(sqlite3_value *value)
 {
     return basic::nearestWhole(sqlite3_value_double(value));
+}
+
+int wholeInt(sqlite3_value *value)
+{
+    using Limits = std::numeric_limits<int>;
+    return static_cast<int>(std::clamp<qint64>(whole(value), Limits::min(), Limits::max()));
 }
 
 bool anyNull(int count, sqlite3_value **values)
@@ -195,13 +202,22 @@ int dayOf(const QDate &d)
     return d.day();
 }
 
+/// A number of years, months or days as far as the calendar has use for it.
+qint64 calendarNumber(sqlite3_value *value)
+{
+    constexpr qint64 beyondTheCalendar = 4'000'000; // days, from its first to its last
+    return std::clamp(whole(value), -beyondTheCalendar, beyondTheCalendar);
+}
+
 void makeDate(sqlite3_context *context, int, sqlite3_value **values)
 {
     // Months and days beyond their range run over into the next or the previous ones.
-    const qint64 months = whole(values[0]) * 12 + whole(values[1]) - 1;
+    const qint64 months = calendarNumber(values[0]) * 12 + calendarNumber(values[1]) - 1;
     const qint64 year = months >= 0 ? months / 12 : (months - 11) / 12;
     const QDate first(static_cast<int>(year), static_cast<int>(months - year * 12) + 1, 1);
-    give(context, basic::Date(first.addDays(whole(values[2]) - 1)).serial());
+    give(
+        context,
+        basic::Date::fromSerial(basic::Date(first.addDays(calendarNumber(values[2]) - 1)).serial()).serial());
 }
 
 void pieceOfText(sqlite3_context *context, int count, sqlite3_value **values)
@@ -236,7 +252,7 @@ void cutText(sqlite3_context *context, int, sqlite3_value **values)
 
 void position(sqlite3_context *context, int count, sqlite3_value **values)
 {
-    const qint64 from = count == 3 ? whole(values[0]) - 1 : 0;
+    const qint64 from = count == 3 ? std::max<qint64>(whole(values[0]), 1) - 1 : 0;
     give(context,
          static_cast<qint64>(
              text(values[count - 2]).indexOf(text(values[count - 1]), from, Qt::CaseInsensitive) + 1));
@@ -255,8 +271,7 @@ void dateDifference(sqlite3_context *context, int, sqlite3_value **values)
 
 void dateSum(sqlite3_context *context, int, sqlite3_value **values)
 {
-    give(context,
-         basic::dateAdd(text(values[0]), static_cast<int>(whole(values[1])), date(values[2])).serial());
+    give(context, basic::dateAdd(text(values[0]), wholeInt(values[1]), date(values[2])).serial());
 }
 
 // First and Last of a group keep a value in the aggregate's own memory.

@@ -1,5 +1,6 @@
 #include "platform/dao/embedded/key.h"
 
+#include "platform/dao/embedded/turn.h"
 #include "platform/dao/error.h"
 
 #include <QDir>
@@ -82,7 +83,22 @@ QByteArray freshSalt()
     return {reinterpret_cast<const char *>(words.data()), saltSize};
 }
 
-QByteArray rawKey(const QString &password, const QByteArray &salt)
+void rememberSalt(const QString &path)
+{
+    const QByteArray salt = saltOf(path);
+    if (salt == rememberedSalt(path))
+        return;
+    // Where it cannot be kept nothing but a later repair is the poorer.
+    if (QFile file(queueFile(path)); file.open(QIODevice::ReadWrite))
+        file.write(salt);
+}
+
+QByteArray rememberedSalt(const QString &path)
+{
+    return headOf(queueFile(path), saltSize);
+}
+
+QByteArray fileKey(const QString &password, const QByteArray &salt)
 {
     static QMutex mutex;
     static QHash<QByteArray, QByteArray> derived;
@@ -90,14 +106,18 @@ QByteArray rawKey(const QString &password, const QByteArray &salt)
     const QByteArray secret = password.toUtf8();
     QByteArray &known = derived[salt + secret];
     if (known.isEmpty()) {
-        QByteArray key(keySize, '\0');
+        known = QByteArray(keySize, '\0');
         PKCS5_PBKDF2_HMAC(secret.constData(), static_cast<int>(secret.size()),
                           reinterpret_cast<const unsigned char *>(salt.constData()),
                           static_cast<int>(salt.size()), derivationRounds, EVP_sha512(), keySize,
-                          reinterpret_cast<unsigned char *>(key.data()));
-        known = "x'" + (key + salt).toHex() + "'";
+                          reinterpret_cast<unsigned char *>(known.data()));
     }
     return known;
+}
+
+QByteArray rawKey(const QString &password, const QByteArray &salt)
+{
+    return "x'" + (fileKey(password, salt) + salt).toHex() + "'";
 }
 
 bool isPlainDatabase(const QString &path)
@@ -117,7 +137,8 @@ void requireDatabaseFile(const QString &path, bool maybeCut)
     const QByteArray head = headOf(path, pageSize);
     if (head.isEmpty() && info.size() > 0)
         throw Error(Error::ReadOnly, QStringLiteral("No hay permiso para leer el archivo '%1'.").arg(shown));
-    if (head.size() < saltSize || isOtherKind(head) || (!isPlainDatabase(path) && !looksEnciphered(head)))
+    const bool foreign = isOtherKind(head) || (!isPlainDatabase(path) && !looksEnciphered(head));
+    if (head.size() < saltSize || (foreign && !maybeCut))
         throw Error(Error::NotADatabase,
                     QStringLiteral("El archivo '%1' no tiene el formato de una base de datos.").arg(shown));
     if (!maybeCut && (info.size() % 512 != 0 || info.size() < 512))

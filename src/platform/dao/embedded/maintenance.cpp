@@ -1,7 +1,7 @@
 #include "platform/dao/database.h"
 
 #include "platform/dao/embedded/embeddedengine.h"
-#include "platform/dao/embedded/emitter.h"
+#include "platform/dao/embedded/firstpage.h"
 #include "platform/dao/embedded/key.h"
 
 #include <QDir>
@@ -9,8 +9,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-
-#include ENGINE_HEADER
 
 /// Work on a closed file as a whole. Both operations write a new file under another name first, so that a
 /// failure midway leaves what there was.
@@ -28,6 +26,11 @@ QString quoted(QByteArray text)
     return u'\'' + QString::fromUtf8(text.replace('\'', "''")) + u'\'';
 }
 
+QString journalOf(const QString &path)
+{
+    return path + QStringLiteral("-journal");
+}
+
 void requireClosed(EmbeddedEngine &engine)
 {
     engine.run("BEGIN IMMEDIATE; ROLLBACK");
@@ -37,13 +40,15 @@ void requireClosed(EmbeddedEngine &engine)
 class Unfinished
 {
 public:
-    explicit Unfinished(QString path) : path_(std::move(path)) { QFile::remove(path_); }
-    ~Unfinished() { QFile::remove(path_); }
+    explicit Unfinished(QString path) : path_(std::move(path)) { clear(); }
+    ~Unfinished() { clear(); }
     Unfinished(const Unfinished &) = delete;
     Unfinished &operator=(const Unfinished &) = delete;
     const QString &path() const { return path_; }
     void keepAs(const QString &name) const
     {
+        // A journal that was left of another file of this name must not be played back into this one.
+        QFile::remove(journalOf(name));
         if (!QFile::rename(path_, name))
             throw Error(
                 Error::ReadOnly,
@@ -51,6 +56,12 @@ public:
     }
 
 private:
+    void clear() const
+    {
+        for (const QString &file : {path_, journalOf(path_), queueFile(path_)})
+            QFile::remove(file);
+    }
+
     QString path_;
 };
 
@@ -82,7 +93,7 @@ private:
     void reopen()
     {
         source_.reset(); // a connection that has met a damaged page reads no more
-        source_ = openEmbedded(from_, password_, {.readOnly = true, .salvage = true});
+        source_ = openEmbedded(from_, password_, {.as = {.readOnly = true}, .salvage = true});
     }
 
     void copyIndex(const Table &table, IndexDef index)
@@ -135,7 +146,7 @@ private:
         sequence->bind(0, highest);
         sequence->bind(1, table.name);
         if (highest < qint64(1) << 40)
-            sequence->step();
+            sequence->run();
     }
 
     /// Copies the rows of a range of keys; on a damaged page what lies before it and behind it, then each
@@ -170,10 +181,9 @@ private:
             const StatementRun run(*select);
             select->bind(0, first);
             select->bind(1, last);
-            auto *const from = statementOf(*select);
             while (select->step()) {
                 reached = select->integer(0);
-                copyRow(from);
+                copyRow(*select);
             }
             return {};
         } catch (const Error &) {
@@ -183,18 +193,29 @@ private:
         }
     }
 
-    static sqlite3_stmt *statementOf(EngineStatement &statement)
+    void copyRow(const EngineStatement &from)
     {
-        return static_cast<sqlite3_stmt *>(statement.nativeHandle());
-    }
-
-    void copyRow(sqlite3_stmt *from)
-    {
-        sqlite3_stmt *const to = statementOf(*insert_);
-        for (int i = 0; i < columns_; ++i)
-            sqlite3_bind_value(to, i + 1, sqlite3_column_value(from, i));
-        const StatementRun run(*insert_);
-        insert_->step();
+        using Cell = EngineStatement::Cell;
+        cells_.resize(static_cast<size_t>(columns_));
+        from.cells(0, cells_);
+        for (int i = 0; i < columns_; ++i) {
+            const Cell &cell = cells_[static_cast<size_t>(i)];
+            switch (cell.content) {
+            case Cell::Null:
+                insert_->bind(i, basic::Value(basic::Null()));
+                break;
+            case Cell::Integer:
+                insert_->bind(i, cell.integer);
+                break;
+            case Cell::Real:
+                insert_->bind(i, basic::Value(cell.real));
+                break;
+            case Cell::Text:
+                insert_->bindText(i, cell.text);
+                break;
+            }
+        }
+        insert_->insert();
     }
 
     QString from_;
@@ -202,10 +223,19 @@ private:
     EmbeddedEngine to_;
     std::unique_ptr<EmbeddedEngine> source_;
     std::unique_ptr<EngineStatement> insert_;
+    std::vector<EngineStatement::Cell> cells_;
     QString select_;
     int columns_ = 0;
     int failures_ = 0;
 };
+
+/// The pages that describe the tables can be read.
+bool readsCatalogue(const QString &path, const QString &password)
+{
+    return basic::ignoring(
+        {Error::FileDamaged, Error::WrongPassword, Error::NotADatabase, Error::NotATable, Error::Engine},
+        [&] { openEmbedded(path, password, {.as = {.readOnly = true}, .salvage = true})->readCatalogue(); });
+}
 
 } // namespace
 
@@ -239,17 +269,21 @@ void repairDatabase(const QString &path, const QString &connect)
 {
     const QString password = passwordOf(connect);
     const Unfinished fresh(path + QStringLiteral(".tmp"));
+    const Unfinished headed(path + QStringLiteral(".cabeza"));
+    const bool plain = isPlainDatabase(path);
+    const bool catalogued = readsCatalogue(path, password);
+    if (!catalogued && !plain)
+        copyWithNewFirstPage(path, headed.path(), password);
     {
-        Rescue rescue(path, fresh.path(), isPlainDatabase(path) ? QString() : password);
+        Rescue rescue(catalogued || plain ? path : headed.path(), fresh.path(), plain ? QString() : password);
         rescue.run();
     }
     QString aside = path + QStringLiteral(".dañada");
     for (int i = 2; QFile::exists(aside); ++i)
         aside = path + QStringLiteral(".dañada%1").arg(i);
-    // A journal of the damaged file must not be played back into the mended one.
-    const QString journal = path + QStringLiteral("-journal");
-    QFile::remove(aside + QStringLiteral("-journal"));
-    QFile::rename(journal, aside + QStringLiteral("-journal"));
+    // A journal of the damaged file goes with it.
+    QFile::remove(journalOf(aside));
+    QFile::rename(journalOf(path), journalOf(aside));
     if (!QFile::rename(path, aside))
         throw Error(Error::ReadOnly, QStringLiteral("No se pudo apartar el archivo dañado."));
     try {

@@ -2,7 +2,6 @@
 
 #include "platform/dao/dialect/names.h"
 #include "platform/dao/dialect/types.h"
-#include "platform/dao/embedded/emitter.h"
 
 #include <algorithm>
 
@@ -108,6 +107,7 @@ QString createIndexSql(const QString &table, const IndexDef &index)
 EngineCatalogue EmbeddedEngine::readCatalogue()
 {
     EngineCatalogue catalogue;
+    bool queriesKept = false;
     const auto columns = prepare(u"SELECT m.name, p.name, p.type, p.pk FROM main.sqlite_schema AS m, "
                                  "pragma_table_info(m.name, 'main') AS p WHERE m.type = 'table' "
                                  "AND m.name NOT GLOB 'sqlite_*' ORDER BY m.rowid, p.cid"_s);
@@ -116,8 +116,10 @@ EngineCatalogue EmbeddedEngine::readCatalogue()
         while (columns->step()) {
             const QString tableName = QString::fromUtf8(columns->text(0));
             const QString name = QString::fromUtf8(columns->text(1));
-            if (tableName == queriesTable)
+            if (tableName == queriesTable) {
+                queriesKept = true;
                 continue;
+            }
             if (catalogue.tables.empty() || catalogue.tables.back().name != tableName)
                 catalogue.tables.push_back({tableName, {}, {}, u"rowid"_s, -1, {}});
             Table &table = catalogue.tables.back();
@@ -150,6 +152,8 @@ EngineCatalogue EmbeddedEngine::readCatalogue()
             table->indexes.back().fields << QString::fromUtf8(indexes->text(2));
         }
     }
+    if (!queriesKept) // in what was left of a damaged file
+        return catalogue;
     const auto queries = prepare(u"SELECT nombre, texto FROM "_s + engineName(queriesTable));
     const StatementRun run(*queries);
     while (queries->step())
@@ -225,33 +229,21 @@ void EmbeddedEngine::rebuild(const Table &table, const std::vector<FieldDef> &co
                                         : u"INSERT INTO "_s + fresh + u" ("_s + list + u") SELECT "_s + list +
                                               u" FROM "_s + engineName(table.name) + u" ORDER BY "_s +
                                               engineName(table.keyColumn);
-    const bool own = !inTransaction();
-    if (own)
-        begin();
-    try {
-        run((u"CREATE TABLE "_s + fresh + u" ("_s + columnList(columns) + u')').toUtf8());
-        run(copy.toUtf8());
-        run((u"DROP TABLE "_s + engineName(table.name)).toUtf8());
-        run((u"ALTER TABLE "_s + fresh + u" RENAME TO "_s + engineName(table.name)).toUtf8());
-        for (const IndexDef &index : table.indexes)
-            run(createIndexSql(table.name, index).toUtf8());
-        if (own)
-            commit();
-    } catch (const Error &) {
-        if (own)
-            rollback();
-        throw;
-    }
+    run((u"CREATE TABLE "_s + fresh + u" ("_s + columnList(columns) + u')').toUtf8());
+    run(copy.toUtf8());
+    run((u"DROP TABLE "_s + engineName(table.name)).toUtf8());
+    run((u"ALTER TABLE "_s + fresh + u" RENAME TO "_s + engineName(table.name)).toUtf8());
+    for (const IndexDef &index : table.indexes)
+        run(createIndexSql(table.name, index).toUtf8());
 }
 
 void EmbeddedEngine::saveQuery(const QString &name, const QString &text)
 {
     const auto statement =
         prepare(u"INSERT OR REPLACE INTO "_s + engineName(queriesTable) + u" VALUES (?, ?)"_s);
-    const StatementRun run(*statement);
     statement->bind(0, name);
     statement->bind(1, text);
-    statement->step();
+    statement->run();
 }
 
 Table EmbeddedEngine::createScratchTable(const std::vector<FieldDef> &columns)

@@ -2,7 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QFile>
-#include <QThread>
+#include <QtEndian>
 
 #include <fcntl.h>
 #include <signal.h>
@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <optional>
 
 namespace dao
 {
@@ -19,10 +20,21 @@ namespace dao
 namespace
 {
 
-// Whoever writes holds the second byte. Whoever waits for it holds the first, and the others wait for that:
-// so one who has just written does not overtake them.
-constexpr off_t waitingRoom = 0;
+// Bytes of the file that are locked. Who comes takes the next number, holds its byte until its turn is over,
+// and waits for the byte of the number before: so all of them follow one another as they came. A number is
+// also given back by a station that dies waiting, or waits no more; then the desk keeps the next one back.
+constexpr off_t counter = 0;
 constexpr off_t desk = 1;
+constexpr off_t firstNumber = 1 << 20;
+constexpr quint64 numbers = 1 << 20;
+
+// Where the number given last stands in it, in the order of little-endian machines.
+constexpr off_t counterPlace = 16;
+
+off_t byteOf(quint64 number)
+{
+    return firstNumber + static_cast<off_t>(number % numbers);
+}
 
 int lockByte(int file, off_t byte, short kind, bool wait)
 {
@@ -86,20 +98,41 @@ private:
     int ms_ = 0;
 };
 
-bool waitFor(int file, off_t byte, const Deadline &deadline)
-{
-    while (lockByte(file, byte, F_WRLCK, deadline.made()) != 0) {
-        if (errno != EINTR || deadline.over())
-            return false;
-    }
-    return true;
-}
-
 } // namespace
 
+/// The locks of one who comes, within the time that it has.
+class WriteQueue::Wait
+{
+public:
+    Wait(int file, int ms) : file_(file), ms_(ms) {}
+
+    bool lock(off_t byte)
+    {
+        if (lockByte(file_, byte, F_WRLCK, false) == 0)
+            return true;
+        if (!deadline_)
+            deadline_.emplace(ms_);
+        while (lockByte(file_, byte, F_WRLCK, deadline_->made()) != 0) {
+            if (errno != EINTR || deadline_->over())
+                return false;
+        }
+        return true;
+    }
+
+private:
+    int file_;
+    int ms_;
+    std::optional<Deadline> deadline_;
+};
+
+QString queueFile(const QString &databaseFile)
+{
+    return databaseFile + QStringLiteral(".cola");
+}
+
 WriteQueue::WriteQueue(const QString &databaseFile)
-    : file_(::open(QFile::encodeName(databaseFile + QStringLiteral(".cola")).constData(),
-                   O_RDWR | O_CREAT | O_CLOEXEC, 0660))
+    : file_(
+          ::open(QFile::encodeName(queueFile(databaseFile)).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0660))
 {
 }
 
@@ -109,17 +142,40 @@ WriteQueue::~WriteQueue()
         ::close(file_);
 }
 
+std::optional<quint64> WriteQueue::takeNumber(Wait &wait)
+{
+    if (!wait.lock(counter))
+        return {};
+    quint64 number = 0;
+    bool taken = ::pread(file_, &number, sizeof number, counterPlace) >= 0;
+    number = qToLittleEndian(qFromLittleEndian(number) + 1);
+    taken = taken && ::pwrite(file_, &number, sizeof number, counterPlace) == sizeof number &&
+            lockByte(file_, byteOf(qFromLittleEndian(number)), F_WRLCK, false) == 0;
+    lockByte(file_, counter, F_UNLCK, false);
+    return taken ? std::optional(qFromLittleEndian(number)) : std::nullopt;
+}
+
 void WriteQueue::enter(int longestWaitMs)
 {
     if (file_ < 0 || inside_)
         return;
-    if (lockByte(file_, waitingRoom, F_WRLCK, false) == 0 && lockByte(file_, desk, F_WRLCK, false) == 0) {
-        inside_ = true;
-    } else {
-        const Deadline deadline(longestWaitMs);
-        inside_ = waitFor(file_, waitingRoom, deadline) && waitFor(file_, desk, deadline);
+    Wait wait(file_, longestWaitMs);
+    number_ = takeNumber(wait);
+    if (number_) {
+        const off_t before = byteOf(*number_ - 1);
+        if (wait.lock(before))
+            lockByte(file_, before, F_UNLCK, false);
     }
-    lockByte(file_, waitingRoom, F_UNLCK, false);
+    inside_ = wait.lock(desk);
+    if (!inside_)
+        giveNumberBack();
+}
+
+void WriteQueue::giveNumberBack()
+{
+    if (number_)
+        lockByte(file_, byteOf(*number_), F_UNLCK, false);
+    number_.reset();
 }
 
 void WriteQueue::leave()
@@ -128,6 +184,7 @@ void WriteQueue::leave()
         return;
     inside_ = false;
     lockByte(file_, desk, F_UNLCK, false);
+    giveNumberBack();
 }
 
 } // namespace dao

@@ -3,8 +3,6 @@
 #include "platform/dao/dialect/parser.h"
 #include "platform/dao/recordsets/recordsetprivate.h"
 
-#include <QScopeGuard>
-
 #include <chrono>
 #include <ctime>
 
@@ -115,7 +113,7 @@ PreparedPtr DatabasePrivate::prepare(Statement statement)
         throw Error(Error::SyntaxError, QStringLiteral("La instrucción no es una consulta."));
     auto made = std::make_shared<Prepared>();
     made->bound = Binder(catalogue()).bind(std::move(statement));
-    made->sql = Emitter::statement(*made->bound);
+    made->sql = emitter().statement(*made->bound);
     made->generation = catalogue_->generation();
     return made;
 }
@@ -152,35 +150,38 @@ void DatabasePrivate::beginForBatch()
     rowsInBatch_ = 0;
 }
 
-qint64 DatabasePrivate::write(EngineStatement &statement)
+/// A full disk may take the rows before with it.
+void DatabasePrivate::noteLoss(const Error &error)
 {
-    const bool batch = batchDepth_ > 0;
-    if (batch)
-        beginForBatch();
-    const bool alone = !engine().inTransaction();
-    if (alone)
-        engine().takeTurn();
-    const auto afterwards = qScopeGuard([&] {
-        if (alone && engine_)
-            engine_->giveTurn();
-    });
-    try {
-        const StatementRun run(statement);
-        statement.step();
-    } catch (const Error &error) {
-        if (batch && !engine_->inTransaction()) {
-            batchLost_ = error; // a full disk may take the rows before with it
-            engine_->giveTurn();
-        }
-        throw;
+    if (engine_->inTransaction())
+        return;
+    batchLost_ = error;
+    engine_->giveTurn();
+}
+
+qint64 DatabasePrivate::written(EngineStatement &statement, qint64 (EngineStatement::*run)())
+{
+    qint64 result = 0;
+    if (batchDepth_ > 0) {
+        result = inBatch([&] { return (statement.*run)(); });
+        if (++rowsInBatch_ >= batchRows_)
+            commit();
+    } else {
+        const Turn turn(engine());
+        result = (statement.*run)();
     }
     processWrites_.fetch_add(1, std::memory_order_relaxed);
-    const qint64 rows = engine().changes();
-    if (batch && ++rowsInBatch_ >= batchRows_) {
-        commit();
-        rowsInBatch_ = 0;
-    }
-    return rows;
+    return result;
+}
+
+qint64 DatabasePrivate::write(EngineStatement &statement)
+{
+    return written(statement, &EngineStatement::run);
+}
+
+qint64 DatabasePrivate::insert(EngineStatement &statement)
+{
+    return written(statement, &EngineStatement::insert);
 }
 
 qint64 DatabasePrivate::execute(const QString &sql)

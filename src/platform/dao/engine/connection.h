@@ -2,7 +2,6 @@
 
 #include "platform/dao/database.h"
 #include "platform/dao/dialect/binder.h"
-#include "platform/dao/embedded/emitter.h"
 #include "platform/dao/engine/catalogue.h"
 #include "platform/dao/engine/engine.h"
 #include "platform/dao/engine/lru.h"
@@ -40,6 +39,7 @@ public:
     const QString &path() const { return path_; }
 
     Engine &engine(); ///< throws Error::Closed
+    const Emitter &emitter() { return engine().emitter(); }
     Catalogue &catalogue();
 
     /// Parses, binds and emits a text that is not DDL, or takes it from the cache.
@@ -50,14 +50,16 @@ public:
     StatementPtr statement(const QString &engineSql);
     StatementPtr bound(const EngineSql &sql); ///< with its parameters bound
 
-    /// Runs a statement that writes; counts towards the batch. Returns the rows changed.
-    qint64 write(EngineStatement &statement);
+    /// Run a statement that writes; it counts towards the batch, and failing in one is undone alone.
+    qint64 write(EngineStatement &statement);  ///< returns the rows changed
+    qint64 insert(EngineStatement &statement); ///< returns the key of the row
     qint64 execute(const QString &sql);
     /// Of this connection and of those that it opens after.
     void setPatience(int ms);
     int patience() const { return patience_; }
-    void define(const Statement &statement); ///< runs a statement of DDL; within a batch a part of it
+    void define(const Statement &statement); ///< runs a statement of DDL; within a batch a step of it
     void widenText(const QString &table, const QString &column, int size);
+    void saveQuery(const QString &name, const QString &text);
 
     void beginBatch(int rows);
     void endBatch();
@@ -88,6 +90,26 @@ private:
     void commit();
     void revive();
     void beginForBatch();
+    qint64 written(EngineStatement &statement, qint64 (EngineStatement::*run)());
+    /// One step of the open batch. A failure takes back this step alone, also where it had changed rows
+    /// before it failed.
+    template <class Work>
+    auto inBatch(Work &&work)
+    {
+        beginForBatch();
+        try {
+            Savepoint step(engine());
+            auto result = work();
+            step.keep();
+            return result;
+        } catch (const Error &error) {
+            noteLoss(error);
+            throw;
+        }
+    }
+    void noteLoss(const Error &error);
+    /// A change of structure is whole or not there, and finds what other stations have changed before.
+    void alter(const std::function<void()> &change);
 
     TablePtr existingTable(const QString &name);
     int existingColumn(const Table &table, const QString &name);

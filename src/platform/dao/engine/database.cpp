@@ -2,8 +2,6 @@
 
 #include "platform/dao/dialect/names.h"
 #include "platform/dao/dialect/parser.h"
-#include "platform/dao/embedded/embeddedengine.h"
-#include "platform/dao/embedded/key.h"
 #include "platform/dao/engine/connection.h"
 #include "platform/dao/recordsets/dynaset.h"
 #include "platform/dao/recordsets/snapshot.h"
@@ -59,10 +57,9 @@ Database::~Database()
 void Database::open(const QString &path, bool exclusive, bool readOnly, const QString &connect)
 {
     close();
-    const auto opener = [this, exclusive, readOnly, path = QFileInfo(path).absoluteFilePath(),
-                         password = passwordOf(connect)] {
-        return openEmbedded(path, password,
-                            {.exclusive = exclusive, .readOnly = readOnly, .patienceMs = d_->patience()});
+    const auto opener = [this, exclusive, readOnly, path = QFileInfo(path).absoluteFilePath(), connect] {
+        return openEngine(path, connect,
+                          {.exclusive = exclusive, .readOnly = readOnly, .patienceMs = d_->patience()});
     };
     d_->attach(opener(), path, opener);
 }
@@ -73,9 +70,7 @@ void Database::create(const QString &path, const QString &connect)
     if (QFile::exists(path))
         throw Error(Error::FileExists,
                     QStringLiteral("El archivo '%1' ya existe.").arg(QDir::toNativeSeparators(path)));
-    const QString password = passwordOf(connect);
-    const QByteArray key = password.isEmpty() ? QByteArray() : rawKey(password, freshSalt());
-    d_->attach(std::make_unique<EmbeddedEngine>(path, key, EmbeddedEngine::Options{.create = true}), path);
+    d_->attach(createEngine(path, connect), path);
     // The practice's people share the file through their group; nobody else reads it.
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup);
 }
@@ -162,11 +157,8 @@ TableDef Database::tableDef(QStringView name)
 
 void Database::createQuery(const QString &name, const QString &select)
 {
-    if (name.isEmpty() || d_->catalogue().table(name))
-        throw Error(Error::TableExists, QStringLiteral("El objeto '%1' ya existe.").arg(name));
     parseSelect(select);
-    d_->engine().saveQuery(name, select);
-    d_->catalogue().reload();
+    d_->saveQuery(name, select);
 }
 
 QStringList Database::queryNames() const

@@ -13,10 +13,9 @@ namespace
 
 constexpr int longestName = 64;
 
-void requireName(const QString &name)
+void requireName(const Engine &engine, const QString &name)
 {
-    if (name.isEmpty() || name.size() > longestName || name.startsWith(u'_') || name.contains(u'|') ||
-        name.startsWith(u"sqlite_", Qt::CaseInsensitive))
+    if (name.isEmpty() || name.size() > longestName || engine.reservesName(name))
         throw Error(Error::SyntaxError, QStringLiteral("'%1' no es un nombre válido.").arg(name));
 }
 
@@ -55,11 +54,11 @@ int DatabasePrivate::existingColumn(const Table &table, const QString &name)
 
 void DatabasePrivate::createTable(const CreateTable &create)
 {
-    requireName(create.table);
+    requireName(engine(), create.table);
     if (catalogue().table(create.table) || catalogue().query(create.table))
         throw Error(Error::TableExists, QStringLiteral("La tabla '%1' ya existe.").arg(create.table));
     for (size_t i = 0; i < create.columns.size(); ++i) {
-        requireName(create.columns[i].name);
+        requireName(engine(), create.columns[i].name);
         for (size_t j = 0; j < i; ++j) {
             if (sameName(create.columns[i].name, create.columns[j].name))
                 throw fieldExists(create.columns[i].name);
@@ -72,7 +71,7 @@ void DatabasePrivate::createTable(const CreateTable &create)
 void DatabasePrivate::createIndex(const CreateIndex &create)
 {
     const TablePtr table = existingTable(create.table);
-    requireName(create.index.name);
+    requireName(engine(), create.index.name);
     if (table->index(create.index.name))
         throw Error(
             Error::IndexExists,
@@ -102,7 +101,7 @@ void DatabasePrivate::dropIndex(const DropIndex &drop)
 void DatabasePrivate::addColumn(const AddColumn &add)
 {
     const TablePtr table = existingTable(add.table);
-    requireName(add.column.name);
+    requireName(engine(), add.column.name);
     if (table->ordinal(add.column.name) >= 0)
         throw fieldExists(add.column.name);
     std::vector<FieldDef> columns = table->columns;
@@ -126,39 +125,66 @@ void DatabasePrivate::dropColumn(const DropColumn &drop)
     engine().dropColumn(*table, ordinal);
 }
 
+void DatabasePrivate::alter(const std::function<void()> &change)
+{
+    const auto step = [&] {
+        // Somebody else's change counts as this one's having taken effect.
+        catalogue().refresh();
+        change();
+        return true;
+    };
+    if (batchDepth_ > 0) {
+        inBatch(step);
+    } else {
+        engine().begin();
+        try {
+            step();
+        } catch (...) {
+            engine().rollback();
+            throw;
+        }
+        commit();
+    }
+    catalogue().reload();
+}
+
 void DatabasePrivate::widenText(const QString &name, const QString &column, int size)
 {
-    if (batchDepth_ > 0)
-        beginForBatch();
-    catalogue().refresh();
-    const TablePtr table = existingTable(name);
-    FieldDef field = table->columns[static_cast<size_t>(existingColumn(*table, column))];
-    if (field.type != FieldType::Text || field.size >= size)
-        return;
-    field.size = size;
-    engine().changeColumn(*table, field);
-    catalogue().reload();
+    alter([&] {
+        const TablePtr table = existingTable(name);
+        FieldDef field = table->columns[static_cast<size_t>(existingColumn(*table, column))];
+        if (field.type != FieldType::Text || field.size >= size)
+            return;
+        field.size = size;
+        engine().changeColumn(*table, field);
+    });
+}
+
+void DatabasePrivate::saveQuery(const QString &name, const QString &text)
+{
+    alter([&] {
+        if (name.isEmpty() || catalogue().table(name))
+            throw Error(Error::TableExists, QStringLiteral("El objeto '%1' ya existe.").arg(name));
+        engine().saveQuery(name, text);
+    });
 }
 
 void DatabasePrivate::define(const Statement &statement)
 {
-    if (batchDepth_ > 0)
-        beginForBatch();
-    // Somebody else's change counts as this one's having taken effect.
-    catalogue().refresh();
-    if (const auto *create = std::get_if<CreateTable>(&statement))
-        createTable(*create);
-    else if (const auto *drop = std::get_if<DropTable>(&statement))
-        engine().dropTable(*existingTable(drop->table));
-    else if (const auto *index = std::get_if<CreateIndex>(&statement))
-        createIndex(*index);
-    else if (const auto *noIndex = std::get_if<DropIndex>(&statement))
-        dropIndex(*noIndex);
-    else if (const auto *column = std::get_if<AddColumn>(&statement))
-        addColumn(*column);
-    else if (const auto *noColumn = std::get_if<DropColumn>(&statement))
-        dropColumn(*noColumn);
-    catalogue().reload();
+    alter([&] {
+        if (const auto *create = std::get_if<CreateTable>(&statement))
+            createTable(*create);
+        else if (const auto *drop = std::get_if<DropTable>(&statement))
+            engine().dropTable(*existingTable(drop->table));
+        else if (const auto *index = std::get_if<CreateIndex>(&statement))
+            createIndex(*index);
+        else if (const auto *noIndex = std::get_if<DropIndex>(&statement))
+            dropIndex(*noIndex);
+        else if (const auto *column = std::get_if<AddColumn>(&statement))
+            addColumn(*column);
+        else if (const auto *noColumn = std::get_if<DropColumn>(&statement))
+            dropColumn(*noColumn);
+    });
 }
 
 } // namespace dao

@@ -27,7 +27,7 @@ void Dynaset::open()
 {
     const Bound &bound = *prepared_->bound;
     keys_ = Keyset(bound.tables.size());
-    naturalOrder_ = Emitter::naturalOrder(bound);
+    naturalOrder_ = bound.naturalOrder();
     std::vector<FieldDef> fields;
     std::vector<QString> qualifiers;
     for (const OutputColumn &column : bound.columns) {
@@ -58,9 +58,9 @@ void Dynaset::release()
     readOn_.reset();
 }
 
-void Dynaset::readKeys(const Emitter::KeyQuery &query, Keyset &keys)
+void Dynaset::readKeys(const KeyQuery &query, Keyset &keys)
 {
-    const StatementPtr statement = database().bound(Emitter::keys(*prepared_->bound, query));
+    const StatementPtr statement = database().bound(database().emitter().keys(*prepared_->bound, query));
     const StatementRun run(*statement);
     const size_t width = keys.width();
     std::vector<qint64> key(width);
@@ -115,7 +115,7 @@ void Dynaset::appendAdded()
 void Dynaset::readOn()
 {
     if (!readOn_) {
-        const EngineSql sql = Emitter::keys(*prepared_->bound, {.columns = hot_, .beyond = true});
+        const EngineSql sql = database().emitter().keys(*prepared_->bound, {.columns = hot_, .beyond = true});
         readOn_ = StatementPtr(database().engine().prepare(sql.text));
         for (size_t i = 0; i < sql.parameters.size(); ++i)
             readOn_->bind(static_cast<int>(i), sql.parameters[i]);
@@ -169,7 +169,7 @@ qint64 Dynaset::firstMatch(const QString &criterion, bool backwards, qint64 afte
     ExprPtr condition = parseCriterion(criterion);
     Binder(database().catalogue()).bindCriterion(condition, *prepared_->bound);
     const StatementPtr statement = database().bound(
-        Emitter::keys(*prepared_->bound, {.criterion = condition.get(), .reversed = backwards}));
+        database().emitter().keys(*prepared_->bound, {.criterion = condition.get(), .reversed = backwards}));
     const StatementRun run(*statement);
     std::vector<qint64> key(keys_.width());
     while (statement->step()) {
@@ -291,7 +291,7 @@ void Dynaset::startWindow(qint64 first, qint64 rows)
     window_.reset(std::move(types));
 }
 
-EngineStatement &Dynaset::fetchStatement(Emitter::Fetch fetch, int keys)
+EngineStatement &Dynaset::fetchStatement(Fetch fetch, int keys)
 {
     for (const Fetcher &fetcher : fetchers_) {
         if (fetcher.fetch == fetch && fetcher.keys == keys) {
@@ -299,7 +299,7 @@ EngineStatement &Dynaset::fetchStatement(Emitter::Fetch fetch, int keys)
             return *fetcher.statement;
         }
     }
-    const EngineSql sql = Emitter::rows(*prepared_->bound, hot_, fetch, keys);
+    const EngineSql sql = database().emitter().rows(*prepared_->bound, hot_, fetch, keys);
     // Computed columns have parameters, whose values must not be shared with another recordset's.
     StatementPtr statement = sql.parameters.empty() ? database().statement(sql.text)
                                                     : StatementPtr(database().engine().prepare(sql.text));
@@ -312,7 +312,7 @@ EngineStatement &Dynaset::fetchStatement(Emitter::Fetch fetch, int keys)
 
 void Dynaset::loadRange(qint64 first, qint64 last)
 {
-    EngineStatement &statement = fetchStatement(Emitter::Fetch::Range, 0);
+    EngineStatement &statement = fetchStatement(Fetch::Range, 0);
     statement.bind(firstPlace_, keys_.at(first)[0]);
     statement.bind(firstPlace_ + 1, keys_.at(last)[0]);
     const StatementRun run(statement);
@@ -334,7 +334,7 @@ void Dynaset::loadList(qint64 first, qint64 last)
     int places = 1;
     while (places < wanted)
         places *= 8;
-    EngineStatement &statement = fetchStatement(Emitter::Fetch::List, places);
+    EngineStatement &statement = fetchStatement(Fetch::List, places);
     std::vector<std::pair<qint64, qint64>> positions;
     for (int i = 0; i < places; ++i) {
         const qint64 position = std::min(first + i, last);
@@ -355,7 +355,7 @@ void Dynaset::loadList(qint64 first, qint64 last)
 
 void Dynaset::loadTuples(qint64 first, qint64 last)
 {
-    EngineStatement &statement = fetchStatement(Emitter::Fetch::Tuple, 0);
+    EngineStatement &statement = fetchStatement(Fetch::Tuple, 0);
     const auto width = static_cast<int>(keys_.width());
     for (qint64 position = first; position <= last; ++position) {
         const auto key = keys_.at(position);

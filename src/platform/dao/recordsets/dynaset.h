@@ -43,7 +43,7 @@ private:
     /// once.
     void readOn();
     void appendAdded();
-    void readKeys(const Emitter::KeyQuery &query, Keyset &keys);
+    void readKeys(const KeyQuery &query, Keyset &keys);
     qint64 positionOf(std::span<const qint64> key);
 
     qint64 rowOfWindow(qint64 position); ///< makes sure that it is loaded; -1 for a deleted row
@@ -53,7 +53,7 @@ private:
     void loadList(qint64 first, qint64 last);
     void loadTuples(qint64 first, qint64 last);
     void makeHot(int ordinal);
-    EngineStatement &fetchStatement(Emitter::Fetch fetch, int keys);
+    EngineStatement &fetchStatement(Fetch fetch, int keys);
 
     size_t tableOf(int ordinal) const;
     int columnOf(int ordinal) const;
@@ -77,7 +77,7 @@ private:
     qint64 passPosition_ = -1;
     int passSlot_ = -1;
     struct Fetcher {
-        Emitter::Fetch fetch;
+        Fetch fetch;
         int keys;
         StatementPtr statement;
         int places; ///< parameters before those of the keys

@@ -239,17 +239,18 @@ void requirePrimaryKey(const Table &table, const RowChanges &changes, bool addin
 qint64 RecordsetPrivate::insertInto(const Table &table, const RowChanges &changes)
 {
     requirePrimaryKey(table, changes, true);
-    const StatementPtr statement = database().statement(Emitter::insertRow(table, columnsOf(changes)));
+    const StatementPtr statement =
+        database().statement(database().emitter().insertRow(table, columnsOf(changes)));
     for (size_t i = 0; i < changes.size(); ++i)
         statement->bind(static_cast<int>(i), changes[i].second);
-    database().write(*statement);
-    return database().engine().lastKey();
+    return database().insert(*statement);
 }
 
 void RecordsetPrivate::updateIn(const Table &table, qint64 key, const RowChanges &changes)
 {
     requirePrimaryKey(table, changes, false);
-    const StatementPtr statement = database().statement(Emitter::updateRow(table, columnsOf(changes)));
+    const StatementPtr statement =
+        database().statement(database().emitter().updateRow(table, columnsOf(changes)));
     for (size_t i = 0; i < changes.size(); ++i)
         statement->bind(static_cast<int>(i), changes[i].second);
     statement->bind(static_cast<int>(changes.size()), key);
@@ -259,7 +260,7 @@ void RecordsetPrivate::updateIn(const Table &table, qint64 key, const RowChanges
 
 void RecordsetPrivate::deleteFrom(const Table &table, qint64 key)
 {
-    const StatementPtr statement = database().statement(Emitter::deleteRow(table));
+    const StatementPtr statement = database().statement(database().emitter().deleteRow(table));
     statement->bind(0, key);
     if (database().write(*statement) == 0)
         throwDeleted();

@@ -88,12 +88,11 @@ void Snapshot::makeScratch()
 
     std::vector<int> columns(fields().size());
     std::iota(columns.begin(), columns.end(), 0);
-    const auto statement = database().engine().prepare(Emitter::insertRow(*table, columns));
+    const auto statement = database().engine().prepare(database().emitter().insertRow(*table, columns));
     for (qint64 row = 0; row < rows_.count(); ++row) {
-        const StatementRun run(*statement);
         for (int column : columns)
             statement->bind(column, rows_.value(row, column));
-        statement->step();
+        statement->insert();
     }
 }
 
@@ -103,7 +102,8 @@ qint64 Snapshot::firstMatch(const QString &criterion, bool backwards, qint64 aft
     if (!scratch_)
         makeScratch();
     Binder(database().catalogue()).bindCriterion(condition, *scratch_);
-    const EngineSql sql = Emitter::keys(*scratch_, {.criterion = condition.get(), .reversed = backwards});
+    const EngineSql sql =
+        database().emitter().keys(*scratch_, {.criterion = condition.get(), .reversed = backwards});
     const auto statement = database().engine().prepare(sql.text);
     for (size_t i = 0; i < sql.parameters.size(); ++i)
         statement->bind(static_cast<int>(i), sql.parameters[i]);

@@ -83,7 +83,7 @@ EngineStatement &TableRecordset::pageStatement(const Page &query)
         if (known == shape)
             return *statement;
     }
-    statements_.emplace_back(shape, database().statement(Emitter::page(*table_, hot_, query)));
+    statements_.emplace_back(shape, database().statement(database().emitter().page(*table_, hot_, query)));
     return *statements_.back().second;
 }
 
@@ -180,7 +180,7 @@ bool TableRecordset::eof()
 
 qint64 TableRecordset::recordCount()
 {
-    const StatementPtr statement = database().statement(Emitter::countRows(*table_));
+    const StatementPtr statement = database().statement(database().emitter().countRows(*table_));
     const StatementRun run(*statement);
     return statement->step() ? statement->integer(0) : 0;
 }
@@ -416,8 +416,8 @@ const std::vector<qint64> &TableRecordset::listedKeys()
     const qint64 stamp = database().changeStamp();
     if (listedStamp_ == stamp)
         return listed_;
-    const StatementPtr statement = database().statement(Emitter::page(*table_, {}, {.index = index_}));
-    statement->bind(0, qint64(-1));
+    const StatementPtr statement =
+        database().statement(database().emitter().page(*table_, {}, {.index = index_, .whole = true}));
     listed_.clear();
     const StatementRun run(*statement);
     while (statement->step())

@@ -43,7 +43,7 @@ protected:
 
 private:
     enum class Place { Before, Row, After, Removed };
-    using Page = Emitter::PageQuery;
+    using Page = PageQuery;
     /// A value of an index's column; of a row that was read, a text with its bytes as they lie in the file,
     /// since a walk goes on from where it stood only by those.
     struct IndexValue {

@@ -1,8 +1,9 @@
-#include "platform/dao/embedded/emitter.h"
+#include "platform/dao/embedded/sqlwriter.h"
 
 #include "platform/dao/dialect/functions.h"
 #include "platform/dao/dialect/names.h"
 #include "platform/dao/dialect/types.h"
+#include "platform/dao/embedded/functiontexts.h"
 
 #include <algorithm>
 
@@ -71,7 +72,13 @@ QStringView typeLetter(ExprType type)
 
 } // namespace
 
-void Emitter::parameter(const basic::Value &value)
+/// As it is stored.
+void SqlWriter::truth(bool value)
+{
+    sql_ += QString::number(basic::Value(value).integer());
+}
+
+void SqlWriter::parameter(const basic::Value &value)
 {
     if (sharing_) {
         const auto it = std::find(parameters_.begin(), parameters_.end(), value);
@@ -84,14 +91,14 @@ void Emitter::parameter(const basic::Value &value)
     sql_ += u'?' + QString::number(parameters_.size());
 }
 
-void Emitter::value(const Expr &expr)
+void SqlWriter::value(const Expr &expr)
 {
     switch (expr.kind) {
     case ExprKind::Null:
         sql_ += u"NULL";
         return;
     case ExprKind::Boolean:
-        sql_ += expr.literal.truth() ? u"-1" : u"0";
+        truth(expr.literal.truth());
         return;
     case ExprKind::Number:
     case ExprKind::Text:
@@ -132,14 +139,14 @@ void Emitter::value(const Expr &expr)
     sql_ += u')';
 }
 
-void Emitter::collated(const Expr &expr)
+void SqlWriter::collated(const Expr &expr)
 {
     value(expr);
     if (expr.type == ExprType::Text && !isColumnOfTable(expr))
         sql_ += collation;
 }
 
-void Emitter::condition(const Expr &expr)
+void SqlWriter::condition(const Expr &expr)
 {
     switch (expr.kind) {
     case ExprKind::Boolean:
@@ -196,7 +203,7 @@ void Emitter::condition(const Expr &expr)
     }
 }
 
-void Emitter::compared(const Expr &operand, const Expr &other)
+void SqlWriter::compared(const Expr &operand, const Expr &other)
 {
     if (other.type == ExprType::Currency && operand.type != ExprType::Currency &&
         operand.type != ExprType::Null) {
@@ -208,7 +215,7 @@ void Emitter::compared(const Expr &operand, const Expr &other)
     value(operand);
 }
 
-void Emitter::comparison(const Expr &expr)
+void SqlWriter::comparison(const Expr &expr)
 {
     const Expr &a = *expr.operands[0];
     const Expr &b = *expr.operands[1];
@@ -221,7 +228,7 @@ void Emitter::comparison(const Expr &expr)
     sql_ += u')';
 }
 
-void Emitter::between(const Expr &expr)
+void SqlWriter::between(const Expr &expr)
 {
     const Expr &operand = *expr.operands[0];
     sql_ += u'(';
@@ -235,7 +242,7 @@ void Emitter::between(const Expr &expr)
     sql_ += u')';
 }
 
-void Emitter::in(const Expr &expr)
+void SqlWriter::in(const Expr &expr)
 {
     const Expr &operand = *expr.operands[0];
     sql_ += u'(';
@@ -253,7 +260,7 @@ void Emitter::in(const Expr &expr)
     sql_ += u"))";
 }
 
-void Emitter::like(const Expr &expr)
+void SqlWriter::like(const Expr &expr)
 {
     if (expr.negated)
         sql_ += u"(NOT ";
@@ -264,7 +271,7 @@ void Emitter::like(const Expr &expr)
     sql_ += expr.negated ? u"))" : u")";
 }
 
-void Emitter::arithmetic(const Expr &expr)
+void SqlWriter::arithmetic(const Expr &expr)
 {
     const Expr &a = *expr.operands[0];
     const Expr &b = *expr.operands[1];
@@ -332,7 +339,7 @@ void Emitter::arithmetic(const Expr &expr)
     infix(engineOperator(expr.op), expr.type == ExprType::Currency ? ExprType::Currency : ExprType::Double);
 }
 
-void Emitter::operand(const Expr &expr, ExprType as)
+void SqlWriter::operand(const Expr &expr, ExprType as)
 {
     switch (as) {
     case ExprType::Text:
@@ -353,7 +360,7 @@ void Emitter::operand(const Expr &expr, ExprType as)
     }
 }
 
-void Emitter::asText(const Expr &expr)
+void SqlWriter::asText(const Expr &expr)
 {
     switch (expr.type) {
     case ExprType::Null:
@@ -374,7 +381,7 @@ void Emitter::asText(const Expr &expr)
     }
 }
 
-void Emitter::asNumber(const Expr &expr)
+void SqlWriter::asNumber(const Expr &expr)
 {
     switch (expr.type) {
     case ExprType::Text:
@@ -392,7 +399,7 @@ void Emitter::asNumber(const Expr &expr)
     }
 }
 
-void Emitter::asDate(const Expr &expr)
+void SqlWriter::asDate(const Expr &expr)
 {
     if (expr.type != ExprType::Text) {
         asNumber(expr);
@@ -403,7 +410,7 @@ void Emitter::asDate(const Expr &expr)
     sql_ += u')';
 }
 
-void Emitter::asCurrency(const Expr &expr)
+void SqlWriter::asCurrency(const Expr &expr)
 {
     switch (expr.type) {
     case ExprType::Currency:
@@ -424,7 +431,7 @@ void Emitter::asCurrency(const Expr &expr)
     }
 }
 
-void Emitter::assigned(const Expr &expr, const FieldDef &field)
+void SqlWriter::assigned(const Expr &expr, const FieldDef &field)
 {
     if (expr.isLiteral()) {
         expr.type == ExprType::Null ? void(sql_ += u"NULL") : parameter(expr.literal);
@@ -453,66 +460,68 @@ void Emitter::assigned(const Expr &expr, const FieldDef &field)
     }
 }
 
-void Emitter::call(const Expr &expr)
+/// What a function does with an operand before it looks at it.
+void SqlWriter::callOperand(const Expr &call, size_t i)
+{
+    const FunctionDef &function = functions()[static_cast<size_t>(call.function)];
+    const Expr &expr = *call.operands[i];
+    switch (function.takes) {
+    case Takes::Text:
+        asText(expr);
+        return;
+    case Takes::Number:
+        asNumber(expr);
+        return;
+    case Takes::Date:
+        asDate(expr);
+        return;
+    case Takes::Condition:
+        condition(expr);
+        return;
+    case Takes::Any:
+        break;
+    }
+    // The few whose operands differ in kind.
+    if (sameName(function.name, u"IIf")) {
+        i == 0 ? condition(expr) : operand(expr, call.type);
+    } else if (sameName(function.name, u"Nz")) {
+        operand(expr, call.type);
+    } else if (sameName(function.name, u"DateDiff")) {
+        i == 0 ? asText(expr) : asDate(expr);
+    } else if (sameName(function.name, u"DateAdd")) {
+        i == 0 ? asText(expr) : i == 1 ? asNumber(expr) : asDate(expr);
+    } else if (sameName(function.name, u"InStr")) {
+        i == 0 && call.operands.size() == 3 ? asNumber(expr) : asText(expr);
+    } else if (function.yields == Yields::Text && !sameName(function.name, u"Format")) {
+        i == 0 ? asText(expr) : asNumber(expr);
+    } else if (function.yields == Yields::Sum || function.yields == Yields::Average) {
+        expr.type == ExprType::Text ? asNumber(expr) : value(expr);
+    } else {
+        function.aggregate &&expr.kind != ExprKind::Star ? collated(expr) : value(expr);
+    }
+}
+
+void SqlWriter::call(const Expr &expr)
 {
     const FunctionDef &function = functions()[static_cast<size_t>(expr.function)];
-    const QStringView engine = function.engine;
-    const auto one = [&](size_t i) {
-        const Expr &operandExpr = *expr.operands[i];
-        switch (function.takes) {
-        case Takes::Text:
-            asText(operandExpr);
-            return;
-        case Takes::Number:
-            asNumber(operandExpr);
-            return;
-        case Takes::Date:
-            asDate(operandExpr);
-            return;
-        case Takes::Condition:
-            condition(operandExpr);
-            return;
-        case Takes::Any:
-            break;
-        }
-        // The few whose operands differ in kind.
-        if (sameName(function.name, u"IIf")) {
-            i == 0 ? condition(operandExpr) : operand(operandExpr, expr.type);
-        } else if (sameName(function.name, u"Nz")) {
-            operand(operandExpr, expr.type);
-        } else if (sameName(function.name, u"DateDiff")) {
-            i == 0 ? asText(operandExpr) : asDate(operandExpr);
-        } else if (sameName(function.name, u"DateAdd")) {
-            i == 0 ? asText(operandExpr) : i == 1 ? asNumber(operandExpr) : asDate(operandExpr);
-        } else if (sameName(function.name, u"InStr")) {
-            i == 0 && expr.operands.size() == 3 ? asNumber(operandExpr) : asText(operandExpr);
-        } else if (function.yields == Yields::Text && !sameName(function.name, u"Format")) {
-            i == 0 ? asText(operandExpr) : asNumber(operandExpr);
-        } else if (function.yields == Yields::Sum || function.yields == Yields::Average) {
-            operandExpr.type == ExprType::Text ? asNumber(operandExpr) : value(operandExpr);
-        } else {
-            function.aggregate &&operandExpr.kind != ExprKind::Star ? collated(operandExpr)
-                                                                    : value(operandExpr);
-        }
-    };
-    if (engine.startsWith(u'%') || engine.contains(u"%1")) {
-        const qsizetype at = engine.indexOf(u"%1");
-        sql_ += engine.first(at);
-        one(0);
-        sql_ += engine.sliced(at + 2);
+    const QStringView text = functionText(expr.function);
+    if (const qsizetype at = text.indexOf(u"%1"); at >= 0) {
+        sql_ += text.first(at);
+        callOperand(expr, 0);
+        sql_ += text.sliced(at + 2);
         return;
     }
     const bool roundsMoney = function.yields == Yields::Average && expr.type == ExprType::Currency;
     if (roundsMoney)
         sql_ += u"d_redondeo(";
-    sql_ += engine;
+    sql_ += text;
     sql_ += u'(';
     if (sameName(function.name, u"Format"))
         sql_ += typeLetter(expr.operands[0]->type).toString() + u", "_s;
     for (size_t i = 0; i < expr.operands.size(); ++i) {
         if (i > 0)
             sql_ += u", ";
-        one(i);
+        callOperand(expr, i);
     }
     sql_ += roundsMoney ? u"))" : u")";
 }
