@@ -366,14 +366,12 @@ void panVisitas::quitar()
     if (!MODULE11::VerificaNivel(u"BorrarConsultas"_s) ||
         !MODULE11::PreguntaSiBorra(u"Borra esta consulta"_s))
         return;
-    Data2.updateControls(); // what was typed goes with the row
     dao::Recordset &consulta = Data2.recordset();
     const qint64 lugar = consulta.absolutePosition();
     MODULE11::RegistraEvento(u"BORRADO DE CONSULTA "_s, u"HC. Nº%1 / Fecha:%2"_s.arg(tag(), textoDeFecha()));
     MODULE11::BaseDatos.execute(u"Delete * from ExFisico where idConsulta = "_s +
                                 consulta[u"idConsulta"].text());
-    consulta.deleteRow();
-    Data2.refresh();
+    Data2.deleteRow();
     if (Data2.hasRow())
         Data2.change([lugar](dao::Recordset &visitas) {
             visitas.setAbsolutePosition(qMin(lugar, visitas.rowCount() - 1)); // beside the one that went

@@ -87,9 +87,7 @@ void Tabla::addRow(const std::function<void(dao::Recordset &)> &fill)
 
 void Tabla::deleteRow()
 {
-    Data1.updateControls();
-    Data1.recordset().deleteRow();
-    refresh();
+    Data1.deleteRow();
 }
 
 void Tabla::showRow()

@@ -71,6 +71,7 @@ private:
     void leaveRow();
     void forgetChanges();
     void writeRow();
+    void showCurrent();
     basic::Value valueToShow(const Binding &binding) const;
 
     void adoptLengths();

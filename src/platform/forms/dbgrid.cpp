@@ -32,9 +32,10 @@ public:
     }
 
     /// The source may fail while it is asked: it is asked before the views are told, and a grid that cannot
-    /// know its rows shows none.
+    /// know its rows shows none until it is read anew.
     void reload()
     {
+        known_ = false;
         int rows = 0;
         std::vector<int> ordinals(columns_.size(), -1);
         int lookOrdinal = -1;
@@ -45,6 +46,7 @@ public:
                 ordinals[i] = data_.recordset().ordinal(columns_[i].field);
             lookOrdinal = data_.recordset().ordinal(lookField_);
             rows = countRows();
+            known_ = true;
         };
         const auto adopt = [&] {
             beginResetModel();
@@ -72,7 +74,18 @@ public:
     /// Takes in rows that were added or went away.
     void follow()
     {
-        const int rows = countRows();
+        if (!known_)
+            return;
+        int rows = 0;
+        try {
+            rows = countRows();
+        } catch (...) {
+            known_ = false;
+            beginResetModel();
+            rows_ = 0;
+            endResetModel();
+            throw;
+        }
         if (rows > rows_) {
             beginInsertRows({}, rows_, rows - 1);
             rows_ = rows;
@@ -188,6 +201,7 @@ private:
     std::vector<GridColumn> columns_;
     std::vector<int> ordinals_;
     int rows_ = 0;
+    bool known_ = false; ///< the source told how many rows it has
     bool editable_ = false;
     QString lookField_;
     std::function<RowLook(const basic::Value &)> look_;
@@ -242,12 +256,9 @@ void DBGrid::setSource(Data &source, std::vector<GridColumn> columns)
     model_->setEditable(editTriggers() != QAbstractItemView::NoEditTriggers);
     setModel(model_);
     sizeColumns();
-    connect(&source, &Data::refreshed, this, [this] {
-        const QScopedValueRollback following(following_, true);
-        model_->reload();
-    });
+    connect(&source, &Data::refreshed, this, [this] { orNone([this] { model_->reload(); }); });
     connect(&source, &Data::rowWritten, this, [this] {
-        model_->follow();
+        orNone([this] { model_->follow(); });
         viewport()->update();
     });
     connect(&source, &Data::reposition, this, &DBGrid::followData);
@@ -272,6 +283,19 @@ int DBGrid::dataRow() const
     return data_ && data_->hasRow() ? static_cast<int>(data_->recordset().absolutePosition()) : -1;
 }
 
+/// Where the rows cannot be known the grid shows none; then none may be current either, or a command would
+/// work on a row that nobody sees.
+void DBGrid::orNone(const std::function<void()> &ask)
+{
+    const QScopedValueRollback following(following_, true);
+    try {
+        ask();
+    } catch (...) {
+        data_->chooseNone();
+        throw;
+    }
+}
+
 /// The Data stands on another row: so does the grid.
 void DBGrid::followData()
 {
@@ -279,13 +303,12 @@ void DBGrid::followData()
         return;
     const int left = currentRow();
     int row = -1;
-    {
-        const QScopedValueRollback following(following_, true);
+    orNone([&] {
         model_->follow();
         row = dataRow();
         viewport()->update(); // the model keeps no values: what is in sight is read anew
         standOn(row);
-    }
+    });
     if (row != left)
         emit rowChanged(row);
 }

@@ -59,6 +59,7 @@ private:
     void sizeColumns();
     int dataRow() const;
     void followData();
+    void orNone(const std::function<void()> &ask);
     void leadData(const QModelIndex &current);
     void standOn(int row);
     Model *model_ = nullptr;

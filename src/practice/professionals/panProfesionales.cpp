@@ -202,11 +202,9 @@ void panProfesionales::eliminarClick()
     }
     if (!MODULE11::PreguntaSiBorra(u"Borra este profesional de la lista"_s))
         return;
-    Data1.updateControls(); // what was typed goes with the row
     MODULE11::BaseDatos.execute(u"Delete * from DisTurnos where idProfesional = "_s +
                                 fila[u"idProfesional"].text());
-    fila.deleteRow();
-    Data1.refresh();
+    Data1.deleteRow();
 }
 
 void panProfesionales::imprimirClick()
