@@ -18,13 +18,13 @@ struct Panel {
 };
 constexpr Panel paneles[] = {
     {"&Inhalantes", "In "},
-    {"&Pólenes", "Po "},
+    {"Póle&nes", "Po "},
     {"&Bacterias", "Alergia Bact "},
-    {"&Alimentos", "Alergia Alim "},
-    {"&Contacto", "Alergia Cont "},
+    {"A&limentos", "Alergia Alim "},
+    {"Con&tacto", "Alergia Cont "},
     {"&Hongos", "Hongos "},
-    {"&Medicamentos", "Alergia Medic "},
-    {"I&nsectos", "Alergia Insectos "},
+    {"Medicam&entos", "Alergia Medic "},
+    {"In&sectos", "Alergia Insectos "},
 };
 
 constexpr const char *memosDeAntecedentes[] = {
@@ -70,6 +70,7 @@ PanelDePruebas::PanelDePruebas(const QString &name)
     verticalHeader()->hide();
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionBehavior(QAbstractItemView::SelectRows);
+    setTabKeyNavigation(false);
     connect(this, &QTableWidget::cellClicked, this, [this](int fila) { emit pulsada(columnas_[fila]); });
 }
 

@@ -15,6 +15,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStackedWidget>
+#include <QTabBar>
 
 namespace forms
 {
@@ -266,9 +267,13 @@ void MonthView::setValue(basic::Date value)
     setSelectedDate(value.date());
 }
 
+/// The bar takes the focus and not the whole: else the Tab key would come back from the whole, which stands
+/// behind all other controls, to the bar, and never to what stands before it.
 SSTab::SSTab(const QString &name)
 {
     setObjectName(name);
+    setFocusPolicy(Qt::NoFocus);
+    tabBar()->setFocusPolicy(Qt::StrongFocus);
 }
 
 SSTab::~SSTab()

@@ -49,7 +49,7 @@ CalendarioAnual::CalendarioAnual()
     txtAno.setMaximumWidth(60);
     armarTira();
     setContents(this, Column{
-                          Row{Fields{{u"&Año a visualizar :"_s, Row{txtAno, UpDown1}}}, Space(16),
+                          Row{Fields{{u"Añ&o a visualizar :"_s, Row{txtAno, UpDown1}}}, Space(16),
                               lblHorarios, Stretch()},
                           picFonCals,
                       });
