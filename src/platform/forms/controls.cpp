@@ -4,6 +4,7 @@
 #include "platform/basic/environment.h"
 #include "platform/forms/wrong.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QCompleter>
@@ -265,6 +266,29 @@ basic::Date MonthView::value() const
 void MonthView::setValue(basic::Date value)
 {
     setSelectedDate(value.date());
+}
+
+void MonthView::setChoiceShown(bool shown)
+{
+    choiceShown_ = shown;
+    auto *days = findChild<QAbstractItemView *>();
+    QPalette colours = days->palette();
+    const QPalette usual = palette();
+    const auto from = [&](QPalette::ColorRole role) { return usual.color(QPalette::Active, role); };
+    colours.setColor(QPalette::Highlight, from(shown ? QPalette::Highlight : QPalette::Base));
+    colours.setColor(QPalette::HighlightedText, from(shown ? QPalette::HighlightedText : QPalette::Text));
+    days->setPalette(colours);
+}
+
+void MonthView::paintCell(QPainter *painter, const QRect &cell, QDate day) const
+{
+    QCalendarWidget::paintCell(painter, cell, day);
+    if (!choiceShown_ || day != selectedDate())
+        return;
+    painter->save();
+    painter->setPen(QPen(palette().color(QPalette::Active, QPalette::Text), 2));
+    painter->drawRect(cell.adjusted(2, 2, -2, -2));
+    painter->restore();
 }
 
 /// The bar takes the focus and not the whole: else the Tab key would come back from the whole, which stands

@@ -159,6 +159,15 @@ public:
     explicit MonthView(const QString &name);
     basic::Date value() const;
     void setValue(basic::Date date);
+    /// A month that only shows its days has none chosen in sight.
+    void setChoiceShown(bool shown);
+
+protected:
+    /// The day chosen has a frame besides its colour.
+    void paintCell(QPainter *painter, const QRect &cell, QDate day) const override;
+
+private:
+    bool choiceShown_ = true;
 };
 
 class SSTab : public QTabWidget

@@ -130,7 +130,7 @@ void HerramientaHorarios::trabajar(const std::function<void(const horarios::Avan
     const auto alTerminar = qScopeGuard([this] {
         MODULE11::RelojNormal();
         ProgressBar1.hide();
-        emit cambiado();
+        emit cambiado(dt1.date());
     });
     trabajo([this](int hechas, int total) {
         ProgressBar1.setRange(0, total);
