@@ -112,7 +112,7 @@ bool panNuePaciente::numeroAceptado()
         return true;
     MODULE11::MuestraError(u"Historia clinica ya existente, intente con otro número"_s);
     Text1(cNumero).setText(u"0"_s);
-    Text1(cNumero).setFocus();
+    forms::markWrong(Text1(cNumero), u"Otro número"_s);
     return false;
 }
 

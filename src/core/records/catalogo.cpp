@@ -2,6 +2,7 @@
 
 #include "core/services/services.h"
 #include "core/session/session.h"
+#include "platform/forms/wrong.h"
 
 #include <QKeyEvent>
 #include <QSignalBlocker>
@@ -174,7 +175,7 @@ bool Catalogo::hayNombre(const QString &pedido)
     if (!nombre().isEmpty())
         return true;
     MODULE11::MuestraError(pedido);
-    mDato(0).setFocus();
+    markWrong(mDato(0), u"Falta el nombre"_s);
     return false;
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/services/services.h"
 #include "platform/forms/layout.h"
+#include "platform/forms/wrong.h"
 #include "practice/professionals/usuariosMedicos.h"
 
 using namespace Qt::StringLiterals;
@@ -24,23 +25,26 @@ panNueProfesional::panNueProfesional() : Form(u"panNueProfesional"_s)
     Text2.setFixedHeight(altoObservaciones);
     Command1.setDefault(true);
     setContents(this, Column{
-                          Fields{{u"&Nombre :"_s, Text1(cNombre)},
-                                 {u"&Especialidad :"_s, Combo1},
-                                 {u"&Domicilio :"_s, Text1(cDomicilio)},
-                                 {u"&Localidad :"_s, Text1(cLocalidad)},
-                                 {u"&Teléfonos :"_s, Text1(cTelefonos)},
+                          Fields{{u"&Nombre * :"_s, Text1(cNombre)},
+                                 {u"&Especialidad * :"_s, Combo1},
+                                 {u"&Domicilio * :"_s, Text1(cDomicilio)},
+                                 {u"&Localidad * :"_s, Text1(cLocalidad)},
+                                 {u"&Teléfonos * :"_s, Text1(cTelefonos)},
                                  {u"&Observaciones :"_s, Text2},
-                                 {u"&Usuario del sistema :"_s, Combo2}},
+                                 {lblUsuario, Combo2}},
+                          lblRequeridos,
                           Row{Stretch(), Command1, Command2},
                       });
     setMinimumWidth(520);
-    connect(&Command1, &QPushButton::clicked, this, &panNueProfesional::command1Click);
+    connect(&Command1, &QPushButton::clicked, this, &panNueProfesional::aceptar);
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
 }
 
 void panNueProfesional::load()
 {
     practice::llenaUsuariosMedicos(Combo2);
+    if (Combo2.count() > 0)
+        lblUsuario.setCaption(u"&Usuario del sistema * :"_s);
 }
 
 void panNueProfesional::activate()
@@ -53,21 +57,29 @@ basic::Value panNueProfesional::idUsuario() const
     return practice::usuarioElegido(Combo2);
 }
 
-/// The account is asked for when there is one to choose: a practice may work without accounts.
-bool panNueProfesional::completo() const
+/// The first that is required and blank, as they stand on the window; null when none is. The account is asked
+/// for when there is one to choose: a practice may work without accounts.
+QWidget *panNueProfesional::faltante()
 {
-    for (int campo = 0; campo < cantidad; ++campo)
+    if (nombre().trimmed().isEmpty())
+        return &Text1(cNombre);
+    if (especialidad().trimmed().isEmpty())
+        return &Combo1;
+    for (int campo = cDomicilio; campo < cantidad; ++campo)
         if (Text1(campo).text().trimmed().isEmpty())
-            return false;
-    return !especialidad().trimmed().isEmpty() && (Combo2.count() == 0 || Combo2.currentIndex() >= 0);
+            return &Text1(campo);
+    return Combo2.count() > 0 && Combo2.currentIndex() < 0 ? &Combo2 : nullptr;
 }
 
-void panNueProfesional::command1Click()
+void panNueProfesional::aceptar()
 {
-    if (completo())
+    QWidget *campo = faltante();
+    if (!campo) {
         answer(u"SI"_s);
-    else
-        MODULE11::MuestraError(u"Error, ingrese correctamtente los datos solicitados !"_s);
+        return;
+    }
+    MODULE11::MuestraError(u"Error, ingrese correctamtente los datos solicitados !"_s);
+    markWrong(*campo, u"No puede faltar"_s);
 }
 
 #include "moc_panNueProfesional.cpp"
