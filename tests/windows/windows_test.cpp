@@ -3,6 +3,7 @@
 #include "clinical/patients/panSelPaciente.h"
 #include "clinical/visits/panNueConsulta.h"
 #include "core/security/panNueUsuario.h"
+#include "core/services/panListados.h"
 #include "core/session/screens.h"
 #include "core/windows/panIngresoUsuario.h"
 #include "core/windows/panSelProf.h"
@@ -11,6 +12,7 @@
 #include "platform/forms/application.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
+#include "platform/forms/wrong.h"
 #include "practice/appointments/panCambiaEstadoTurno.h"
 #include "practice/appointments/panDispTurnos.h"
 #include "practice/appointments/panNueTurno.h"
@@ -21,7 +23,7 @@
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QMdiArea>
-#include <QScrollArea>
+#include <QTimer>
 
 #include <map>
 #include <set>
@@ -208,6 +210,23 @@ TEST_F(WindowsTest, everyLetterLeadsToOneControlAndTabToAll)
         EXPECT_EQ(doubled.join(u"; "_s).toStdString(), "");
         EXPECT_EQ(missed.join(u"; "_s).toStdString(), "");
     });
+}
+
+TEST_F(WindowsTest, aListIsComputedOnceFormulaAndColumnAreChosen)
+{
+    run({"INSERT INTO Medidas (Paciente, fecha, Peso) VALUES (1, cdate('15/03/2024'), 9000)",
+         "INSERT INTO Medidas (Paciente, fecha, Peso) VALUES (1, cdate('16/03/2024'), 10000)"});
+    panListados list(u"Select Peso from Medidas"_s, u"Medidas"_s);
+    auto *formula = list.findChild<forms::ComboBox *>(u"Combo1"_s);
+    auto *column = list.findChild<forms::ComboBox *>(u"Combo2"_s);
+    auto *compute = list.findChild<forms::CommandButton *>(u"Command1"_s);
+    QTimer::singleShot(0, &list, [] { QApplication::activeModalWidget()->close(); });
+    compute->click();
+    EXPECT_TRUE(forms::isMarkedWrong(*formula));
+    formula->setValue(u"Promedio"_s);
+    column->setValue(u"Peso"_s);
+    compute->click();
+    EXPECT_EQ(list.findChild<forms::Label *>(u"Label1"_s)->caption().toStdString(), "9.500,00");
 }
 
 /// As large as the screen leaves it, on a small one and on one of twice the scale: the window lies inside and

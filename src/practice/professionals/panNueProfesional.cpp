@@ -12,6 +12,7 @@ namespace
 {
 
 constexpr int largos[] = {50, 100, 100, 60}; // of the columns
+const QString obligatorio = u"obligatorio"_s;
 constexpr int altoObservaciones = 80;
 
 } // namespace
@@ -20,19 +21,19 @@ panNueProfesional::panNueProfesional() : Form(u"panNueProfesional"_s)
 {
     setWindowTitle(u"Nuevo Profesional"_s);
     for (int campo = 0; campo < cantidad; ++campo)
-        Text1.add(campo, largos[campo]);
+        Text1.add(campo, largos[campo]).setPlaceholderText(obligatorio);
+    Combo1.lineEdit()->setPlaceholderText(obligatorio);
     Combo1.lineEdit()->setMaxLength(60);
     Text2.setFixedHeight(altoObservaciones);
     Command1.setDefault(true);
     setContents(this, Column{
-                          Fields{{u"&Nombre * :"_s, Text1(cNombre)},
-                                 {u"&Especialidad * :"_s, Combo1},
-                                 {u"&Domicilio * :"_s, Text1(cDomicilio)},
-                                 {u"&Localidad * :"_s, Text1(cLocalidad)},
-                                 {u"&Teléfonos * :"_s, Text1(cTelefonos)},
+                          Fields{{u"&Nombre :"_s, Text1(cNombre)},
+                                 {u"&Especialidad :"_s, Combo1},
+                                 {u"&Domicilio :"_s, Text1(cDomicilio)},
+                                 {u"&Localidad :"_s, Text1(cLocalidad)},
+                                 {u"&Teléfonos :"_s, Text1(cTelefonos)},
                                  {u"&Observaciones :"_s, Text2},
-                                 {lblUsuario, Combo2}},
-                          lblRequeridos,
+                                 {u"&Usuario del sistema :"_s, Combo2}},
                           Row{Stretch(), Command1, Command2},
                       });
     setMinimumWidth(520);
@@ -44,7 +45,7 @@ void panNueProfesional::load()
 {
     practice::llenaUsuariosMedicos(Combo2);
     if (Combo2.count() > 0)
-        lblUsuario.setCaption(u"&Usuario del sistema * :"_s);
+        Combo2.setPlaceholderText(obligatorio);
 }
 
 void panNueProfesional::activate()

@@ -34,9 +34,6 @@ private:
     forms::ComboBox Combo1{QStringLiteral("Combo1"), MODULE11::especialidades, true};
     forms::MemoBox Text2{QStringLiteral("Text2")};
     forms::ComboBox Combo2{QStringLiteral("Combo2")};
-    forms::Label lblUsuario{QStringLiteral("lblUsuario"), QStringLiteral("&Usuario del sistema :")};
-    forms::Label lblRequeridos{QStringLiteral("lblRequeridos"),
-                               QStringLiteral("Los datos con * no pueden faltar.")};
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Aceptar"),
                                   QStringLiteral("aceptar")};
     forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("&Cancelar"),
