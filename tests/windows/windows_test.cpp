@@ -5,6 +5,7 @@
 #include "core/security/panNueUsuario.h"
 #include "core/services/panListados.h"
 #include "core/session/screens.h"
+#include "core/windows/Vademecum.h"
 #include "core/windows/panIngresoUsuario.h"
 #include "core/windows/panSelProf.h"
 #include "delivered.h"
@@ -23,6 +24,8 @@
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QMdiArea>
+#include <QMenuBar>
+#include <QStatusTipEvent>
 #include <QTimer>
 
 #include <map>
@@ -227,6 +230,30 @@ TEST_F(WindowsTest, aListIsComputedOnceFormulaAndColumnAreChosen)
     column->setValue(u"Peso"_s);
     compute->click();
     EXPECT_EQ(list.findChild<forms::Label *>(u"Label1"_s)->caption().toStdString(), "9.500,00");
+}
+
+TEST_F(WindowsTest, theMainWindowKeepsItsStatusAndSaysWhyAMenuDoesNothing)
+{
+    Vademecum window;
+    window.ponerCaption();
+    const auto *bar = window.findChild<QStatusBar *>();
+    const QString status = bar->currentMessage();
+    EXPECT_TRUE(status.contains(MODULE11::DrActual));
+    QStatusTipEvent passing{QString()};
+    QCoreApplication::sendEvent(&window, &passing);
+    EXPECT_EQ(bar->currentMessage(), status);
+
+    std::map<QString, QString> notes; // by the menu's caption
+    for (QMenu *menu : window.menuBar()->findChildren<QMenu *>()) {
+        emit menu->aboutToShow();
+        const QAction *note = menu->actions().value(0);
+        notes[menu->title().remove(u'&')] =
+            note->isVisible() && !note->isEnabled() ? note->text() : QString();
+    }
+    EXPECT_EQ(notes[u"Archivos"_s], QString());
+    EXPECT_EQ(notes[u"Paciente"_s], u"Abra una ficha"_s);
+    EXPECT_EQ(notes[u"Odontología"_s], QString()) << "an item, no menu";
+    EXPECT_EQ(notes[u"Oftalmología"_s], u"Todavía no está en esta versión"_s);
 }
 
 /// As large as the screen leaves it, on a small one and on one of twice the scale: the window lies inside and

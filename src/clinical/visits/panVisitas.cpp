@@ -136,8 +136,10 @@ void panVisitas::conectar()
             edicion, u"TOMA DE CAMBIOS A LA BASE // HC. Nº%1 / Fecha cons.:%2"_s.arg(tag(), textoDeFecha()));
     });
     connect(&Command6, &QPushButton::clicked, this, [this] { ports::otorgaTurno(tag().toLongLong()); });
-    connect(&Command9, &QPushButton::clicked, this,
-            [] { abrirConPermiso(u"IngresarAConsultas"_s, "panDiario", {}); });
+    connect(&Command9, &QPushButton::clicked, this, [] {
+        if (MODULE11::VerificaNivel(u"IngresarAConsultas"_s))
+            screens::showSingle("panDiario");
+    });
     connect(&Command10, &QPushButton::clicked, this, &panVisitas::unload);
     connect(&Command11, &QPushButton::clicked, this,
             [this] { abrirConPermiso(u"IngresarAEstudios"_s, "panEstudios", tag()); });
