@@ -139,7 +139,7 @@ void panNuePaciente::command5Click()
     const QImage imagen = grab().toImage();
     for (QWidget *adorno : adornos)
         adorno->show();
-    printing::Document documento(impresora, windowTitle());
+    printing::Document documento(impresora, windowTitle() + u' ' + nombre());
     documento.paintPage(imagen);
     documento.endDoc();
 }

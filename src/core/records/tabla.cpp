@@ -1,7 +1,7 @@
 #include "core/records/tabla.h"
 
+#include "core/records/fichaDelPaciente.h"
 #include "core/security/niveles.h"
-#include "core/services/paciente.h"
 #include "core/services/services.h"
 #include "core/session/session.h"
 
@@ -105,12 +105,9 @@ ListaDelPaciente::ListaDelPaciente(const QString &window, const QString &title,
 
 void ListaDelPaciente::activate()
 {
-    const auto numero = services::numeroDePaciente(tag());
-    if (!numero) {
-        MODULE11::Aviso(u"Debe seleccionar un paciente"_s);
-        unload();
+    const auto numero = pacienteDe(*this);
+    if (!numero)
         return;
-    }
     paciente_ = *numero;
     setSource(source_.arg(paciente_));
     refresh();

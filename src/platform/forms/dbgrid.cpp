@@ -143,6 +143,9 @@ public:
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
     {
+        if (orientation == Qt::Horizontal &&
+            role == Qt::TextAlignmentRole) // a heading stands over its values
+            return static_cast<int>(alignment(static_cast<std::size_t>(section)) | Qt::AlignVCenter);
         if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
             return {};
         return columns_[static_cast<std::size_t>(section)].heading;
@@ -269,12 +272,15 @@ void DBGrid::setSource(Data &source, std::vector<GridColumn> columns)
 
 void DBGrid::sizeColumns()
 {
-    const QFontMetrics metrics(horizontalHeader()->font());
+    QFont bold = horizontalHeader()->font();
+    bold.setWeight(QFont::DemiBold);
+    const QFontMetrics metrics(bold);
+    constexpr int padding = 20;
     for (std::size_t i = 0; i < model_->columns().size(); ++i) {
         const GridColumn &column = model_->columns()[i];
-        const int byHeading =
-            qBound(narrowestColumn, metrics.horizontalAdvance(column.heading) * 5 / 4 + 28, widestByHeading);
-        setColumnWidth(static_cast<int>(i), column.width > 0 ? column.width : byHeading);
+        const int heading = metrics.horizontalAdvance(column.heading) + padding;
+        const int byHeading = qBound(narrowestColumn, heading, widestByHeading);
+        setColumnWidth(static_cast<int>(i), column.width > 0 ? qMax(column.width, heading) : byHeading);
     }
 }
 
