@@ -104,7 +104,7 @@ void panVisitas::disponer()
 
 Item panVisitas::visita()
 {
-    mDato(cHora).setMaximumWidth(70);
+    mDato(cHora).setFixedWidth(60);
     mDato1.setFixedHeight(mDato1.fontMetrics().height() * 3);
     return Column{
         Row{Fields{{u"&Fecha :"_s, mFecha}}, Fields{{u"&Hora :"_s, mDato(cHora)}}, opciones.option3d2(0),

@@ -53,7 +53,7 @@ constexpr char sheet[] = R"(
 QGroupBox { font-weight: 600; color: #1f7a8c; border: 1px solid #d3dde4; border-radius: 6px; margin-top: 9px; }
 QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 10px; padding: 0 4px; }
 QHeaderView::section { background: #e4ecf0; color: #1f2d38; border: 0; border-right: 1px solid #d3dde4;
-    border-bottom: 1px solid #c3d0d8; padding: 4px 8px; font-weight: 600; }
+    border-bottom: 1px solid #c3d0d8; padding: 4px 3px; font-weight: 600; }
 QTableView { gridline-color: #e1e8ed; }
 QToolTip { border: 1px solid #d9cf9c; padding: 3px; }
 QMenuBar { background: #e9eff3; }

@@ -197,8 +197,33 @@ void ListBox::keyboardSearch(const QString &letter)
     const int row = typeAhead_.rowFor(letter, *model(), currentRow());
     if (row < 0)
         return;
-    const bool several = selectionMode() == ExtendedSelection || selectionMode() == MultiSelection;
-    setCurrentRow(row, several ? QItemSelectionModel::NoUpdate : QItemSelectionModel::ClearAndSelect);
+    setCurrentRow(row, takesSeveral() ? QItemSelectionModel::NoUpdate : QItemSelectionModel::ClearAndSelect);
+    marking_ = takesSeveral();
+}
+
+bool ListBox::takesSeveral() const
+{
+    return selectionMode() == ExtendedSelection || selectionMode() == MultiSelection;
+}
+
+void ListBox::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Space || !takesSeveral() || !currentItem()) {
+        QListWidget::keyPressEvent(event);
+        return;
+    }
+    marking_ = true;
+    typeAhead_ = {};
+    selectionModel()->select(currentIndex(), QItemSelectionModel::Toggle);
+}
+
+QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex &index,
+                                                              const QEvent *event) const
+{
+    const bool byKey = event && event->type() == QEvent::KeyPress;
+    if (byKey && marking_ && !static_cast<const QKeyEvent *>(event)->modifiers().testFlag(Qt::ShiftModifier))
+        return QItemSelectionModel::NoUpdate;
+    return QListWidget::selectionCommand(index, event);
 }
 
 QStringList ListBox::lines() const

@@ -2,12 +2,14 @@
 
 #include "platform/basic/runtime.h"
 #include "platform/forms/boxes.h"
+#include "platform/forms/controls.h"
 
 #include <QAbstractTableModel>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QStyledItemDelegate>
 
 namespace forms
 {
@@ -19,6 +21,27 @@ constexpr char16_t deletedMark[] = u"#Eliminado";
 constexpr int linePixels = 24;
 constexpr int narrowestColumn = 70;
 constexpr int widestByHeading = 260;
+
+/// A cell is typed in a field that takes no more than its column.
+class CellDelegate : public QStyledItemDelegate
+{
+public:
+    CellDelegate(QObject *parent, std::function<int(int)> length)
+        : QStyledItemDelegate(parent), length_(std::move(length))
+    {
+    }
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &,
+                          const QModelIndex &index) const override
+    {
+        auto *field = new TextBox({}, length_(index.column()));
+        field->setParent(parent);
+        field->setFrame(false);
+        return field;
+    }
+
+private:
+    std::function<int(int)> length_;
+};
 
 } // namespace
 
@@ -95,6 +118,18 @@ public:
         }
     }
 
+    /// How long a text of the column may be; 0 where it is none.
+    int length(int column) const
+    {
+        const int ordinal = ordinals_[static_cast<std::size_t>(column)];
+        if (ordinal < 0 || !data_.hasRecordset())
+            return 0;
+        const dao::FieldDef &field = data_.recordset().fields()[static_cast<std::size_t>(ordinal)];
+        constexpr int longestMemo = 1 << 20;
+        return field.type == dao::FieldType::Text   ? field.size
+               : field.type == dao::FieldType::Memo ? longestMemo
+                                                    : 0;
+    }
     void setEditable(bool editable) { editable_ = editable; }
     const std::vector<GridColumn> &columns() const { return columns_; }
 
@@ -258,6 +293,8 @@ void DBGrid::setSource(Data &source, std::vector<GridColumn> columns)
     model_ = new Model(source, std::move(columns));
     model_->setEditable(editTriggers() != QAbstractItemView::NoEditTriggers);
     setModel(model_);
+    delete itemDelegate();
+    setItemDelegate(new CellDelegate(this, [this](int column) { return model_->length(column); }));
     sizeColumns();
     connect(&source, &Data::refreshed, this, [this] { orNone([this] { model_->reload(); }); });
     connect(&source, &Data::rowWritten, this, [this] {

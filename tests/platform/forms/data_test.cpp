@@ -192,6 +192,22 @@ TEST_F(DataTest, gridAndDataFollowEachOther)
     EXPECT_EQ(grid.currentRow(), 0);
 }
 
+TEST_F(DataTest, nothingLongerThanItsColumnIsTyped)
+{
+    forms::ComboBox kind(u"Combo1"_s, {u"Gasa"_s}, true);
+    data.bind(kind, u"Nombre"_s);
+    data.refresh();
+    EXPECT_EQ(name.maxLength(), 60);
+    EXPECT_EQ(kind.lineEdit()->maxLength(), 60);
+    forms::DBGrid grid(u"DBGrid1"_s);
+    grid.setEditable(true);
+    grid.setSource(data, {{u"Artículo"_s, u"Nombre"_s}});
+    grid.edit(grid.model()->index(0, 0));
+    auto *cell = qobject_cast<QLineEdit *>(grid.indexWidget(grid.model()->index(0, 0)));
+    ASSERT_TRUE(cell);
+    EXPECT_EQ(cell->maxLength(), 60);
+}
+
 TEST_F(DataTest, gridStaysOnARowThatCannotBeWritten)
 {
     forms::DBGrid grid(u"DBGrid1"_s);
