@@ -15,7 +15,6 @@ int main(int argc, char **argv)
     // A picture of the memory would hold the key of the practice's file.
     prctl(PR_SET_DUMPABLE, 0);
     forms::Application application(argc, argv);
-    forms::Application::dress();
     if (const QString title = qEnvironmentVariable("SANIRELL_TITULO"); !title.isEmpty())
         settings::setApplicationTitle(title);
     app::prepare();

@@ -28,9 +28,9 @@ const std::set<std::string> notBuiltYet{
 bool leadsIntoTheProgram(menu::Kind kind)
 {
     using enum menu::Kind;
-    static const std::set<menu::Kind> kinds{
-        Child,        ChildMaximised,   Modal,     ModalWithTag,    PatientModal,
-        PatientChild, PatientOrNothing, Operation, PatientOperation};
+    static const std::set<menu::Kind> kinds{Child,        NewChild,        ChildMaximised, Modal,
+                                            ModalWithTag, PatientModal,    PatientChild,   PatientOrNothing,
+                                            Operation,    PatientOperation};
     return kinds.contains(kind);
 }
 

@@ -2,6 +2,8 @@
 
 #include "practice/professionals/calendarioAnual.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace
@@ -57,6 +59,27 @@ TEST_F(CalendarioTest, WorkingDaysOfTheYearInViewAreBold)
     calendario.setProfesional(2);
     ano->setText(u"2024"_s);
     EXPECT_EQ(negritas(calendario), QStringList{u"2024-05-05"_s});
+}
+
+TEST_F(CalendarioTest, TheFirstMonthWrittenComesIntoSight)
+{
+    practice::CalendarioAnual calendario;
+    calendario.resize(860, 300);
+    calendario.show();
+    QCoreApplication::processEvents();
+    calendario.setProfesional(1);
+    auto *setiembre = calendario.findChild<forms::MonthView *>(u"mv1(8)"_s);
+    const auto aLaVista = [&] {
+        return calendario.rect().contains(QRect(setiembre->mapTo(&calendario, QPoint()), setiembre->size()));
+    };
+    EXPECT_FALSE(aLaVista());
+    atiende(1, QDate(2024, 9, 2));
+    calendario.irA(QDate(2024, 9, 1));
+    EXPECT_TRUE(aLaVista());
+    EXPECT_EQ(negritas(calendario), QStringList{u"2024-09-02"_s});
+    calendario.irA(QDate(2025, 2, 1));
+    EXPECT_EQ(calendario.findChild<forms::TextBox *>(u"txtAno"_s)->text(), u"2025"_s);
+    EXPECT_FALSE(aLaVista());
 }
 
 } // namespace

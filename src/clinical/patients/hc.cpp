@@ -1,14 +1,13 @@
 #include "clinical/patients/hc.h"
 
-#include "core/services/services.h"
-#include "core/session/session.h"
-#include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
 
 #include <QHeaderView>
 
 using namespace Qt::StringLiterals;
 using namespace forms;
+using clinical::Campo;
+using clinical::PanelDePruebas;
 
 namespace
 {
@@ -18,43 +17,45 @@ struct Panel {
 };
 constexpr Panel paneles[] = {
     {"&Inhalantes", "In "},
-    {"&Pólenes", "Po "},
+    {"Póle&nes", "Po "},
     {"&Bacterias", "Alergia Bact "},
-    {"&Alimentos", "Alergia Alim "},
-    {"&Contacto", "Alergia Cont "},
+    {"A&limentos", "Alergia Alim "},
+    {"Con&tacto", "Alergia Cont "},
     {"&Hongos", "Hongos "},
-    {"&Medicamentos", "Alergia Medic "},
-    {"I&nsectos", "Alergia Insectos "},
+    {"Medicam&entos", "Alergia Medic "},
+    {"In&sectos", "Alergia Insectos "},
 };
 
-constexpr const char *memosDeAntecedentes[] = {
-    "Antecedentes Infancia", "Antecedentes Pubertad",    "Antecedentes Edad Adulta", "Antecedentes Profesion",
-    "Antecedentes Padres",   "Antecedentes Colaterales", "Antecedentes Abuelos",
-};
-constexpr const char *ambienteIzquierda[] = {"Colchon", "Almohada", "Cortinados", "Pieles",
-                                             "Paredes", "Pisos",    "Alfombras",  "Calefaccion"};
-constexpr const char *ambienteDerecha[] = {"Insecticidas",    "Barrido",
-                                           "Perfumes",        "Cosmeticos y tinturas",
-                                           "Vecindad",        "Cambios Atmosfericos",
-                                           "Agentes Fisicos", "Factores Psicologicos"};
-constexpr const char *animales[] = {"Caballos", "Perros", "Gatos", "Aves"};
-
-/// A check box and what it is called on the screen.
-struct Casilla {
-    const char *campo, *caption;
-};
-constexpr Casilla caracteres[] = {{"Caracter Permanente", "Permanente"},
-                                  {"Caracter Paroxistica", "Paroxística"},
-                                  {"Caracter Estacional", "Estacional"}};
-constexpr Casilla alergias[] = {
+constexpr Campo memosDeAntecedentes[] = {
+    {"Antecedentes Infancia", "Infancia :"},       {"Antecedentes Pubertad", "Pubertad :"},
+    {"Antecedentes Edad Adulta", "Edad adulta :"}, {"Antecedentes Profesion", "Profesión :"},
+    {"Antecedentes Padres", "Padres :"},           {"Antecedentes Colaterales", "Colaterales :"},
+    {"Antecedentes Abuelos", "Abuelos :"}};
+constexpr Campo ambienteIzquierda[] = {{"Colchon", "Colchón :"},       {"Almohada", "Almohada :"},
+                                       {"Cortinados", "Cortinados :"}, {"Pieles", "Pieles :"},
+                                       {"Paredes", "Paredes :"},       {"Pisos", "Pisos :"},
+                                       {"Alfombras", "Alfombras :"},   {"Calefaccion", "Calefacción :"}};
+constexpr Campo ambienteDerecha[] = {{"Insecticidas", "Insecticidas :"},
+                                     {"Barrido", "Barrido :"},
+                                     {"Perfumes", "Perfumes :"},
+                                     {"Cosmeticos y tinturas", "Cosméticos y tinturas :"},
+                                     {"Vecindad", "Vecindad :"},
+                                     {"Cambios Atmosfericos", "Cambios atmosféricos :"},
+                                     {"Agentes Fisicos", "Agentes físicos :"},
+                                     {"Factores Psicologicos", "Factores psicológicos :"}};
+constexpr Campo animales[] = {
+    {"Caballos", "Caballos"}, {"Perros", "Perros"}, {"Gatos", "Gatos"}, {"Aves", "Aves"}};
+constexpr Campo caracteres[] = {{"Caracter Permanente", "Permanente"},
+                                {"Caracter Paroxistica", "Paroxística"},
+                                {"Caracter Estacional", "Estacional"}};
+constexpr Campo alergias[] = {
     {"AlCon", "Contactantes"}, {"AlIn", "Inhalantes"}, {"AlAl", "Alimentos"}, {"AlMed", "Medicamentos"}};
-constexpr Casilla diagnosticos[] = {
-    {"Diag Inhalantes", "Inhalantes"},   {"Diag Alimenticio", "Alimenticio"},
-    {"Diag Endocrino", "Endocrino"},     {"Diag Polenes", "Pólenes"},
-    {"Diag Parasitario", "Parasitario"}, {"Diag Insectos", "Insectos"},
-    {"Diag Bacteriano", "Bacteriano"},   {"Diag Medicamentos", "Medicamentos"},
-    {"Diag Fisicos", "Físicos"},         {"Diag Micologico", "Micológico"},
-    {"Diag Contacto", "Contacto"},       {"Diag Autoinmune", "Autoinmune"}};
+constexpr Campo diagnosticos[] = {{"Diag Inhalantes", "Inhalantes"},   {"Diag Alimenticio", "Alimenticio"},
+                                  {"Diag Endocrino", "Endocrino"},     {"Diag Polenes", "Pólenes"},
+                                  {"Diag Parasitario", "Parasitario"}, {"Diag Insectos", "Insectos"},
+                                  {"Diag Bacteriano", "Bacteriano"},   {"Diag Medicamentos", "Medicamentos"},
+                                  {"Diag Fisicos", "Físicos"},         {"Diag Micologico", "Micológico"},
+                                  {"Diag Contacto", "Contacto"},       {"Diag Autoinmune", "Autoinmune"}};
 
 } // namespace
 
@@ -70,6 +71,7 @@ PanelDePruebas::PanelDePruebas(const QString &name)
     verticalHeader()->hide();
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionBehavior(QAbstractItemView::SelectRows);
+    setTabKeyNavigation(false);
     connect(this, &QTableWidget::cellClicked, this, [this](int fila) { emit pulsada(columnas_[fila]); });
 }
 
@@ -86,77 +88,59 @@ void PanelDePruebas::mostrar(dao::Recordset &registro, const QStringList &column
 
 } // namespace clinical
 
-hc::hc() : Form(u"hc"_s)
+hc::hc() : FichaDelPaciente(u"hc"_s, u"Gestión Alergias"_s, u"Antecedentes Personales"_s, u"Paciente"_s)
 {
-    setWindowTitle(u"Gestión Alergias"_s);
     setContents(this, Column{
+                          lblPaciente,
                           Expanding(Tabs(SSTab1, {{u"&Antecedentes"_s, armarAntecedentes()},
                                                   {u"A&mbiente"_s, armarAmbiente()},
                                                   {u"&Diagnóstico"_s, armarDiagnostico()},
                                                   {u"&Pruebas"_s, armarPruebas()}})),
                           Row{Stretch(), Command3},
                       });
-    resize(860, 600);
+    resize(860, 620);
     connect(&Command3, &QPushButton::clicked, this, &hc::unload);
 }
 
-Item hc::casilla(const QString &campo, const QString &caption)
+Item hc::casilla(const Campo &campo)
 {
-    CheckBox &control = Check1.add(Check1.size(), caption.isEmpty() ? campo : caption);
-    Data1.bind(control, campo);
+    CheckBox &control = Check1.add(Check1.size(), QString::fromUtf8(campo.caption));
+    Data1.bind(control, QString::fromUtf8(campo.columna));
     return control;
 }
 
-FieldRow hc::renglon(const QString &campo)
+FieldRow hc::renglon(const Campo &campo)
 {
     TextBox &control = Text1.add(Text1.size(), 100);
-    Data1.bind(control, campo);
-    return {campo + u" :"_s, control};
+    Data1.bind(control, QString::fromUtf8(campo.columna));
+    return {QString::fromUtf8(campo.caption), control};
 }
 
-FieldRow hc::memo(const QString &campo)
+FieldRow hc::memo(const Campo &campo)
 {
     MemoBox &control = Text2.add(Text2.size());
     control.setMinimumHeight(44);
-    Data1.bind(control, campo);
-    return {campo + u" :"_s, control};
+    Data1.bind(control, QString::fromUtf8(campo.columna));
+    return {QString::fromUtf8(campo.caption), control};
 }
 
 Item hc::armarAntecedentes()
 {
-    std::vector<Item> caracter;
-    for (const Casilla &c : caracteres)
-        caracter.push_back(casilla(QString::fromUtf8(c.campo), QString::fromUtf8(c.caption)));
-    caracter.push_back(Stretch());
-    std::vector<Item> alergico;
-    for (const Casilla &c : alergias)
-        alergico.push_back(casilla(QString::fromUtf8(c.campo), QString::fromUtf8(c.caption)));
-    alergico.push_back(Stretch());
-    std::vector<FieldRow> memos;
-    for (const char *campo : memosDeAntecedentes)
-        memos.push_back(memo(QString::fromUtf8(campo)));
     return Column{
         Group(u"Carácter de la enfermedad"_s,
-              Column{Row(caracter), Fields{renglon(u"Caracter de la enfermedad"_s)}}),
-        Group(u"Alérgico a"_s, Row(alergico)),
-        Group(u"Antecedentes"_s, Fields(memos)),
+              Column{fila(caracteres),
+                     Fields{renglon({"Caracter de la enfermedad", "Carácter de la enfermedad :"})}}),
+        Group(u"Alérgico a"_s, fila(alergias)),
+        Group(u"Antecedentes"_s, Fields(todos(memosDeAntecedentes, &hc::memo))),
     };
 }
 
 Item hc::armarAmbiente()
 {
-    std::vector<FieldRow> izquierda, derecha;
-    for (const char *campo : ambienteIzquierda)
-        izquierda.push_back(renglon(QString::fromUtf8(campo)));
-    for (const char *campo : ambienteDerecha)
-        derecha.push_back(renglon(QString::fromUtf8(campo)));
-    std::vector<Item> conviveCon;
-    for (const char *campo : animales)
-        conviveCon.push_back(casilla(QString::fromUtf8(campo)));
-    conviveCon.push_back(Stretch());
     return Column{
-        Group(u"Vivienda y hábitos"_s, Row{Fields(izquierda), Fields(derecha)}),
-        Group(u"Animales"_s, Row(conviveCon)),
+        Group(u"Vivienda y hábitos"_s, Row{Fields(todos(ambienteIzquierda, &hc::renglon)),
+                                           Fields(todos(ambienteDerecha, &hc::renglon))}),
+        Group(u"Animales"_s, fila(animales)),
         Stretch(),
     };
 }
@@ -165,20 +149,38 @@ Item hc::armarDiagnostico()
 {
     std::vector<Item> columnas[3];
     int indice = 0;
-    for (const Casilla &c : diagnosticos)
-        columnas[indice++ % 3].push_back(casilla(QString::fromUtf8(c.campo), QString::fromUtf8(c.caption)));
+    for (const Campo &campo : diagnosticos)
+        columnas[indice++ % 3].push_back(casilla(campo));
     return Column{
         Group(u"Diagnóstico"_s, Row{Column(columnas[0]), Column(columnas[1]), Column(columnas[2])}),
         Stretch(),
     };
 }
 
+/// Check boxes side by side.
+Item hc::fila(std::span<const Campo> campos)
+{
+    std::vector<Item> casillas;
+    for (const Campo &campo : campos)
+        casillas.push_back(casilla(campo));
+    casillas.push_back(Stretch());
+    return Row(std::move(casillas));
+}
+
+std::vector<FieldRow> hc::todos(std::span<const Campo> campos, FieldRow (hc::*renglonDe)(const Campo &))
+{
+    std::vector<FieldRow> renglones;
+    for (const Campo &campo : campos)
+        renglones.push_back((this->*renglonDe)(campo));
+    return renglones;
+}
+
 Item hc::armarPruebas()
 {
     int grilla = 0;
     for (const Panel &panel : paneles) {
-        clinical::PanelDePruebas &control = Grid1.add(grilla);
-        connect(&control, &clinical::PanelDePruebas::pulsada, this,
+        PanelDePruebas &control = Grid1.add(grilla);
+        connect(&control, &PanelDePruebas::pulsada, this,
                 [this, grilla](const QString &columna) { alternar(grilla, columna); });
         SSTab2.addTab(&control, QString::fromUtf8(panel.titulo));
         ++grilla;
@@ -186,43 +188,7 @@ Item hc::armarPruebas()
     return SSTab2;
 }
 
-void hc::activate()
-{
-    if (!basic::isNumeric(tag())) {
-        MODULE11::Aviso(u"Debe seleccionar un paciente"_s);
-        unload();
-        return;
-    }
-    if (Data1.hasRecordset())
-        return;
-    if (abrirRegistro())
-        prepararPruebas();
-}
-
-/// What was changed last is written when the window goes.
-bool hc::queryUnload()
-{
-    Data1.updateRecord();
-    return true;
-}
-
-/// The patient's row, made now if there is none.
-bool hc::abrirRegistro()
-{
-    Data1.setRecordSource(u"Select * from [Antecedentes Personales] where paciente = "_s + tag());
-    Data1.refresh();
-    if (Data1.recordset().eof()) {
-        Data1.change([this](dao::Recordset &registro) {
-            registro.addNew();
-            registro[u"Paciente"] = tag();
-            registro.update();
-        });
-        Data1.refresh();
-    }
-    return !Data1.recordset().eof();
-}
-
-void hc::prepararPruebas()
+void hc::filaLeida()
 {
     int grilla = 0;
     for (const Panel &panel : paneles) {

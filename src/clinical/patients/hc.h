@@ -1,12 +1,12 @@
 #pragma once
 
+#include "core/records/fichaDelPaciente.h"
 #include "platform/forms/controlarray.h"
-#include "platform/forms/controls.h"
-#include "platform/forms/data.h"
-#include "platform/forms/form.h"
 #include "platform/forms/layout.h"
 
 #include <QTableWidget>
+
+#include <span>
 
 namespace clinical
 {
@@ -29,32 +29,34 @@ private:
     QStringList columnas_;
 };
 
+/// A column and what it is called on the screen.
+struct Campo {
+    const char *columna, *caption;
+};
+
 } // namespace clinical
 
 /// "Gestión Alergias": the personal history and allergy record of the patient in the tag, one row each.
-class hc : public forms::Form
+class hc : public records::FichaDelPaciente
 {
     Q_OBJECT
 public:
     hc();
-
-protected:
-    void activate() override;
-    bool queryUnload() override;
 
 private:
     forms::Item armarAntecedentes();
     forms::Item armarAmbiente();
     forms::Item armarDiagnostico();
     forms::Item armarPruebas();
-    forms::Item casilla(const QString &campo, const QString &caption = {});
-    forms::FieldRow renglon(const QString &campo);
-    forms::FieldRow memo(const QString &campo);
-    bool abrirRegistro();
-    void prepararPruebas();
+    forms::Item casilla(const clinical::Campo &campo);
+    forms::FieldRow renglon(const clinical::Campo &campo);
+    forms::FieldRow memo(const clinical::Campo &campo);
+    forms::Item fila(std::span<const clinical::Campo> campos);
+    std::vector<forms::FieldRow> todos(std::span<const clinical::Campo> campos,
+                                       forms::FieldRow (hc::*renglonDe)(const clinical::Campo &));
+    void filaLeida() override;
     void alternar(int grilla, const QString &columna);
 
-    forms::Data Data1{QStringLiteral("Data1")};
     forms::SSTab SSTab1{QStringLiteral("SSTab1")};
     forms::ControlArray<forms::CheckBox> Check1{QStringLiteral("Check1")};
     forms::ControlArray<forms::TextBox> Text1{QStringLiteral("Text1")};

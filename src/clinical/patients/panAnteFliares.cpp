@@ -56,8 +56,8 @@ void panAnteFliares::command1Click()
 
 void panAnteFliares::command3Click()
 {
-    const auto nombre =
-        inputBox(u"Ingrese el nombre de un nuevo antecendente psicologico familiar:"_s, u"Antec. Fliares."_s);
+    const auto nombre = inputBox(u"Ingrese el nombre de un nuevo antecendente psicologico familiar:"_s,
+                                 u"Antec. Fliares."_s, {}, 100);
     if (!nombre || nombre->trimmed().isEmpty())
         return;
     dao::Recordset filas = MODULE11::BaseDatos.openRecordset(u"AntecPsicoFliares"_s);

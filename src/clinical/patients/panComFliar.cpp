@@ -24,9 +24,11 @@ panComFliar::panComFliar() : Form(u"panComFliar"_s)
 {
     setWindowTitle(u"Condición familiar del paciente"_s);
     for (const Progenitor quien : {padre, madre}) {
-        Text1.add(quien, 100);
-        Combo1.add(quien, quien == padre ? ocupacionesDelPadre : ocupacionesDeLaMadre, true)
-            .setValue(u"<No>"_s);
+        Text1.add(quien, 100); // the columns' lengths
+        ComboBox &ocupacion =
+            Combo1.add(quien, quien == padre ? ocupacionesDelPadre : ocupacionesDeLaMadre, true);
+        ocupacion.lineEdit()->setMaxLength(60);
+        ocupacion.setValue(u"<No>"_s);
         Text2.add(quien, 20);
     }
     mFPa.setValue(basic::Date(sinFecha));

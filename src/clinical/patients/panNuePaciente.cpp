@@ -112,7 +112,7 @@ bool panNuePaciente::numeroAceptado()
         return true;
     MODULE11::MuestraError(u"Historia clinica ya existente, intente con otro número"_s);
     Text1(cNumero).setText(u"0"_s);
-    Text1(cNumero).setFocus();
+    forms::markWrong(Text1(cNumero), u"Otro número"_s);
     return false;
 }
 
@@ -139,7 +139,7 @@ void panNuePaciente::command5Click()
     const QImage imagen = grab().toImage();
     for (QWidget *adorno : adornos)
         adorno->show();
-    printing::Document documento(impresora, windowTitle());
+    printing::Document documento(impresora, windowTitle() + u' ' + nombre());
     documento.paintPage(imagen);
     documento.endDoc();
 }

@@ -221,8 +221,7 @@ void panNueConsulta::command7Click()
             continue;
         msgBox(u"Dato mal ingresado !!"_s, Icon::Critical, u"Error"_s);
         Text3(signo).setText(u"0"_s);
-        Text3(signo).setFocus();
-        Text3(signo).selectAll(); // so that what is typed next replaces it
+        markWrong(Text3(signo), u"Un número; queda en 0 si no se escribe otro"_s);
         return;
     }
     const QString hora = mDato(cHora).text();

@@ -104,7 +104,7 @@ void panVisitas::disponer()
 
 Item panVisitas::visita()
 {
-    mDato(cHora).setMaximumWidth(70);
+    mDato(cHora).setFixedWidth(60);
     mDato1.setFixedHeight(mDato1.fontMetrics().height() * 3);
     return Column{
         Row{Fields{{u"&Fecha :"_s, mFecha}}, Fields{{u"&Hora :"_s, mDato(cHora)}}, opciones.option3d2(0),
@@ -136,8 +136,10 @@ void panVisitas::conectar()
             edicion, u"TOMA DE CAMBIOS A LA BASE // HC. Nº%1 / Fecha cons.:%2"_s.arg(tag(), textoDeFecha()));
     });
     connect(&Command6, &QPushButton::clicked, this, [this] { ports::otorgaTurno(tag().toLongLong()); });
-    connect(&Command9, &QPushButton::clicked, this,
-            [] { abrirConPermiso(u"IngresarAConsultas"_s, "panDiario", {}); });
+    connect(&Command9, &QPushButton::clicked, this, [] {
+        if (MODULE11::VerificaNivel(u"IngresarAConsultas"_s))
+            screens::showSingle("panDiario");
+    });
     connect(&Command10, &QPushButton::clicked, this, &panVisitas::unload);
     connect(&Command11, &QPushButton::clicked, this,
             [this] { abrirConPermiso(u"IngresarAEstudios"_s, "panEstudios", tag()); });
@@ -363,14 +365,12 @@ void panVisitas::quitar()
     if (!MODULE11::VerificaNivel(u"BorrarConsultas"_s) ||
         !MODULE11::PreguntaSiBorra(u"Borra esta consulta"_s))
         return;
-    Data2.updateControls(); // what was typed goes with the row
     dao::Recordset &consulta = Data2.recordset();
     const qint64 lugar = consulta.absolutePosition();
     MODULE11::RegistraEvento(u"BORRADO DE CONSULTA "_s, u"HC. Nº%1 / Fecha:%2"_s.arg(tag(), textoDeFecha()));
     MODULE11::BaseDatos.execute(u"Delete * from ExFisico where idConsulta = "_s +
                                 consulta[u"idConsulta"].text());
-    consulta.deleteRow();
-    Data2.refresh();
+    Data2.deleteRow();
     if (Data2.hasRow())
         Data2.change([lugar](dao::Recordset &visitas) {
             visitas.setAbsolutePosition(qMin(lugar, visitas.rowCount() - 1)); // beside the one that went

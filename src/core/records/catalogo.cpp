@@ -2,6 +2,7 @@
 
 #include "core/services/services.h"
 #include "core/session/session.h"
+#include "platform/forms/wrong.h"
 
 #include <QKeyEvent>
 #include <QSignalBlocker>
@@ -169,30 +170,19 @@ void Catalogo::escribir(dao::Recordset &fila)
         fila[campo.columna] = oVacio(mDato(indice++).text().trimmed());
 }
 
-bool Catalogo::hayNombre(const QString &pedido)
-{
-    if (!nombre().isEmpty())
-        return true;
-    MODULE11::MuestraError(pedido);
-    mDato(0).setFocus();
-    return false;
-}
-
 /// The row of the name as it stands in the field, which may have come with blanks around it, or else without
-/// them, as this window stores it.
+/// them, as this window stores it: without a name as "-".
 dao::Recordset Catalogo::buscarFila() const
 {
     dao::Recordset filas = abrir();
     filas.seek(u"=", mDato(0).text());
     if (filas.noMatch())
-        filas.seek(u"=", nombre());
+        filas.seek(u"=", oVacio(nombre()));
     return filas;
 }
 
 void Catalogo::guardar()
 {
-    if (!hayNombre(u"Ingrese el nombre que quiere guardar."_s))
-        return;
     dao::Recordset filas = buscarFila();
     const bool nueva = filas.noMatch();
     nueva ? filas.addNew() : filas.edit();
@@ -214,8 +204,12 @@ void Catalogo::guardar()
 
 void Catalogo::quitar()
 {
-    if (!hayNombre(u"Elija en la lista lo que quiere quitar."_s) ||
-        !MODULE11::PreguntaSiBorra(tabla_.preguntaDeBaja))
+    if (nombre().isEmpty()) {
+        MODULE11::MuestraError(u"Elija en la lista lo que quiere quitar."_s);
+        markWrong(mDato(0), u"Falta el nombre"_s);
+        return;
+    }
+    if (!MODULE11::PreguntaSiBorra(tabla_.preguntaDeBaja))
         return;
     dao::Recordset filas = buscarFila();
     if (!filas.noMatch())

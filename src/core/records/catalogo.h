@@ -79,7 +79,6 @@ protected:
 private:
     void elegir();
     void quitar();
-    bool hayNombre(const QString &pedido);
     dao::Recordset buscarFila() const;
     int filaDe(qint64 id) const;
 

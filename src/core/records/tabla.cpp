@@ -1,7 +1,7 @@
 #include "core/records/tabla.h"
 
+#include "core/records/fichaDelPaciente.h"
 #include "core/security/niveles.h"
-#include "core/services/paciente.h"
 #include "core/services/services.h"
 #include "core/session/session.h"
 
@@ -87,9 +87,7 @@ void Tabla::addRow(const std::function<void(dao::Recordset &)> &fill)
 
 void Tabla::deleteRow()
 {
-    Data1.updateControls();
-    Data1.recordset().deleteRow();
-    refresh();
+    Data1.deleteRow();
 }
 
 void Tabla::showRow()
@@ -107,12 +105,9 @@ ListaDelPaciente::ListaDelPaciente(const QString &window, const QString &title,
 
 void ListaDelPaciente::activate()
 {
-    const auto numero = services::numeroDePaciente(tag());
-    if (!numero) {
-        MODULE11::Aviso(u"Debe seleccionar un paciente"_s);
-        unload();
+    const auto numero = pacienteDe(*this);
+    if (!numero)
         return;
-    }
     paciente_ = *numero;
     setSource(source_.arg(paciente_));
     refresh();

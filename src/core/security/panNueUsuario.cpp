@@ -3,6 +3,7 @@
 #include "core/security/niveles.h"
 #include "platform/forms/boxes.h"
 #include "platform/forms/layout.h"
+#include "platform/forms/wrong.h"
 
 using namespace Qt::StringLiterals;
 using namespace forms;
@@ -23,7 +24,7 @@ panNueUsuario::panNueUsuario() : Form(u"panNueUsuario"_s)
                           Row{Stretch(), Command1, Command2},
                       });
     setMinimumWidth(420);
-    connect(&Command1, &QPushButton::clicked, this, &panNueUsuario::command1Click);
+    connect(&Command1, &QPushButton::clicked, this, &panNueUsuario::aceptar);
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
 }
 
@@ -51,19 +52,27 @@ QString panNueUsuario::tipo() const
     return Combo2.value().left(1);
 }
 
-bool panNueUsuario::completo() const
+/// The first field that cannot be accepted; null when all can.
+TextBox *panNueUsuario::equivocado()
 {
-    return !nombre().isEmpty() && !clave().isEmpty() && clave() == Text3.text();
+    if (nombre().isEmpty())
+        return &Text1;
+    if (clave().isEmpty())
+        return &Text2;
+    return clave() == Text3.text() ? nullptr : &Text3;
 }
 
-void panNueUsuario::command1Click()
+void panNueUsuario::aceptar()
 {
-    if (completo())
+    TextBox *campo = equivocado();
+    if (!campo) {
         answer(u"SI"_s);
-    else
-        msgBox(
-            u"Ingrese los datos correctamente, fíjese de colocar la clave de acceso correctamente en ambas casillas de texto"_s,
-            Icon::Critical, u"Error"_s);
+        return;
+    }
+    msgBox(
+        u"Ingrese los datos correctamente, fíjese de colocar la clave de acceso correctamente en ambas casillas de texto"_s,
+        Icon::Critical, u"Error"_s);
+    markWrong(*campo, campo == &Text3 ? u"La clave, otra vez igual"_s : u"No puede faltar"_s);
 }
 
 #include "moc_panNueUsuario.cpp"

@@ -21,8 +21,8 @@ protected:
     void activate() override;
 
 private:
-    bool completo() const;
-    void command1Click();
+    forms::TextBox *equivocado();
+    void aceptar();
 
     forms::TextBox Text1{QStringLiteral("Text1"), 50};
     forms::ComboBox Combo1{QStringLiteral("Combo1")};

@@ -177,9 +177,7 @@ void panUsuarios::command2Click()
     if (!MODULE11::VerificaNivel(u"BorrarUsuarios"_s) ||
         !MODULE11::PreguntaSiBorra(u"Está seguro de retirar este usuario del sistema"_s))
         return;
-    Data1.updateControls(); // what was typed goes with the row
-    Data1.recordset().deleteRow();
-    Data1.refresh();
+    Data1.deleteRow();
 }
 
 /// A suspended level keeps the original one in its value.

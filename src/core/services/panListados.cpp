@@ -5,6 +5,7 @@
 #include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
 #include "platform/forms/layout.h"
+#include "platform/forms/wrong.h"
 
 #include <algorithm>
 #include <numeric>
@@ -14,6 +15,9 @@ using namespace forms;
 
 namespace
 {
+
+const QString errorDeCalculo =
+    u"Error de calculo en fórmula, cierre la ventana e intente nuevamente"_s;
 
 using Valores = std::vector<double>;
 
@@ -66,6 +70,12 @@ panListados::panListados(const QString &sql, const QString &titulo) : Form(u"pan
 
 void panListados::calcular()
 {
+    for (ComboBox *combo : {&Combo1, &Combo2})
+        if (combo->currentIndex() < 0) {
+            MODULE11::MuestraError(errorDeCalculo);
+            markWrong(*combo, u"Elija la fórmula y la columna"_s);
+            return;
+        }
     try {
         const Formula &formula = formulas[Combo1.currentIndex()];
         dao::Recordset &filas = Data1.recordset();
@@ -82,7 +92,7 @@ void panListados::calcular()
             throw basic::Error(11, u"División por cero."_s);
         Label1.setCaption(basic::format(formula.calcular(valores), u"###,##0.00"));
     } catch (const basic::Error &) {
-        MODULE11::MuestraError(u"Error de calculo en fórmula, cierre la ventana e intente nuevamente"_s);
+        MODULE11::MuestraError(errorDeCalculo);
     }
 }
 

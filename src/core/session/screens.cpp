@@ -53,7 +53,7 @@ QString showModal(Window window, const QString &tag)
     return form->tag();
 }
 
-void showChild(Window window, const QString &tag, const QString &caption, bool maximised)
+void showChild(Window window, const QString &tag, const QString &caption)
 {
     auto form = make(window);
     if (!form)
@@ -61,7 +61,15 @@ void showChild(Window window, const QString &tag, const QString &caption, bool m
     form->setTag(tag);
     if (!caption.isEmpty())
         form->setWindowTitle(caption);
-    form.release()->showChild(maximised); // from here on the main window's area owns it
+    form.release()->showChild(); // from here on the main window's area owns it
+}
+
+void showSingle(Window window, bool maximised)
+{
+    if (forms::Form *open = forms::openChild(window.text()))
+        open->showChild();
+    else if (auto form = make(window))
+        form.release()->showChild(maximised);
 }
 
 void addOperation(Command command, Operation operation)

@@ -35,7 +35,9 @@ std::unique_ptr<forms::Form> make(Window window);
 QString showModal(Window window, const QString &tag = {});
 
 /// Shows a new instance as a child of the main window. A caption that is empty leaves the window's own.
-void showChild(Window window, const QString &tag = {}, const QString &caption = {}, bool maximised = false);
+void showChild(Window window, const QString &tag = {}, const QString &caption = {});
+/// Brings the child window forward that is open, or opens it: one of which there is only one.
+void showSingle(Window window, bool maximised = false);
 
 /// Commands that are no window of their own: "NuevaFicha", "AbreFicha", ...
 void addOperation(Command command, Operation operation);

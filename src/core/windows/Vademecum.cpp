@@ -5,6 +5,7 @@
 #include "core/session/screens.h"
 #include "core/session/session.h"
 #include "core/session/version.h"
+#include "core/windows/barraDeMenu.h"
 #include "core/windows/despacho.h"
 #include "core/windows/panInicial.h"
 #include "platform/basic/environment.h"
@@ -52,7 +53,7 @@ Vademecum::Vademecum()
     setObjectName(u"Vademecum"_s);
     setWindowIcon(QIcon(u":/logo.svg"_s));
     ponerCaption();
-    construirMenu();
+    menu::build(*menuBar());
 
     auto *centro = new QWidget;
     auto *cuerpo = new QVBoxLayout(centro);
@@ -90,26 +91,6 @@ void Vademecum::ponerCaption()
 {
     setWindowTitle(u"Sanirell! %1 - %2"_s.arg(core::version::conEspacios(), MODULE11::DrActual));
     mostrarEstado();
-}
-
-void Vademecum::construirMenu()
-{
-    std::vector<QMenu *> ramas; // the open submenu at each depth
-    for (const menu::Entry &entry : menu::tree()) {
-        ramas.resize(static_cast<std::size_t>(entry.depth));
-        QMenu *padre = ramas.empty() ? nullptr : ramas.back();
-        const QString caption = QString::fromUtf8(entry.caption);
-        if (entry.kind == menu::Kind::Folder) {
-            ramas.push_back(padre ? padre->addMenu(caption) : menuBar()->addMenu(caption));
-        } else if (entry.kind == menu::Kind::Separator) {
-            padre->addSeparator();
-        } else {
-            QAction *accion = padre->addAction(caption);
-            accion->setObjectName(QString::fromUtf8(entry.item));
-            accion->setEnabled(menu::available(entry));
-            connect(accion, &QAction::triggered, this, [&entry] { menu::choose(entry); });
-        }
-    }
 }
 
 QWidget *Vademecum::construirBarra()
@@ -192,6 +173,7 @@ void Vademecum::timer1Timer()
 {
     try {
         actualizarPacientesDeHoy();
+        mostrarEstado();
     } catch (const basic::Error &error) {
         // Without the practice's file this first unguarded query is where the program ends.
         if (MODULE11::BaseDatos.isOpen()) {
@@ -274,11 +256,17 @@ void Vademecum::mostrarPantallaInicial()
     else if (eleccion == u"ABRIR" && MODULE11::VerificaNivel(u"IngresarAPacientes"_s))
         screens::run("AbreFicha");
     else if (eleccion == u"TURNOS" && MODULE11::VerificaNivel(u"IngresarATurnos"_s))
-        screens::showChild("panTurnos");
+        screens::showSingle("panTurnos");
     else if (eleccion == u"AYUDAS")
         menu::choose({0, "", "", menu::Kind::HelpKey});
     if (!inicio.mostrarCadaVez())
         settings::saveSetting(u"Configuracion"_s, u"Pantalla Inicial"_s, u"NO"_s);
+}
+
+/// What the toolkit tells of a menu item under the pointer would take the place of the user and the file.
+bool Vademecum::event(QEvent *event)
+{
+    return event->type() == QEvent::StatusTip || QMainWindow::event(event);
 }
 
 void Vademecum::closeEvent(QCloseEvent *event)

@@ -38,11 +38,11 @@ public:
     void actualizarPacientesDeHoy();
 
 protected:
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
-    void construirMenu();
     QWidget *construirBarra();
     QWidget *construirPanel();
     void primeraActivacion();

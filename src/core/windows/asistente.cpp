@@ -44,7 +44,7 @@ asistente::asistente() : Form(u"asistente"_s)
 
 void asistente::load()
 {
-    mostrar(1);
+    Combo1.setCurrentIndex(0); // which shows it
 }
 
 QString asistente::archivo(int paso) const

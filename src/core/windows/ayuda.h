@@ -19,7 +19,7 @@ private:
     QTextBrowser navegador_;
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Anterior"),
                                   QStringLiteral("anterior")};
-    forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("&Indice"),
+    forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("&Índice"),
                                   QStringLiteral("inicio")};
     forms::CommandButton Command3{QStringLiteral("Command3"), QStringLiteral("&Cerrar"),
                                   QStringLiteral("cerrar")};

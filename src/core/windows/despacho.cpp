@@ -122,6 +122,7 @@ bool available(const Entry &entry)
 {
     switch (entry.kind) {
     case Kind::Child:
+    case Kind::NewChild:
     case Kind::ChildMaximised:
     case Kind::Modal:
     case Kind::ModalWithTag:
@@ -150,7 +151,10 @@ void choose(const Entry &entry)
     switch (entry.kind) {
     case Kind::Child:
     case Kind::ChildMaximised:
-        screens::showChild(windowOf(entry), {}, {}, entry.kind == Kind::ChildMaximised);
+        screens::showSingle(windowOf(entry), entry.kind == Kind::ChildMaximised);
+        break;
+    case Kind::NewChild:
+        screens::showChild(windowOf(entry));
         break;
     case Kind::Modal:
         screens::showModal(windowOf(entry));

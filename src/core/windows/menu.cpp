@@ -18,13 +18,13 @@ constexpr const char *abrirDelPaciente = "Debe abrir una ficha del paciente.";
 // clang-format off
 constexpr Entry entries[] = {
     {0, "&Archivos", "", Folder},
-    {1, "Nuevo Paciente", "menuNuevaFicha", Operation, "NuevaFicha", "AgregarPacientes"},
+    {1, "Nuevo Paciente", "menuNuevaFicha", Operation, "NuevaFicha", "AgregarPacientes", "", "", 0, "Ctrl+N"},
     {1, "Borrar Paciente", "menuBorraFicha", Operation, "BorraFicha", "BorrarPacientes"},
-    {1, "Abrir Ficha de un paciente", "menuAbreFicha", Operation, "AbreFicha", "IngresarAPacientes"},
+    {1, "Abrir Ficha de un paciente", "menuAbreFicha", Operation, "AbreFicha", "IngresarAPacientes", "", "", 0, "Ctrl+O"},
     {1, "", "", Separator},
     {1, "Importar datos de afiliados", "menuArchImport", Modal, "panImportAfiliados"},
     {1, "Gestión consultorio", "menuConsultorio", Child, "panDiario", "IngresarAConsultas"},
-    {1, "Gestión turnos", "menuTurnos", Child, "panTurnos", "IngresarATurnos"},
+    {1, "Gestión turnos", "menuTurnos", Child, "panTurnos", "IngresarATurnos", "", "", 0, "Ctrl+T"},
     {1, "Gestion contable personal", "menuCaja", Modal, "panCaja"},
     {1, "Tablas varias", "", Folder},
     {2, "Sintomas del paciente", "menuSintomas", Modal, "panSintomas"},
@@ -90,17 +90,17 @@ constexpr Entry entries[] = {
     {1, "Pedidos de Estudios especiales al paciente", "menuPacPedEstudiosEsp", PatientChild, "panEstudios", "", abrirFicha},
 
     {0, "&Misceláneas", "", Folder},
-    {1, "Recetario", "menuRecetario", Child, "pan_Recetario", "IngresarARecetario"},
-    {1, "Banco de Imágenes", "menuImagenes", Child, "panImagenes", "IngresarABibliotecaRecursos"},
+    {1, "Recetario", "menuRecetario", NewChild, "pan_Recetario", "IngresarARecetario"},
+    {1, "Banco de Imágenes", "menuImagenes", NewChild, "panImagenes", "IngresarABibliotecaRecursos"},
     {1, "Biblioteca de Recursos", "menuOrganizaRecursos", Modal, "panAlgorritmos", "IngresarABibliotecaRecursos"},
     {1, "Misceláneas Pediátricas", "", Folder},
     {2, "Tablas de maduración neurológica", "menuMiscEvoMadu", Modal, "panMadNeurol"},
     {2, "Instrucciones para el cuidado del niño", "", Folder},
-    {3, "Cuidados del bebé (folleto para las madres)", "menuCuidadosRecienNacido", Child, "panEditorMMedia"},
-    {3, "Lactancia del bebé (folleto para las madres)", "menuCuidadosLactancia", Child, "panEditorMMedia"},
-    {3, "Instructivo para la dieta astringente", "menuMisDietaAstringente", Child, "panEditorMMedia"},
-    {3, "Instructivo para la preparación de agua de Avena (constipación)", "menuMiscConstipa", Child, "panEditorMMedia"},
-    {3, "Primeras comidas del bebé", "menuPrimerasComidas", Child, "panEditorMMedia"},
+    {3, "Cuidados del bebé (folleto para las madres)", "menuCuidadosRecienNacido", NewChild, "panEditorMMedia"},
+    {3, "Lactancia del bebé (folleto para las madres)", "menuCuidadosLactancia", NewChild, "panEditorMMedia"},
+    {3, "Instructivo para la dieta astringente", "menuMisDietaAstringente", NewChild, "panEditorMMedia"},
+    {3, "Instructivo para la preparación de agua de Avena (constipación)", "menuMiscConstipa", NewChild, "panEditorMMedia"},
+    {3, "Primeras comidas del bebé", "menuPrimerasComidas", NewChild, "panEditorMMedia"},
     {2, "Prevención Infantil (recomendaciones)", "menuMiscPrevencion", Document, "ayuda\\prevencion infantil.hlp"},
     {2, "Fichas Perinatales", "menuFiPer", Modal, "panfichaPer"},
     {1, "Miscelaneas Cardiología", "", Folder},
@@ -114,12 +114,12 @@ constexpr Entry entries[] = {
     {1, "Block de Notas", "menu_Block", NotePad},
     {1, "Calculadora", "menu_Calculadora", Calculator},
     {1, "Explorador de Archivos", "menu_Administrador", FileExplorer},
-    {1, "Editor de textos", "menuServEditorTxt", Child, "panEditorMMedia"},
+    {1, "Editor de textos", "menuServEditorTxt", NewChild, "panEditorMMedia"},
     {1, "", "", Separator},
     {1, "Articulos y control de stock", "menuarticulos", Modal, "panArticulos", "IngresarAFarmacia"},
     {1, "Facturación a Obras Sociales", "menuFacObra", Modal, "panFacturacion", "IngresarAFacturacion"},
     {1, "", "", Separator},
-    {1, "Editor de Archivos del sistema", "menuEditArchivo", Child, "panGArchivos", "IngresarAEditorTextos"},
+    {1, "Editor de Archivos del sistema", "menuEditArchivo", NewChild, "panGArchivos", "IngresarAEditorTextos"},
     {1, "Service y Mantenimiento del Sistema", "Menu_Service", Modal, "panServices", "IngresarAServicesSistema"},
     {1, "Personalizar Sistema", "menuMiscPersonal", Modal, "panPersonaliza"},
     {1, "Usuarios y Seguridad", "", Folder},
@@ -132,7 +132,7 @@ constexpr Entry entries[] = {
     {1, "Organizar en mosaico", "menuMosaico", Tile},
 
     {0, "A&yuda", "", Folder},
-    {1, "Uso del Sistema", "menu_UsoDelSistema", HelpKey},
+    {1, "Uso del Sistema", "menu_UsoDelSistema", HelpKey, "", "", "", "", 0, "F1"},
     {1, "Asistente ...", "menuAyudaAsiste", Modal, "asistente"},
     {1, "Torvendo! en Internet...", "menuAyuActa", Web, "Sitio en Internet"},
     {1, "Páginas de interes pediátrico en Internet...", "menuPaginas", Web, "Paginas de interes"},
@@ -161,6 +161,7 @@ constexpr bool leadsSomewhere(const Item &item)
 {
     switch (item.kind) {
     case Child:
+    case NewChild:
     case ChildMaximised:
     case Modal:
     case ModalWithTag:

@@ -12,12 +12,13 @@ namespace menu
 enum class Kind {
     Folder, ///< a submenu; the deeper entries that follow belong to it
     Separator,
-    Child, ///< opens the window as a child
-    ChildMaximised,
-    Modal,        ///< opens the window modally
-    Operation,    ///< runs an operation of the registry
-    PatientModal, ///< needs a patient: modal, with the patient's number as its tag
-    PatientChild, ///< needs a patient: a child window
+    Child,          ///< opens the window as a child, or brings forward the one that is open
+    NewChild,       ///< opens another one as a child
+    ChildMaximised, ///< as Child
+    Modal,          ///< opens the window modally
+    Operation,      ///< runs an operation of the registry
+    PatientModal,   ///< needs a patient: modal, with the patient's number as its tag
+    PatientChild,   ///< needs a patient: a child window
     PatientOperation,
     PatientOrNothing, ///< a child window of the patient, nothing without one
     ModalWithTag,     ///< modal with the active child's tag, whatever it is
@@ -45,6 +46,7 @@ struct Entry {
     const char *windowCaption =
         "";            ///< given to the window; one that ends in a blank is followed by the patient's name
     int keysRight = 0; ///< presses of the right key sent before the operation
+    const char *shortcut = "";
 };
 
 std::span<const Entry> tree();

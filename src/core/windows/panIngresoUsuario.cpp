@@ -4,6 +4,7 @@
 #include "platform/basic/environment.h"
 #include "platform/basic/errors.h"
 #include "platform/dao/error.h"
+#include "platform/forms/colour.h"
 #include "platform/forms/layout.h"
 #include "platform/forms/twips.h"
 #include "platform/settings/settings.h"
@@ -25,7 +26,7 @@ panIngresoUsuario::panIngresoUsuario() : Form(u"panIngresoUsuario"_s)
     setWindowTitle(u"Ingreso al sistema"_s);
     Text2.setSecret();
     Label3.setWordWrap(true);
-    Label3.setEnabled(false);
+    setForeColor(Label3, palette().color(QPalette::PlaceholderText));
     Frame1.hide();
     Command1.setDefault(true);
     setContents(this, Column{

@@ -36,7 +36,7 @@ private:
     forms::ComboBox Combo2{QStringLiteral("Combo2")};
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Aceptar"),
                                   QStringLiteral("aceptar")};
-    forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("&Cancelar"),
+    forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("Ca&ncelar"),
                                   QStringLiteral("cancelar")};
     bool pideClave_ = false;
 };

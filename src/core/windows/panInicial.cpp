@@ -1,11 +1,11 @@
 #include "core/windows/panInicial.h"
 
 #include "core/session/session.h"
-#include "platform/dao/sqltext.h"
-#include "platform/dao/error.h"
 #include "platform/basic/environment.h"
 #include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
+#include "platform/dao/error.h"
+#include "platform/dao/sqltext.h"
 #include "platform/forms/layout.h"
 
 using namespace Qt::StringLiterals;
@@ -62,8 +62,8 @@ panInicial::panInicial() : Form(u"panInicial"_s)
 void panInicial::load()
 {
     basic::ignoring(dao::fileTrouble, [this] {
-        dao::Recordset turnos = MODULE11::BaseDatos.openRecordset(
-            u"Select * from turnos where fecha = "_s + dao::cdate(basic::today()));
+        dao::Recordset turnos = MODULE11::BaseDatos.openRecordset(u"Select * from turnos where fecha = "_s +
+                                                                  dao::cdate(basic::today()));
         if (turnos.eof())
             return;
         turnos.moveLast();

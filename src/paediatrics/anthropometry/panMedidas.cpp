@@ -4,6 +4,7 @@
 #include "platform/basic/environment.h"
 #include "platform/basic/runtime.h"
 #include "platform/forms/layout.h"
+#include "platform/forms/wrong.h"
 #include "platform/settings/settings.h"
 
 using namespace Qt::StringLiterals;
@@ -25,13 +26,15 @@ panMedidas::panMedidas() : Form(u"panMedidas"_s)
         connect(medida.unidad, &QPushButton::clicked, this, [this, &medida] { cambiarUnidad(medida); });
     }
     Command1.setDefault(true);
-    setContents(this, Column{
-                          Fields{{u"&Fecha :"_s, TextF},
-                                 {u"&Peso :"_s, Row{Expanding(Text1(1)), Command3}},
-                                 {u"&Talla :"_s, Row{Expanding(Text1(2)), Command4}},
-                                 {u"P. C&efálico :"_s, Row{Expanding(Text1(3)), Command5}}},
-                          Row{Stretch(), Command1, Command2},
-                      });
+    setContents(this,
+                Column{
+                    Fields{{u"&Fecha :"_s, TextF},
+                           {u"&Peso :"_s, Row{Expanding(Text1(1)), Command3}},
+                           {u"&Talla :"_s, Row{Expanding(Text1(2)), Command4}},
+                           {u"P. C&efálico :"_s, Row{Expanding(Text1(3)), Command5}}},
+                    Row{Stretch(), Command1, Command2},
+                },
+                {&Command3, &Command4, &Command5});
     setMinimumWidth(360);
     connect(&Command1, &QPushButton::clicked, this, &panMedidas::command1Click);
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
@@ -78,6 +81,7 @@ void panMedidas::command1Click()
     for (const Medida &medida : medidas_) {
         if (!basic::isNumeric(Text1(medida.indice).text())) {
             MODULE11::MuestraError(u"Datos mal ingresados."_s);
+            markWrong(Text1(medida.indice), u"Un número; 0 si no se midió"_s);
             return;
         }
     }

@@ -24,7 +24,7 @@ struct Curva {
 constexpr Curva curvas[] = {
     {"&Peso", "panPerPesoninos6", "panPerPesoNenas6", "panPercenPeso", "panPerPesoNenas"},
     {"&Talla", "panPerTallaNinos6", "panPerTallaNenas6", "panPerTallaNinos", "panPerTallaNenas"},
-    {"P.&Cefálico", "panperPCNinos", "panPerPcNenas", "panperPCNinos", "panPerPcNenas"},
+    {"P.C&efálico", "panperPCNinos", "panPerPcNenas", "panperPCNinos", "panPerPcNenas"},
     {"Peso, talla y perímetro cefálico del &neonato.", "panPerTodoNenes", "panPerTodoNenas",
      "panPerTodoNenes", "panPerTodoNenas"},
     {"Indice de masa corporal ( IMC )", "panIMC", "panIMC", "panIMC", "panIMC"},

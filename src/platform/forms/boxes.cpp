@@ -131,7 +131,8 @@ std::optional<bool> askOrCancelBox(const QString &text, const QString &title, Ic
     return {};
 }
 
-std::optional<QString> inputBox(const QString &prompt, const QString &title, const QString &initial)
+std::optional<QString> inputBox(const QString &prompt, const QString &title, const QString &initial,
+                                int longest)
 {
     QDialog box(owner());
     box.setWindowTitle(title);
@@ -139,7 +140,7 @@ std::optional<QString> inputBox(const QString &prompt, const QString &title, con
     auto *label = new QLabel(prompt);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
-    auto *field = new TextBox(QStringLiteral("texto"));
+    auto *field = new TextBox(QStringLiteral("texto"), longest);
     field->setText(initial);
     field->setMinimumWidth(360);
     field->selectAll();

@@ -27,8 +27,10 @@ bool retryBox(const QString &text, const QString &title, const QString &otherwis
 
 /// "Sí", "No" and "Cancelar"; empty when cancelled.
 std::optional<bool> askOrCancelBox(const QString &text, const QString &title, Icon icon = Icon::Exclamation);
-/// A prompt for one text with "Aceptar" and "Cancelar"; empty when cancelled.
-std::optional<QString> inputBox(const QString &prompt, const QString &title, const QString &initial = {});
+/// A prompt for one text with "Aceptar" and "Cancelar"; empty when cancelled. No more than `longest`
+/// characters can be typed; 0 for those of any column.
+std::optional<QString> inputBox(const QString &prompt, const QString &title, const QString &initial = {},
+                                int longest = 0);
 
 /// `filter` as "Imágenes (*.jpg *.png)". Empty when cancelled.
 QString openFileDialog(const QString &title, const QString &folder, const QString &filter);

@@ -4,6 +4,7 @@
 #include "platform/basic/environment.h"
 #include "platform/forms/wrong.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QCompleter>
@@ -15,6 +16,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStackedWidget>
+#include <QTabBar>
 
 namespace forms
 {
@@ -195,8 +197,33 @@ void ListBox::keyboardSearch(const QString &letter)
     const int row = typeAhead_.rowFor(letter, *model(), currentRow());
     if (row < 0)
         return;
-    const bool several = selectionMode() == ExtendedSelection || selectionMode() == MultiSelection;
-    setCurrentRow(row, several ? QItemSelectionModel::NoUpdate : QItemSelectionModel::ClearAndSelect);
+    setCurrentRow(row, takesSeveral() ? QItemSelectionModel::NoUpdate : QItemSelectionModel::ClearAndSelect);
+    marking_ = takesSeveral();
+}
+
+bool ListBox::takesSeveral() const
+{
+    return selectionMode() == ExtendedSelection || selectionMode() == MultiSelection;
+}
+
+void ListBox::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Space || !takesSeveral() || !currentItem()) {
+        QListWidget::keyPressEvent(event);
+        return;
+    }
+    marking_ = true;
+    typeAhead_ = {};
+    selectionModel()->select(currentIndex(), QItemSelectionModel::Toggle);
+}
+
+QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex &index,
+                                                              const QEvent *event) const
+{
+    const bool byKey = event && event->type() == QEvent::KeyPress;
+    if (byKey && marking_ && !static_cast<const QKeyEvent *>(event)->modifiers().testFlag(Qt::ShiftModifier))
+        return QItemSelectionModel::NoUpdate;
+    return QListWidget::selectionCommand(index, event);
 }
 
 QStringList ListBox::lines() const
@@ -266,9 +293,36 @@ void MonthView::setValue(basic::Date value)
     setSelectedDate(value.date());
 }
 
+void MonthView::setChoiceShown(bool shown)
+{
+    choiceShown_ = shown;
+    auto *days = findChild<QAbstractItemView *>();
+    QPalette colours = days->palette();
+    const QPalette usual = palette();
+    const auto from = [&](QPalette::ColorRole role) { return usual.color(QPalette::Active, role); };
+    colours.setColor(QPalette::Highlight, from(shown ? QPalette::Highlight : QPalette::Base));
+    colours.setColor(QPalette::HighlightedText, from(shown ? QPalette::HighlightedText : QPalette::Text));
+    days->setPalette(colours);
+}
+
+void MonthView::paintCell(QPainter *painter, const QRect &cell, QDate day) const
+{
+    QCalendarWidget::paintCell(painter, cell, day);
+    if (!choiceShown_ || day != selectedDate())
+        return;
+    painter->save();
+    painter->setPen(QPen(palette().color(QPalette::Active, QPalette::Text), 2));
+    painter->drawRect(cell.adjusted(2, 2, -2, -2));
+    painter->restore();
+}
+
+/// The bar takes the focus and not the whole: else the Tab key would come back from the whole, which stands
+/// behind all other controls, to the bar, and never to what stands before it.
 SSTab::SSTab(const QString &name)
 {
     setObjectName(name);
+    setFocusPolicy(Qt::NoFocus);
+    tabBar()->setFocusPolicy(Qt::StrongFocus);
 }
 
 SSTab::~SSTab()

@@ -114,8 +114,17 @@ public:
     /// Where several lines can be chosen, what is chosen stays so.
     void keyboardSearch(const QString &letter) override;
 
+protected:
+    /// Where several lines can be chosen Space marks the current one, or takes its mark away, and the arrows
+    /// then leave the marks alone.
+    void keyPressEvent(QKeyEvent *event) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event) const override;
+
 private:
+    bool takesSeveral() const;
     TypeAhead typeAhead_;
+    bool marking_ = false; ///< by the keyboard
 };
 
 class CheckBox : public QCheckBox
@@ -159,6 +168,15 @@ public:
     explicit MonthView(const QString &name);
     basic::Date value() const;
     void setValue(basic::Date date);
+    /// A month that only shows its days has none chosen in sight.
+    void setChoiceShown(bool shown);
+
+protected:
+    /// The day chosen has a frame besides its colour.
+    void paintCell(QPainter *painter, const QRect &cell, QDate day) const override;
+
+private:
+    bool choiceShown_ = true;
 };
 
 class SSTab : public QTabWidget

@@ -302,6 +302,8 @@ void Data::set(const QString &field, const basic::Value &value)
 
 void Data::deleteRow()
 {
+    if (!hasRow())
+        throw dao::Error(dao::Error::NoCurrentRecord, QStringLiteral("No hay una fila elegida."));
     updateControls();
     recordset_.deleteRow();
     refresh();
@@ -311,8 +313,28 @@ void Data::change(const std::function<void(dao::Recordset &)> &work)
 {
     leaveRow();
     noneChosen_ = false;
-    work(recordset_);
-    updateControls();
+    try {
+        work(recordset_);
+    } catch (...) {
+        if (hasRecordset() && recordset_.editMode() != dao::Recordset::EditMode::None)
+            recordset_.cancelUpdate();
+        showCurrent(); // it may have moved before it failed
+        throw;
+    }
+    showCurrent();
+}
+
+/// A row that cannot be read is not current: nobody sees what a command would work on.
+void Data::showCurrent()
+{
+    try {
+        updateControls();
+    } catch (...) {
+        noneChosen_ = true;
+        updateControls();
+        emit reposition();
+        throw;
+    }
     emit reposition();
 }
 

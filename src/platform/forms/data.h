@@ -72,6 +72,7 @@ private:
     void leaveRow();
     void forgetChanges();
     void writeRow();
+    void showCurrent();
     basic::Value valueToShow(const Binding &binding) const;
 
     void adoptLengths();

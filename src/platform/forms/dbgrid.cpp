@@ -2,12 +2,14 @@
 
 #include "platform/basic/runtime.h"
 #include "platform/forms/boxes.h"
+#include "platform/forms/controls.h"
 
 #include <QAbstractTableModel>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QStyledItemDelegate>
 
 namespace forms
 {
@@ -19,6 +21,27 @@ constexpr char16_t deletedMark[] = u"#Eliminado";
 constexpr int linePixels = 24;
 constexpr int narrowestColumn = 70;
 constexpr int widestByHeading = 260;
+
+/// A cell is typed in a field that takes no more than its column.
+class CellDelegate : public QStyledItemDelegate
+{
+public:
+    CellDelegate(QObject *parent, std::function<int(int)> length)
+        : QStyledItemDelegate(parent), length_(std::move(length))
+    {
+    }
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &,
+                          const QModelIndex &index) const override
+    {
+        auto *field = new TextBox({}, length_(index.column()));
+        field->setParent(parent);
+        field->setFrame(false);
+        return field;
+    }
+
+private:
+    std::function<int(int)> length_;
+};
 
 } // namespace
 
@@ -32,9 +55,10 @@ public:
     }
 
     /// The source may fail while it is asked: it is asked before the views are told, and a grid that cannot
-    /// know its rows shows none.
+    /// know its rows shows none until it is read anew.
     void reload()
     {
+        known_ = false;
         int rows = 0;
         std::vector<int> ordinals(columns_.size(), -1);
         int lookOrdinal = -1;
@@ -45,6 +69,7 @@ public:
                 ordinals[i] = data_.recordset().ordinal(columns_[i].field);
             lookOrdinal = data_.recordset().ordinal(lookField_);
             rows = countRows();
+            known_ = true;
         };
         const auto adopt = [&] {
             beginResetModel();
@@ -72,7 +97,18 @@ public:
     /// Takes in rows that were added or went away.
     void follow()
     {
-        const int rows = countRows();
+        if (!known_)
+            return;
+        int rows = 0;
+        try {
+            rows = countRows();
+        } catch (...) {
+            known_ = false;
+            beginResetModel();
+            rows_ = 0;
+            endResetModel();
+            throw;
+        }
         if (rows > rows_) {
             beginInsertRows({}, rows_, rows - 1);
             rows_ = rows;
@@ -82,6 +118,18 @@ public:
         }
     }
 
+    /// How long a text of the column may be; 0 where it is none.
+    int length(int column) const
+    {
+        const int ordinal = ordinals_[static_cast<std::size_t>(column)];
+        if (ordinal < 0 || !data_.hasRecordset())
+            return 0;
+        const dao::FieldDef &field = data_.recordset().fields()[static_cast<std::size_t>(ordinal)];
+        constexpr int longestMemo = 1 << 20;
+        return field.type == dao::FieldType::Text   ? field.size
+               : field.type == dao::FieldType::Memo ? longestMemo
+                                                    : 0;
+    }
     void setEditable(bool editable) { editable_ = editable; }
     const std::vector<GridColumn> &columns() const { return columns_; }
 
@@ -130,6 +178,9 @@ public:
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
     {
+        if (orientation == Qt::Horizontal &&
+            role == Qt::TextAlignmentRole) // a heading stands over its values
+            return static_cast<int>(alignment(static_cast<std::size_t>(section)) | Qt::AlignVCenter);
         if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
             return {};
         return columns_[static_cast<std::size_t>(section)].heading;
@@ -188,6 +239,7 @@ private:
     std::vector<GridColumn> columns_;
     std::vector<int> ordinals_;
     int rows_ = 0;
+    bool known_ = false; ///< the source told how many rows it has
     bool editable_ = false;
     QString lookField_;
     std::function<RowLook(const basic::Value &)> look_;
@@ -241,13 +293,12 @@ void DBGrid::setSource(Data &source, std::vector<GridColumn> columns)
     model_ = new Model(source, std::move(columns));
     model_->setEditable(editTriggers() != QAbstractItemView::NoEditTriggers);
     setModel(model_);
+    delete itemDelegate();
+    setItemDelegate(new CellDelegate(this, [this](int column) { return model_->length(column); }));
     sizeColumns();
-    connect(&source, &Data::refreshed, this, [this] {
-        const QScopedValueRollback following(following_, true);
-        model_->reload();
-    });
+    connect(&source, &Data::refreshed, this, [this] { orNone([this] { model_->reload(); }); });
     connect(&source, &Data::rowWritten, this, [this] {
-        model_->follow();
+        orNone([this] { model_->follow(); });
         viewport()->update();
     });
     connect(&source, &Data::reposition, this, &DBGrid::followData);
@@ -258,18 +309,34 @@ void DBGrid::setSource(Data &source, std::vector<GridColumn> columns)
 
 void DBGrid::sizeColumns()
 {
-    const QFontMetrics metrics(horizontalHeader()->font());
+    QFont bold = horizontalHeader()->font();
+    bold.setWeight(QFont::DemiBold);
+    const QFontMetrics metrics(bold);
+    constexpr int padding = 20;
     for (std::size_t i = 0; i < model_->columns().size(); ++i) {
         const GridColumn &column = model_->columns()[i];
-        const int byHeading =
-            qBound(narrowestColumn, metrics.horizontalAdvance(column.heading) * 5 / 4 + 28, widestByHeading);
-        setColumnWidth(static_cast<int>(i), column.width > 0 ? column.width : byHeading);
+        const int heading = metrics.horizontalAdvance(column.heading) + padding;
+        const int byHeading = qBound(narrowestColumn, heading, widestByHeading);
+        setColumnWidth(static_cast<int>(i), column.width > 0 ? qMax(column.width, heading) : byHeading);
     }
 }
 
 int DBGrid::dataRow() const
 {
     return data_ && data_->hasRow() ? static_cast<int>(data_->recordset().absolutePosition()) : -1;
+}
+
+/// Where the rows cannot be known the grid shows none; then none may be current either, or a command would
+/// work on a row that nobody sees.
+void DBGrid::orNone(const std::function<void()> &ask)
+{
+    const QScopedValueRollback following(following_, true);
+    try {
+        ask();
+    } catch (...) {
+        data_->chooseNone();
+        throw;
+    }
 }
 
 /// The Data stands on another row: so does the grid.
@@ -279,13 +346,12 @@ void DBGrid::followData()
         return;
     const int left = currentRow();
     int row = -1;
-    {
-        const QScopedValueRollback following(following_, true);
+    orNone([&] {
         model_->follow();
         row = dataRow();
         viewport()->update(); // the model keeps no values: what is in sight is read anew
         standOn(row);
-    }
+    });
     if (row != left)
         emit rowChanged(row);
 }

@@ -24,7 +24,7 @@ struct RowLook {
     QColor ink;          ///< of the whole row; invalid: the grid's own
     bool strong = false; ///< the value itself is in bold
 
-    static RowLook standingBack() { return {QColor(0x80, 0x8a, 0x93), false}; }
+    static RowLook standingBack() { return {QColor(0x60, 0x6b, 0x75), false}; }
     static RowLook standingOut() { return {QColor(), true}; }
 };
 
@@ -59,6 +59,7 @@ private:
     void sizeColumns();
     int dataRow() const;
     void followData();
+    void orNone(const std::function<void()> &ask);
     void leadData(const QModelIndex &current);
     void standOn(int row);
     Model *model_ = nullptr;

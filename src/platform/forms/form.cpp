@@ -148,7 +148,7 @@ void Form::showModal()
 void Form::showChild(bool maximised)
 {
     if (QMdiSubWindow *sub = frame()) {
-        sub->show();
+        sub->isMinimized() ? sub->showNormal() : sub->show();
         childArea()->setActiveSubWindow(sub);
         activated(this);
         return;
@@ -255,9 +255,11 @@ QMdiArea *childArea()
 
 Form *openChild(const QString &name)
 {
-    for (Form *form : formsByActivity())
-        if (form->name() == name && qobject_cast<QMdiSubWindow *>(form->parentWidget()))
+    for (Form *form : state().byActivity) {
+        const auto *sub = qobject_cast<QMdiSubWindow *>(form->parentWidget());
+        if (sub && sub->isVisible() && form->name() == name) // made small, it is visible, its contents are not
             return form;
+    }
     return nullptr;
 }
 

@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QSplitter>
 
+#include <algorithm>
 #include <map>
 
 namespace forms
@@ -297,7 +298,7 @@ Item Tabs(SSTab &tabs, std::initializer_list<Page> list)
     return Item(std::move(add), std::move(order));
 }
 
-void setContents(QWidget *window, Item content)
+void setContents(QWidget *window, Item content, const std::vector<QWidget *> &last)
 {
     fill(window, content);
     std::vector<QWidget *> order;
@@ -307,6 +308,8 @@ void setContents(QWidget *window, Item content)
         else if (const auto inner = orders().find(widget); inner != orders().end())
             order.insert(order.end(), inner->second.begin(), inner->second.end());
     }
+    std::stable_partition(order.begin(), order.end(),
+                          [&](QWidget *widget) { return std::ranges::find(last, widget) == last.end(); });
     for (std::size_t i = 1; i < order.size(); ++i)
         QWidget::setTabOrder(order[i - 1], order[i]);
     if (window->focusPolicy() == Qt::NoFocus && !qobject_cast<QDialog *>(window)) {

@@ -95,6 +95,7 @@ struct Page {
 class SSTab;
 Item Tabs(SSTab &tabs, std::initializer_list<Page> pages);
 
-void setContents(QWidget *window, Item content);
+/// `last` are the widgets that the Tab key comes to behind all others, wherever they stand.
+void setContents(QWidget *window, Item content, const std::vector<QWidget *> &last = {});
 
 } // namespace forms

@@ -3,10 +3,10 @@
 #include "platform/forms/dbgrid.h"
 #include "platform/settings/settings.h"
 
+#include <QBoxLayout>
 #include <QHeaderView>
-#include <QLayout>
+#include <QPushButton>
 #include <QScrollArea>
-#include <QVBoxLayout>
 
 namespace forms
 {
@@ -23,6 +23,28 @@ public:
     QSize sizeHint() const override { return widget()->sizeHint() + QSize(2, 2); }
     QSize minimumSizeHint() const override { return {160, 120}; }
 };
+
+enum class End { Top, Bottom };
+
+/// Takes the row of buttons out that a window's column begins or ends with; null when it has none there. They
+/// stay in sight while the rest scrolls.
+QLayout *takeCommands(QLayout &contents, End end)
+{
+    auto *column = contents.count() == 1 ? qobject_cast<QBoxLayout *>(contents.itemAt(0)->layout()) : nullptr;
+    if (!column || column->direction() != QBoxLayout::TopToBottom || column->count() < 2)
+        return nullptr;
+    const int place = end == End::Top ? 0 : column->count() - 1;
+    auto *row = qobject_cast<QBoxLayout *>(column->itemAt(place)->layout());
+    if (!row || row->direction() != QBoxLayout::LeftToRight)
+        return nullptr;
+    for (int i = 0; i < row->count(); ++i)
+        if (qobject_cast<QPushButton *>(row->itemAt(i)->widget())) {
+            column->takeAt(place);
+            row->setParent(nullptr);
+            return row;
+        }
+    return nullptr;
+}
 
 QString joined(const QList<int> &numbers)
 {
@@ -55,6 +77,10 @@ void fitInto(QWidget &window, QSize room)
     const QSize least = contents->totalMinimumSize();
     if (least.width() <= room.width() && least.height() <= room.height())
         return;
+    window.setMinimumSize(window.minimumSize().boundedTo(room));
+    const QMargins margins = contents->contentsMargins();
+    QLayout *head = takeCommands(*contents, End::Top);
+    QLayout *foot = takeCommands(*contents, End::Bottom);
     auto *sheet = new Sheet;
     auto *inner = new QWidget;
     inner->setLayout(contents);
@@ -64,6 +90,12 @@ void fitInto(QWidget &window, QSize room)
     auto *outer = new QVBoxLayout(&window);
     outer->setContentsMargins(0, 0, 0, 0);
     outer->addWidget(sheet);
+    for (QLayout *row : {head, foot}) {
+        if (!row)
+            continue;
+        row->setContentsMargins(margins);
+        outer->insertLayout(row == head ? 0 : -1, row);
+    }
 }
 
 QSize rememberedSize(const QWidget &window, QSize natural, QSize room)

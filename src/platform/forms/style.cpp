@@ -15,6 +15,15 @@ namespace forms
 namespace
 {
 
+void frameWrong(QPainter &painter, const QRect &field)
+{
+    painter.save();
+    painter.setPen(QPen(QColor(wrongInk), 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(field.adjusted(1, 1, -1, -1));
+    painter.restore();
+}
+
 bool turnsByWheel(const QWidget *widget)
 {
     return qobject_cast<const QAbstractSpinBox *>(widget) || qobject_cast<const QComboBox *>(widget);
@@ -45,8 +54,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (widget && isMarkedWrong(*widget) && (element == PE_PanelLineEdit || element == PE_Frame)) {
-        painter->setPen(QPen(QColor(wrongInk), 2));
-        painter->drawRect(option->rect.adjusted(1, 1, -1, -1));
+        frameWrong(*painter, option->rect);
         return;
     }
     if (element != PE_Frame || !option->state.testFlag(State_HasFocus) ||
@@ -54,6 +62,14 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
         return;
     painter->setPen(option->palette.color(QPalette::Highlight));
     painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+}
+
+void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                               const QWidget *widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_ComboBox && widget && isMarkedWrong(*widget))
+        frameWrong(*painter, option->rect);
 }
 
 /// The frame is painted anew with the focus, which the toolkit does for the contents only. A wheel turned

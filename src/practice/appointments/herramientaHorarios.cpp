@@ -7,6 +7,7 @@
 #include "platform/forms/boxes.h"
 #include "platform/forms/colour.h"
 #include "platform/forms/layout.h"
+#include "platform/forms/wrong.h"
 
 #include <QCoreApplication>
 #include <QLayout>
@@ -130,7 +131,7 @@ void HerramientaHorarios::trabajar(const std::function<void(const horarios::Avan
     const auto alTerminar = qScopeGuard([this] {
         MODULE11::RelojNormal();
         ProgressBar1.hide();
-        emit cambiado();
+        emit cambiado(dt1.date());
     });
     trabajo([this](int hechas, int total) {
         ProgressBar1.setRange(0, total);
@@ -153,7 +154,7 @@ void HerramientaHorarios::command7Click()
     const horarios::Esquema pedido = esquema();
     if (!horarios::intervaloValido(pedido.intervalo)) {
         error(u"Error, los minutos entre turnos deben ser más que cero."_s);
-        intervalo_.setFocus();
+        markWrong(intervalo_, u"Minutos, más que cero"_s);
         return;
     }
     trabajar([&](const horarios::Avance &avance) { horarios::aplicar(pedido, *reemplazar, avance); });

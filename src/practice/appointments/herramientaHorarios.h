@@ -21,7 +21,7 @@ public:
     void setProfesional(qint64 idProfesional, const QString &nombre);
 
 signals:
-    void cambiado(); ///< working hours or places were written or removed
+    void cambiado(QDate desde); ///< working hours or places were written or removed, from this day on
 
 private:
     void disponer();

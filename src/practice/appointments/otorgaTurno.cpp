@@ -1,10 +1,8 @@
 #include "practice/appointments/otorgaTurno.h"
 
 #include "core/security/niveles.h"
-#include "core/services/services.h"
 #include "core/session/session.h"
 #include "platform/basic/environment.h"
-#include "platform/basic/runtime.h"
 #include "platform/dao/sqltext.h"
 #include "platform/forms/boxes.h"
 #include "practice/appointments/panNueTurno.h"
@@ -14,12 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-
-/// The day with an hour that can be read, or with none.
-bool hayMomento(basic::Date fecha, const QString &hora)
-{
-    return basic::isDate((basic::dateText(fecha) + u' ' + hora).trimmed());
-}
 
 dao::Recordset lugarLibre(basic::Date fecha, const QString &hora)
 {
@@ -42,10 +34,6 @@ void OtorgaTurno(std::optional<qint64> paciente)
     dialogo.showModal();
     if (dialogo.tag() != u"SI")
         return;
-    if (!hayMomento(dialogo.fecha(), dialogo.hora())) {
-        MODULE11::MuestraError(u"Datos mal ingresados"_s);
-        return;
-    }
     dao::Recordset lugar = lugarLibre(dialogo.fecha(), dialogo.hora());
     if (lugar.eof()) {
         forms::msgBox(u"Error, el turno no está disponible."_s, forms::Icon::Critical, u"Error"_s);

@@ -3,6 +3,7 @@
 #include "core/services/services.h"
 #include "platform/forms/boxes.h"
 #include "platform/forms/layout.h"
+#include "platform/forms/wrong.h"
 
 using namespace Qt::StringLiterals;
 using namespace forms;
@@ -31,6 +32,7 @@ void panCambiaEstadoTurno::command1Click()
 {
     if (Combo3.currentIndex() < 0) {
         msgBox(u"Seleccione un nuevo estado."_s, Icon::Critical, u"Error"_s);
+        markWrong(Combo3, u"Un estado de la lista"_s);
         return;
     }
     answer(u"SI"_s);

@@ -5,6 +5,13 @@
 using namespace Qt::StringLiterals;
 using namespace forms;
 
+namespace
+{
+
+constexpr int largoDeEstado = 40; // of the column
+
+} // namespace
+
 panEstadosTurnos::panEstadosTurnos()
     : Tabla(u"panEstadosTurnos"_s, u"Estados de los turnos"_s, {{u"Estado"_s, u"Estado"_s, {}, 320}})
 {
@@ -20,7 +27,8 @@ panEstadosTurnos::panEstadosTurnos()
 
 void panEstadosTurnos::agregar()
 {
-    const auto nombre = inputBox(u"Escriba el nombre del nuevo estado :"_s, u"Nuevo estado"_s);
+    const auto nombre =
+        inputBox(u"Escriba el nombre del nuevo estado :"_s, u"Nuevo estado"_s, {}, largoDeEstado);
     if (nombre && !nombre->trimmed().isEmpty())
         addRow([&](dao::Recordset &estados) { estados[u"Estado"] = *nombre; });
 }

@@ -316,7 +316,7 @@ std::optional<qint64> panNueTurno::profesionalElegido()
     if (!id) {
         error(
             u"Debe seleccionar un profesional de la lista correctamente. Véase Archivos --> Tablas Varias --> Profesionales"_s);
-        Combo2.setFocus();
+        markWrong(Combo2, u"Un profesional de la lista"_s);
     }
     return id;
 }
@@ -342,7 +342,7 @@ void panNueTurno::command1Click()
     const bool atiende = atiendeEseDia(*id);
     if (Combo1.currentIndex() < 0) {
         error(u"Error, seleccione una obra social válida!"_s);
-        Combo1.setFocus();
+        markWrong(Combo1, u"Una obra social de la lista, o <Particular>"_s);
         return;
     }
     if (atiende)

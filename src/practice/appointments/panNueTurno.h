@@ -70,15 +70,15 @@ private:
     forms::TextBox mHora{QStringLiteral("mHora"), 5};
     forms::CommandButton Command3{QStringLiteral("Command3"), QStringLiteral("&Ver el día..."),
                                   QStringLiteral("calendario")};
-    forms::TextBox Text1{QStringLiteral("Text1")};
+    forms::TextBox Text1{QStringLiteral("Text1"), 50};
     forms::Label Label7{QStringLiteral("Label7"), QStringLiteral("Edad :")};
     forms::Label lblAnios{QStringLiteral("lblAnios")};
     forms::Label lblMeses{QStringLiteral("lblMeses")};
     forms::Label lblDias{QStringLiteral("lblDias")};
     forms::ComboBox Combo1{QStringLiteral("Combo1")};
-    forms::TextBox Text2{QStringLiteral("Text2")}; // member number
-    forms::TextBox Text3{QStringLiteral("Text3")}; // telephone
-    forms::TextBox Text4{QStringLiteral("Text4")}; // e-mail
+    forms::TextBox Text2{QStringLiteral("Text2"), 30}; // member number
+    forms::TextBox Text3{QStringLiteral("Text3"), 30}; // telephone
+    forms::TextBox Text4{QStringLiteral("Text4"), 30}; // e-mail
     forms::CheckBox Check1{QStringLiteral("Check1"), QStringLiteral("Contro&l sano")};
     forms::TextBox mMotivo{QStringLiteral("mMotivo"), 60};
     forms::TextBox mCoseguro{QStringLiteral("mCoseguro"), 60};

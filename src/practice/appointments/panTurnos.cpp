@@ -97,12 +97,10 @@ void panTurnos::disponer()
                           Stretch(),
                           Check1,
                       });
-    setContents(this,
-                Row{lado, Expanding(Column{
-                              panelFecha,
-                              Expanding(DBGrid2),
-                              Row{Command2, Command3, Command6, Command5, Command1, Stretch(), Command4},
-                          })});
+    setContents(this, Column{
+                          Expanding(Row{lado, Expanding(Column{panelFecha, Expanding(DBGrid2)})}),
+                          Row{Command2, Command3, Command6, Command5, Command1, Stretch(), Command4},
+                      });
 }
 
 void panTurnos::load()

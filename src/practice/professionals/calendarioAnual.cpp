@@ -24,18 +24,12 @@ constexpr int anchoMes = 200; // pixels
 constexpr int altoMes = 190;
 constexpr int primerAno = 1900;
 
-/// The days of the neighbouring months, which fill up the weeks, are not shown. Every calendar has a day
-/// selected; only the one that was clicked shows it.
-void vestir(MonthView &mes, bool conSeleccion)
+/// The days of the neighbouring months, which fill up the weeks, are not shown.
+void ocultarVecinos(MonthView &mes)
 {
     auto *dias = mes.findChild<QAbstractItemView *>();
-    QPalette paleta = mes.palette();
-    const QColor fondo = paleta.color(QPalette::Active, QPalette::Base);
+    QPalette paleta = dias->palette();
     paleta.setColor(QPalette::Disabled, QPalette::Text, paleta.color(QPalette::Active, QPalette::Window));
-    if (!conSeleccion) {
-        paleta.setColor(QPalette::Highlight, fondo);
-        paleta.setColor(QPalette::HighlightedText, paleta.color(QPalette::Active, QPalette::Text));
-    }
     dias->setPalette(paleta);
 }
 
@@ -49,7 +43,7 @@ CalendarioAnual::CalendarioAnual()
     txtAno.setMaximumWidth(60);
     armarTira();
     setContents(this, Column{
-                          Row{Fields{{u"&Año a visualizar :"_s, Row{txtAno, UpDown1}}}, Space(16),
+                          Row{Fields{{u"Añ&o a visualizar :"_s, Row{txtAno, UpDown1}}}, Space(16),
                               lblHorarios, Stretch()},
                           picFonCals,
                       });
@@ -80,6 +74,7 @@ void CalendarioAnual::armarTira()
         vista.setNavigationBarVisible(false);
         vista.setHorizontalHeaderFormat(QCalendarWidget::SingleLetterDayNames);
         vista.setFixedSize(anchoMes, altoMes);
+        ocultarVecinos(vista);
         auto *columna = new QVBoxLayout;
         columnas->addLayout(columna);
         columna->addWidget(&titulo);
@@ -95,6 +90,15 @@ void CalendarioAnual::setProfesional(qint64 idProfesional)
 {
     idProfesional_ = idProfesional;
     redibujar();
+}
+
+void CalendarioAnual::irA(QDate dia)
+{
+    if (dia.year() == ano_)
+        redibujar();
+    else
+        txtAno.setText(QString::number(dia.year()));
+    picFonCals.horizontalScrollBar()->setValue(lblMes(dia.month() - 1).x());
 }
 
 void CalendarioAnual::redibujar()
@@ -114,7 +118,7 @@ void CalendarioAnual::mostrarMes(int mes)
     vista.setDateTextFormat({}, {});
     vista.setDateRange(primero, ultimo);
     vista.setCurrentPage(ano_, mes + 1);
-    vestir(vista, false);
+    vista.setChoiceShown(false); // every month has a day selected; only the one that was clicked shows it
     QTextCharFormat negrita;
     negrita.setFontWeight(QFont::Bold);
     for (auto dia = dias_.lower_bound(primero); dia != dias_.end() && dia->first <= ultimo; ++dia)
@@ -124,7 +128,7 @@ void CalendarioAnual::mostrarMes(int mes)
 void CalendarioAnual::mostrarDia(int mes, QDate dia)
 {
     for (auto &[indice, vista] : mv1)
-        vestir(*vista, indice == mes);
+        vista->setChoiceShown(indice == mes);
     const auto atencion = dias_.find(dia);
     lblHorarios.setCaption(atencion == dias_.end() ? u"Sin turnos asignados."_s : atencion->second.texto());
 }

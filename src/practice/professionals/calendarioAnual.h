@@ -19,10 +19,11 @@ public:
     CalendarioAnual();
 
     void setProfesional(qint64 idProfesional); ///< 0 for none
-    void redibujar();                          ///< reads the schedule again
+    void irA(QDate dia);                       ///< reads the schedule again, with this month in sight
 
 private:
     void armarTira();
+    void redibujar();
     void mostrarMes(int mes);
     void mostrarDia(int mes, QDate dia);
 

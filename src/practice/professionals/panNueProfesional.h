@@ -27,8 +27,8 @@ protected:
 private:
     enum Campo { cNombre, cDomicilio, cLocalidad, cTelefonos, cantidad };
 
-    bool completo() const;
-    void command1Click();
+    QWidget *faltante();
+    void aceptar();
 
     forms::ControlArray<forms::TextBox> Text1{QStringLiteral("Text1")};
     forms::ComboBox Combo1{QStringLiteral("Combo1"), MODULE11::especialidades, true};

@@ -92,7 +92,7 @@ void panProfesionales::conectar()
     connect(&Option2, &QAbstractButton::clicked, this, [this] { escribir(u"TipoPermiso"_s, u"L"_s); });
     connect(&Option3, &QAbstractButton::clicked, this, [this] { escribir(u"TipoPermiso"_s, u"T"_s); });
     connect(&UpDown2, &UpDown::stepped, this, &panProfesionales::pasoDeInterturnos);
-    connect(&herramienta, &HerramientaHorarios::cambiado, this, [this] { calendario.redibujar(); });
+    connect(&herramienta, &HerramientaHorarios::cambiado, &calendario, &practice::CalendarioAnual::irA);
     connect(&Command1, &QPushButton::clicked, this, &panProfesionales::nuevoClick);
     connect(&Command2, &QPushButton::clicked, this, &panProfesionales::eliminarClick);
     connect(&Command3, &QPushButton::clicked, this, [this] { Data1.updateRecord(); });
@@ -202,11 +202,9 @@ void panProfesionales::eliminarClick()
     }
     if (!MODULE11::PreguntaSiBorra(u"Borra este profesional de la lista"_s))
         return;
-    Data1.updateControls(); // what was typed goes with the row
     MODULE11::BaseDatos.execute(u"Delete * from DisTurnos where idProfesional = "_s +
                                 fila[u"idProfesional"].text());
-    fila.deleteRow();
-    Data1.refresh();
+    Data1.deleteRow();
 }
 
 void panProfesionales::imprimirClick()

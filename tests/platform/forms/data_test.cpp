@@ -6,6 +6,7 @@
 #include "platform/forms/databar.h"
 #include "platform/forms/dbgrid.h"
 
+#include <QAbstractItemModelTester>
 #include <QApplication>
 #include <QMessageBox>
 #include <QTemporaryDir>
@@ -26,8 +27,7 @@ protected:
         database.create(folder.filePath(u"BASE.MDB"_s), u";PWD=prueba"_s);
         if (!database.isOpen())
             database.open(folder.filePath(u"BASE.MDB"_s), false, false, u";PWD=prueba"_s);
-        database.execute(
-            u"CREATE TABLE Articulos (id COUNTER, Nombre TEXT(60), Precio CURRENCY, Facturada BIT, Alta DATE)"_s);
+        createTable();
         add({u"Gasa"_s, u"Jeringa"_s, u"Venda"_s});
         data.setDatabase(&database);
         data.setRecordSource(u"Select * from Articulos order by id"_s);
@@ -37,8 +37,15 @@ protected:
         QObject::connect(&data, &forms::Data::reposition, &data, [this] { ++repositions; });
     }
 
+    void createTable()
+    {
+        database.execute(
+            u"CREATE TABLE Articulos (id COUNTER, Nombre TEXT(60), Precio CURRENCY, Facturada BIT, Alta DATE)"_s);
+    }
+
     void add(const QStringList &names)
     {
+        dao::Batch batch(database);
         dao::Recordset rows = database.openRecordset(u"Articulos"_s);
         for (const QString &text : names) {
             rows.addNew();
@@ -46,6 +53,7 @@ protected:
             rows[u"Precio"] = 10;
             rows.update();
         }
+        batch.commit();
     }
 
     void moveTo(qint64 row)
@@ -185,6 +193,22 @@ TEST_F(DataTest, gridAndDataFollowEachOther)
     EXPECT_EQ(grid.currentRow(), 0);
 }
 
+TEST_F(DataTest, nothingLongerThanItsColumnIsTyped)
+{
+    forms::ComboBox kind(u"Combo1"_s, {u"Gasa"_s}, true);
+    data.bind(kind, u"Nombre"_s);
+    data.refresh();
+    EXPECT_EQ(name.maxLength(), 60);
+    EXPECT_EQ(kind.lineEdit()->maxLength(), 60);
+    forms::DBGrid grid(u"DBGrid1"_s);
+    grid.setEditable(true);
+    grid.setSource(data, {{u"Artículo"_s, u"Nombre"_s}});
+    grid.edit(grid.model()->index(0, 0));
+    auto *cell = qobject_cast<QLineEdit *>(grid.indexWidget(grid.model()->index(0, 0)));
+    ASSERT_TRUE(cell);
+    EXPECT_EQ(cell->maxLength(), 60);
+}
+
 TEST_F(DataTest, gridStaysOnARowThatCannotBeWritten)
 {
     forms::DBGrid grid(u"DBGrid1"_s);
@@ -271,4 +295,58 @@ TEST_F(DataTest, gridOutlivesItsData)
         EXPECT_EQ(grid.model()->rowCount(), 3);
     }
     EXPECT_EQ(grid.model(), nullptr);
+}
+
+/// Rows that change under a grid, and a source that fails while they are counted: what the grid shows as
+/// chosen and what a command would work on are always the same row, or both are none.
+TEST_F(DataTest, gridAndCurrentRowNeverPart)
+{
+    QStringList names;
+    for (int i = 0; i < 100; ++i) // more than are read at once, so that counting asks the source
+        names += u"Artículo %1"_s.arg(i);
+    add(names);
+    data.refresh();
+    forms::DBGrid grid(u"DBGrid1"_s);
+    grid.setSource(data, {{u"Artículo"_s, u"Nombre"_s}});
+    const QAbstractItemModelTester contract(grid.model(),
+                                            QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const auto together = [&] {
+        const int current = data.hasRow() ? static_cast<int>(data.recordset().absolutePosition()) : -1;
+        return grid.currentRow() == current && grid.selectionModel()->hasSelection() == (current >= 0);
+    };
+    EXPECT_TRUE(together());
+    moveTo(80);
+    EXPECT_TRUE(together());
+    data.deleteRow();
+    EXPECT_TRUE(together());
+    data.change([](dao::Recordset &rows) {
+        rows.addNew();
+        rows.update();
+        rows.setBookmark(rows.lastModified());
+    });
+    EXPECT_TRUE(together());
+    grid.setCurrentRow(20);
+    EXPECT_TRUE(together());
+
+    EXPECT_NE(errorOf([&] {
+                  data.change([&](dao::Recordset &rows) {
+                      rows.requery();
+                      rows.moveNext();
+                      database.execute(u"DROP TABLE Articulos"_s);
+                  });
+              }),
+              0);
+    EXPECT_TRUE(together());
+    EXPECT_FALSE(data.hasRow());
+    EXPECT_EQ(name.text(), QString());
+    EXPECT_EQ(errorOf([&] { data.deleteRow(); }), dao::Error::NoCurrentRecord);
+
+    createTable();
+    add(names);
+    data.refresh();
+    EXPECT_EQ(grid.model()->rowCount(), names.size());
+    EXPECT_TRUE(together());
+    grid.setCurrentRow(70);
+    const QString shown = grid.model()->index(70, 0).data().toString();
+    EXPECT_EQ(name.text(), shown);
 }

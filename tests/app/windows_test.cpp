@@ -1,0 +1,274 @@
+#include "clinical/patients/panComFliar.h"
+#include "clinical/patients/panNuePaciente.h"
+#include "clinical/patients/panSelPaciente.h"
+#include "clinical/visits/panNueConsulta.h"
+#include "core/security/panNueUsuario.h"
+#include "core/services/panListados.h"
+#include "core/session/screens.h"
+#include "core/windows/Vademecum.h"
+#include "core/windows/panIngresoUsuario.h"
+#include "core/windows/panSelProf.h"
+#include "delivered.h"
+#include "paediatrics/anthropometry/panMedidas.h"
+#include "platform/forms/application.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
+#include "platform/forms/wrong.h"
+#include "practice/appointments/panCambiaEstadoTurno.h"
+#include "practice/appointments/panDispTurnos.h"
+#include "practice/appointments/panNueTurno.h"
+#include "practice/professionals/panNueProfesional.h"
+#include "subsystems.h"
+
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMenuBar>
+#include <QStatusTipEvent>
+#include <QTimer>
+
+#include <map>
+#include <set>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+using Opening = std::function<std::unique_ptr<forms::Form>()>;
+
+template <class Window>
+Opening opening()
+{
+    return [] { return std::make_unique<Window>(); };
+}
+
+/// Every window that a menu or another subsystem opens, and the dialogues behind them.
+std::map<QString, Opening> windows()
+{
+    std::map<QString, Opening> all = {
+        {u"panNuePaciente"_s, opening<panNuePaciente>()},
+        {u"panComFliar"_s, opening<panComFliar>()},
+        {u"panSelPaciente"_s, opening<panSelPaciente>()},
+        {u"panNueConsulta"_s, opening<panNueConsulta>()},
+        {u"panNueUsuario"_s, opening<panNueUsuario>()},
+        {u"panIngresoUsuario"_s, opening<panIngresoUsuario>()},
+        {u"panSelProf"_s, opening<panSelProf>()},
+        {u"panMedidas"_s, opening<panMedidas>()},
+        {u"panCambiaEstadoTurno"_s, opening<panCambiaEstadoTurno>()},
+        {u"panDispTurnos"_s, [] { return std::make_unique<panDispTurnos>(basic::today(), 1); }},
+        {u"panNueTurno"_s, opening<panNueTurno>()},
+        {u"panNueProfesional"_s, opening<panNueProfesional>()},
+    };
+    for (const std::string_view name : screens::windows) {
+        const auto window = screens::Window::find(QString::fromLatin1(name.data(), qsizetype(name.size())));
+        if (screens::has(*window))
+            all[window->text()] = [window = *window] { return screens::make(window); };
+    }
+    return all;
+}
+
+/// The main window's area, with the patient and the professional that windows ask for.
+class WindowsTest : public DeliveredBase
+{
+protected:
+    void SetUp() override
+    {
+        DeliveredBase::SetUp();
+        qputenv("SANIRELL_CARPETA", DELIVERED); // its pictures
+        static const bool prepared = [] {
+            forms::Application::dress();
+            app::prepare();
+            return true;
+        }();
+        ASSERT_TRUE(prepared);
+        run({"INSERT INTO Profesionales (idProfesional, Nombre, TipoPermiso) VALUES (1, 'Dr <Su Nombre>', 'T')",
+             "INSERT INTO Pacientes (Numero, [Apellido y Nombres], idProfesional, Sexo, [Fecha de Nacimiento]) "
+             "VALUES (1, 'Álvarez Mía', 0, 'Mujer', cdate('15/03/2023'))",
+             "INSERT INTO Consulta (Paciente, Fecha, Motivo) VALUES (1, cdate('15/03/2024'), 'Control')"});
+        main.setCentralWidget(area);
+        forms::setChildArea(area);
+    }
+    void TearDown() override
+    {
+        forms::setChildArea(nullptr);
+        qunsetenv("SANIRELL_CARPETA");
+        DeliveredBase::TearDown();
+    }
+
+    /// Calls `look` with each window, open in an area of this size.
+    void inEach(QSize room, const std::function<void(forms::Form &)> &look)
+    {
+        main.resize(room);
+        main.show();
+        QCoreApplication::processEvents();
+        for (const auto &[name, open] : windows()) {
+            SCOPED_TRACE(name.toStdString());
+            forms::Form *form = open().release();
+            form->setTag(u"1"_s);
+            form->showChild();
+            QCoreApplication::processEvents();
+            look(*form);
+            form->unload();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
+    }
+
+    QMainWindow main;
+    QMdiArea *area = new QMdiArea;
+};
+
+/// What a person may press with Alt where it is in sight.
+QString mnemonicText(const QWidget &widget)
+{
+    if (const auto *label = qobject_cast<const QLabel *>(&widget))
+        return label->buddy() && label->buddy()->isVisible() ? label->text() : QString();
+    if (const auto *button = qobject_cast<const QAbstractButton *>(&widget))
+        return button->text();
+    return {};
+}
+
+/// The letters that lead to two controls in sight at once.
+QStringList doubledMnemonics(const forms::Form &form)
+{
+    std::map<QChar, QStringList> uses;
+    const auto note = [&uses](const QString &text) {
+        if (const QKeySequence keys = QKeySequence::mnemonic(text); !keys.isEmpty())
+            uses[keys.toString().back()] += text;
+    };
+    for (const QWidget *widget : form.findChildren<QWidget *>()) {
+        if (!widget->isVisible())
+            continue;
+        note(mnemonicText(*widget));
+        if (const auto *tabs = qobject_cast<const QTabWidget *>(widget))
+            for (int page = 0; page < tabs->count(); ++page)
+                note(tabs->tabText(page));
+    }
+    QStringList doubled;
+    for (const auto &[letter, texts] : uses)
+        if (texts.size() > 1)
+            doubled += texts.join(u" / "_s);
+    return doubled;
+}
+
+void pressTab(QWidget &window)
+{
+    QWidget *receiver = window.focusWidget() ? window.focusWidget() : &window;
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier, u"\t"_s);
+    QCoreApplication::sendEvent(receiver, &press);
+}
+
+/// The fields and buttons in sight that the Tab key does not come to. Of a group of options it comes to the
+/// chosen one.
+QStringList outOfReach(forms::Form &form)
+{
+    std::set<QWidget *> missed;
+    for (QWidget *widget : form.findChildren<QWidget *>()) {
+        if (const auto *option = qobject_cast<QRadioButton *>(widget); option && !option->isChecked())
+            continue;
+        const bool composed = qobject_cast<QCalendarWidget *>(widget->parentWidget()) != nullptr;
+        if (widget->isVisible() && widget->isEnabled() && !composed && !widget->focusProxy() &&
+            (widget->focusPolicy() & Qt::TabFocus) && !widget->objectName().startsWith(u"qt_"))
+            missed.insert(widget);
+    }
+    for (qsizetype steps = 2 * qsizetype(missed.size()) + 20; steps > 0 && !missed.empty(); --steps) {
+        QWidget *reached = form.focusWidget();
+        missed.erase(reached);
+        if (qobject_cast<QRadioButton *>(reached)) // from there the arrows lead to the others
+            for (QWidget *option : reached->parentWidget()->findChildren<QRadioButton *>())
+                missed.erase(option);
+        pressTab(form);
+    }
+    QStringList names;
+    for (const QWidget *widget : missed)
+        names += u"%1 %2"_s.arg(QString::fromLatin1(widget->metaObject()->className()), widget->objectName());
+    return names;
+}
+
+void onEachPage(forms::Form &form, const std::function<void()> &look)
+{
+    look();
+    for (auto *tabs : form.findChildren<forms::SSTab *>())
+        for (int page = 0; tabs->isVisible() && tabs->widget(page) && page < 9; ++page) {
+            tabs->setCurrentIndex(page);
+            QCoreApplication::processEvents();
+            look();
+        }
+}
+
+} // namespace
+
+TEST_F(WindowsTest, everyLetterLeadsToOneControlAndTabToAll)
+{
+    inEach({1300, 900}, [](forms::Form &form) {
+        QStringList doubled, missed;
+        onEachPage(form, [&] {
+            doubled += doubledMnemonics(form);
+            missed += outOfReach(form);
+        });
+        doubled.removeDuplicates();
+        missed.removeDuplicates();
+        EXPECT_EQ(doubled.join(u"; "_s).toStdString(), "");
+        EXPECT_EQ(missed.join(u"; "_s).toStdString(), "");
+    });
+}
+
+TEST_F(WindowsTest, aListIsComputedOnceFormulaAndColumnAreChosen)
+{
+    run({"INSERT INTO Medidas (Paciente, fecha, Peso) VALUES (1, cdate('15/03/2024'), 9000)",
+         "INSERT INTO Medidas (Paciente, fecha, Peso) VALUES (1, cdate('16/03/2024'), 10000)"});
+    panListados list(u"Select Peso from Medidas"_s, u"Medidas"_s);
+    auto *formula = list.findChild<forms::ComboBox *>(u"Combo1"_s);
+    auto *column = list.findChild<forms::ComboBox *>(u"Combo2"_s);
+    auto *compute = list.findChild<forms::CommandButton *>(u"Command1"_s);
+    QTimer::singleShot(0, &list, [] { QApplication::activeModalWidget()->close(); });
+    compute->click();
+    EXPECT_TRUE(forms::isMarkedWrong(*formula));
+    formula->setValue(u"Promedio"_s);
+    column->setValue(u"Peso"_s);
+    compute->click();
+    EXPECT_EQ(list.findChild<forms::Label *>(u"Label1"_s)->caption().toStdString(), "9.500,00");
+}
+
+TEST_F(WindowsTest, theMainWindowKeepsItsStatusAndSaysWhyAMenuDoesNothing)
+{
+    Vademecum window;
+    window.ponerCaption();
+    const auto *bar = window.findChild<QStatusBar *>();
+    const QString status = bar->currentMessage();
+    EXPECT_TRUE(status.contains(MODULE11::DrActual));
+    QStatusTipEvent passing{QString()};
+    QCoreApplication::sendEvent(&window, &passing);
+    EXPECT_EQ(bar->currentMessage(), status);
+
+    std::map<QString, QString> notes; // by the menu's caption
+    for (QMenu *menu : window.menuBar()->findChildren<QMenu *>()) {
+        emit menu->aboutToShow();
+        const QAction *note = menu->actions().value(0);
+        notes[menu->title().remove(u'&')] =
+            note->isVisible() && !note->isEnabled() ? note->text() : QString();
+    }
+    EXPECT_EQ(notes[u"Archivos"_s], QString());
+    EXPECT_EQ(notes[u"Paciente"_s], u"Abra una ficha"_s);
+    EXPECT_EQ(notes[u"Odontología"_s], QString()) << "an item, no menu";
+    EXPECT_EQ(notes[u"Oftalmología"_s], u"Todavía no está en esta versión"_s);
+}
+
+/// As large as the screen leaves it, on a small one and on one of twice the scale: the window lies inside and
+/// its last row, which accepts and closes, is in sight.
+TEST_F(WindowsTest, theButtonsThatCloseAreInSightOnASmallScreen)
+{
+    for (const QSize room : {QSize(1366, 600), QSize(960, 420)})
+        inEach(room, [&](forms::Form &form) {
+            const QRect inside(QPoint(), area->viewport()->size());
+            EXPECT_TRUE(inside.contains(form.parentWidget()->geometry()));
+            for (const auto *button : form.findChildren<forms::CommandButton *>()) {
+                static const QStringList closing = {u"&Aceptar"_s, u"&Cancelar"_s, u"&Cerrar"_s, u"&Salir"_s};
+                if (!closing.contains(button->text()))
+                    continue;
+                EXPECT_FALSE(button->visibleRegion().isEmpty()) << button->text().toStdString();
+                EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect())
+                    << button->text().toStdString();
+            }
+        });
+}
