@@ -109,6 +109,8 @@ double best(const std::vector<double> &values)
     return *std::min_element(values.begin(), values.end());
 }
 
+bool everythingWithin = true;
+
 /// Runs both sides alternately, so that what disturbs the machine disturbs both.
 void compare(benchmark::State &state, double allowed, const std::function<void()> &layer,
              const std::function<void()> &bare, Measure measure = Measure::Processor)
@@ -126,6 +128,7 @@ void compare(benchmark::State &state, double allowed, const std::function<void()
     state.counters["engine_ms"] = best(engine);
     state.counters["ratio"] = best(own) / best(engine);
     state.counters["allowed"] = allowed;
+    everythingWithin = everythingWithin && best(own) <= allowed * best(engine);
 }
 
 const QString screenQuery = QStringLiteral(
@@ -380,4 +383,11 @@ BENCHMARK(openAndMoveLast)->UseManualTime()->Iterations(9)->Unit(benchmark::kMil
 BENCHMARK(walk)->UseManualTime()->Iterations(60)->Unit(benchmark::kMillisecond);
 BENCHMARK(findLastHit)->UseManualTime()->Iterations(9)->Unit(benchmark::kMillisecond);
 BENCHMARK(addRows)->UseManualTime()->Iterations(10)->Unit(benchmark::kMillisecond);
-BENCHMARK_MAIN();
+
+/// Ends non-zero when the layer took longer than it is allowed to.
+int main(int argc, char **argv)
+{
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return everythingWithin ? 0 : 1;
+}
