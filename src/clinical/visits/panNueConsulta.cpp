@@ -90,7 +90,7 @@ void panNueConsulta::disponer()
 
 Item panNueConsulta::datosDeLaVisita()
 {
-    mDato(cHora).setMaximumWidth(70);
+    mDato(cHora).setFixedWidth(60);
     text9.setFixedHeight(text9.fontMetrics().lineSpacing() * 2 + 12);
     return Group(u"Consulta Resumida"_s,
                  Fields{{u"&Fecha :"_s, Row{mFecha, Fields{{u"&Hora :"_s, mDato(cHora)}},
