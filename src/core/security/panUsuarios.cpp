@@ -22,7 +22,7 @@ panUsuarios::panUsuarios() : Form(u"panUsuarios"_s)
 {
     setWindowTitle(u"Usuarios del sistema"_s);
     DBGrid1.setSource(Data1, {{u"Nombre"_s, u"Nombre"_s, {}, 240},
-                              {u"Clave"_s, u"Clave"_s, {}, 180},
+                              {u"Clave"_s, u"Clave"_s, {}, 180, true},
                               {u"Nivel"_s, u"Nivel"_s, {}, 80},
                               {u"Tipo"_s, u"Tipo"_s, {}, 80}});
     DBGrid2.setSource(Data2, {{u"Fecha"_s, u"Fecha"_s, u"dd/mm/yyyy"_s, 110},
@@ -32,6 +32,8 @@ panUsuarios::panUsuarios() : Form(u"panUsuarios"_s)
     Data1.bind(Text1, u"Nombre"_s);
     Data1.bind(Text2, u"Nivel"_s);
     Data1.bind(Text3, u"Clave"_s);
+    Text3.setSecret();
+    connect(&Text3, &TextBox::secretShown, &DBGrid1, &DBGrid::setSecretsShown);
     Text2.setMaximumWidth(70);
     Combo2.addItems(MODULE11::tiposDeUsuario);
     // The printed list waits for the report service.
