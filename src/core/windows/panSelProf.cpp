@@ -36,7 +36,6 @@ void panSelProf::load()
     const bool hay = Data1.hasRow();
     Command1.setEnabled(hay);
     lblVacia.setVisible(!hay);
-    DBGrid1.setVisible(hay);
 }
 
 QString panSelProf::nombre()

@@ -15,6 +15,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace forms;
+using practice::HerramientaHorarios;
 
 namespace
 {

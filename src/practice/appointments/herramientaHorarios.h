@@ -7,6 +7,9 @@
 #include <QProgressBar>
 #include <QWidget>
 
+namespace practice
+{
+
 /// The working-hours tool of one professional: writes the hours and the free places of chosen weekdays over a
 /// period, and takes them away. Asks and tells in boxes of its own.
 class HerramientaHorarios : public QWidget
@@ -48,3 +51,5 @@ private:
                                   QStringLiteral("quitar")};
     QProgressBar ProgressBar1;
 };
+
+} // namespace practice

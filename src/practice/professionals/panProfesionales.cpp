@@ -92,7 +92,8 @@ void panProfesionales::conectar()
     connect(&Option2, &QAbstractButton::clicked, this, [this] { escribir(u"TipoPermiso"_s, u"L"_s); });
     connect(&Option3, &QAbstractButton::clicked, this, [this] { escribir(u"TipoPermiso"_s, u"T"_s); });
     connect(&UpDown2, &UpDown::stepped, this, &panProfesionales::pasoDeInterturnos);
-    connect(&herramienta, &HerramientaHorarios::cambiado, &calendario, &practice::CalendarioAnual::irA);
+    connect(&herramienta, &practice::HerramientaHorarios::cambiado, &calendario,
+            &practice::CalendarioAnual::irA);
     connect(&Command1, &QPushButton::clicked, this, &panProfesionales::nuevoClick);
     connect(&Command2, &QPushButton::clicked, this, &panProfesionales::eliminarClick);
     connect(&Command3, &QPushButton::clicked, this, [this] { Data1.updateRecord(); });

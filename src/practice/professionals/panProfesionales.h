@@ -61,7 +61,7 @@ private:
     forms::UpDown UpDown2{QStringLiteral("UpDown2")};
     forms::Label Label9{QStringLiteral("Label9"),
                         QStringLiteral("Utilize el formato HH:mm:ss en su configuracion de Windows")};
-    HerramientaHorarios herramienta{Text2};
+    practice::HerramientaHorarios herramienta{Text2};
     practice::CalendarioAnual calendario;
 
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Nuevo..."),
