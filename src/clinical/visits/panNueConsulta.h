@@ -32,7 +32,7 @@ private:
     bool enBlanco() const;
     void irAlCampoSiguiente();
     void anotarNormal();
-    void command7Click();
+    void aceptar();
 
     forms::Label lblPaciente{QStringLiteral("lblPaciente")};
     forms::DTPicker mFecha{QStringLiteral("mFecha")};

@@ -33,8 +33,8 @@ private:
     horarios::Esquema esquema() const;
     bool hayProfesional() const;
     void trabajar(const std::function<void(const horarios::Avance &)> &trabajo);
-    void command7Click();
-    void command8Click();
+    void aplicar();
+    void quitar();
 
     forms::TextBox &intervalo_;
     qint64 idProfesional_ = 0;
