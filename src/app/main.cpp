@@ -6,6 +6,8 @@
 #include "platform/forms/application.h"
 #include "platform/settings/settings.h"
 
+#include <QScreen>
+
 #include <sys/prctl.h>
 
 using namespace Qt::StringLiterals;
@@ -22,7 +24,11 @@ int main(int argc, char **argv)
     // Start-up shows windows of its own, so it runs inside the event loop.
     const QStringList words = QApplication::arguments();
     std::unique_ptr<Vademecum> window;
-    QMetaObject::invokeMethod(
-        &application, [&] { window = MODULE11::iniciar(words.value(1)); }, Qt::QueuedConnection);
+    const auto start = [&] {
+        window = MODULE11::iniciar(words.value(1));
+        if (window && !window->screen()->availableGeometry().contains(window->frameGeometry()))
+            window->showMaximized(); // on a small screen, or one of a large scale
+    };
+    QMetaObject::invokeMethod(&application, start, Qt::QueuedConnection);
     return QApplication::exec();
 }

@@ -12,6 +12,7 @@
 #include "paediatrics/anthropometry/panMedidas.h"
 #include "platform/forms/application.h"
 #include "platform/forms/controls.h"
+#include "platform/forms/dbgrid.h"
 #include "platform/forms/form.h"
 #include "platform/forms/wrong.h"
 #include "practice/appointments/panCambiaEstadoTurno.h"
@@ -252,6 +253,28 @@ TEST_F(WindowsTest, theMainWindowKeepsItsStatusAndSaysWhyAMenuDoesNothing)
     EXPECT_EQ(notes[u"Paciente"_s], u"Abra una ficha"_s);
     EXPECT_EQ(notes[u"Odontología"_s], QString()) << "an item, no menu";
     EXPECT_EQ(notes[u"Oftalmología"_s], u"Todavía no está en esta versión"_s);
+}
+
+TEST_F(WindowsTest, passwordsAreSeenOnlyWhenAskedFor)
+{
+    run({"INSERT INTO Usuarios (Nombre, Clave, Nivel, Tipo) VALUES ('ana', 'secreta', 2, 'M')"});
+    main.resize(1300, 900);
+    main.show();
+    auto *users = screens::make("panUsuarios").release();
+    users->showChild();
+    auto *grid = users->findChild<forms::DBGrid *>(u"DBGrid1"_s);
+    const auto inSight = [&] {
+        return grid->model()->index(grid->model()->rowCount() - 1, 1).data().toString();
+    };
+    auto *field = users->findChild<forms::TextBox *>(u"Text3"_s);
+    grid->setCurrentRow(grid->model()->rowCount() - 1);
+    EXPECT_EQ(field->text(), u"secreta"_s);
+    EXPECT_EQ(field->echoMode(), QLineEdit::Password);
+    EXPECT_FALSE(inSight().contains(u"secreta"_s));
+    field->actions().constFirst()->trigger();
+    EXPECT_EQ(field->echoMode(), QLineEdit::Normal);
+    EXPECT_EQ(inSight(), u"secreta"_s);
+    users->unload();
 }
 
 /// As large as the screen leaves it, on a small one and on one of twice the scale: the window lies inside and

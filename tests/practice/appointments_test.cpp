@@ -208,9 +208,9 @@ TEST_F(AppointmentBook, toolAsksBeforeItWritesAndResetsItsDays)
 {
     forms::TextBox interval(u"Text2"_s);
     interval.setText(u"25"_s);
-    HerramientaHorarios tool(interval);
+    practice::HerramientaHorarios tool(interval);
     int changed = 0;
-    QObject::connect(&tool, &HerramientaHorarios::cambiado, &tool, [&] { ++changed; });
+    QObject::connect(&tool, &practice::HerramientaHorarios::cambiado, &tool, [&] { ++changed; });
     const auto press = [&](const char *name, const QStringList &captions) {
         Answers answers(captions);
         in<QAbstractButton>(tool, name)->click();

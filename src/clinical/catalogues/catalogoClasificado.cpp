@@ -5,6 +5,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace forms;
+using catalogos::CatalogoClasificado;
 
 namespace
 {

@@ -2,6 +2,9 @@
 
 #include "core/records/catalogo.h"
 
+namespace catalogos
+{
+
 /// A catalogue whose rows have a classification, by which the list can be narrowed. The classifications are a
 /// table of their own that grows from the filter's text.
 class CatalogoClasificado : public records::Catalogo
@@ -32,3 +35,5 @@ private:
     QString clasificaciones_; ///< their table
     QString filtro_;
 };
+
+} // namespace catalogos

@@ -4,12 +4,13 @@ using namespace Qt::StringLiterals;
 using namespace forms;
 
 panDiagnosticos::panDiagnosticos()
-    : CatalogoClasificado(u"panDiagnosticos"_s,
-                          {.nombre = u"DIAGPERSONALES"_s,
-                           .id = u"idDiagPersonales"_s,
-                           .preguntaDeBaja = u"Borra este Diagnóstico de la tabla"_s,
-                           .campos = {{u"Descripcion"_s, 255}, {u"Observaciones"_s, 255}, {u"Sintomas"_s}}},
-                          u"CLASPERSONALES"_s)
+    : catalogos::CatalogoClasificado(
+          u"panDiagnosticos"_s,
+          {.nombre = u"DIAGPERSONALES"_s,
+           .id = u"idDiagPersonales"_s,
+           .preguntaDeBaja = u"Borra este Diagnóstico de la tabla"_s,
+           .campos = {{u"Descripcion"_s, 255}, {u"Observaciones"_s, 255}, {u"Sintomas"_s}}},
+          u"CLASPERSONALES"_s)
 {
     setWindowTitle(u"Pantalla de Diagnósticos patológicos"_s);
     setContents(this, Column{
@@ -30,7 +31,7 @@ void panDiagnosticos::soloMantenimiento()
 
 void panDiagnosticos::preparar()
 {
-    CatalogoClasificado::preparar();
+    catalogos::CatalogoClasificado::preparar();
     if (!tag().isEmpty())
         ponerFiltro(tag());
 }

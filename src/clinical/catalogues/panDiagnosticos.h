@@ -4,7 +4,7 @@
 
 /// "Pantalla de Diagnósticos patológicos": the practice's own list of diagnoses. A classification in the
 /// window's tag narrows the list from the start.
-class panDiagnosticos : public CatalogoClasificado
+class panDiagnosticos : public catalogos::CatalogoClasificado
 {
     Q_OBJECT
 public:

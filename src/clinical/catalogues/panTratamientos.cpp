@@ -37,16 +37,16 @@ QImage leer(const QString &archivo)
 } // namespace
 
 panTratamientos::panTratamientos()
-    : CatalogoClasificado(u"panTratamientos"_s,
-                          {.nombre = u"Tratamientos"_s,
-                           .id = u"idTratamiento"_s,
-                           .preguntaDeBaja = u"Borra este tratamiento de la tabla"_s,
-                           .campos = {{u"Descripcion"_s, 255},
-                                      {u"Droga"_s, 100},
-                                      {u"Dosis"_s, 30},
-                                      {u"Intervalo"_s, 30},
-                                      {u"Lapso"_s, 30}}},
-                          u"ClasTratamiento"_s)
+    : catalogos::CatalogoClasificado(u"panTratamientos"_s,
+                                     {.nombre = u"Tratamientos"_s,
+                                      .id = u"idTratamiento"_s,
+                                      .preguntaDeBaja = u"Borra este tratamiento de la tabla"_s,
+                                      .campos = {{u"Descripcion"_s, 255},
+                                                 {u"Droga"_s, 100},
+                                                 {u"Dosis"_s, 30},
+                                                 {u"Intervalo"_s, 30},
+                                                 {u"Lapso"_s, 30}}},
+                                     u"ClasTratamiento"_s)
 {
     setWindowTitle(u"Tratamientos y medicación"_s);
     Label5.setReadOnly(true);
@@ -85,7 +85,7 @@ void panTratamientos::setPaciente(const QString &numero)
 
 void panTratamientos::activate()
 {
-    CatalogoClasificado::activate();
+    catalogos::CatalogoClasificado::activate();
     if (tecleado_)
         return;
     tecleado_ = true;
@@ -105,7 +105,7 @@ void panTratamientos::teclear(const QString &nombre)
 bool panTratamientos::queryUnload()
 {
     setPaciente({});
-    return CatalogoClasificado::queryUnload();
+    return catalogos::CatalogoClasificado::queryUnload();
 }
 
 void panTratamientos::listar(dao::Recordset &filas)
@@ -117,7 +117,7 @@ void panTratamientos::listar(dao::Recordset &filas)
 
 void panTratamientos::mostrar(dao::Recordset *fila)
 {
-    CatalogoClasificado::mostrar(fila);
+    catalogos::CatalogoClasificado::mostrar(fila);
     mostrarProducto(fila);
     SSPanel1.setCaption(fila ? catalogos::dosisParaElPaciente(forms::tag(&mDato(cDosis)), (*fila)[u"Dosis"],
                                                               (*fila)[u"Intervalo"])
@@ -134,7 +134,7 @@ void panTratamientos::mostrarProducto(dao::Recordset *fila)
 void panTratamientos::nuevo()
 {
     SSTab1.setCurrentIndex(0); // where the name is written
-    CatalogoClasificado::nuevo();
+    catalogos::CatalogoClasificado::nuevo();
 }
 
 /// Below the program's folder where it is no full path. A file that is no picture is as one that is missing.

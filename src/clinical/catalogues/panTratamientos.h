@@ -4,7 +4,7 @@
 
 /// "Tratamientos y medicación": the treatments, the product of each, and the dose for the patient whose
 /// number stands in the tag of mDato(2). A name in the window's tag is gone to when it opens.
-class panTratamientos : public CatalogoClasificado
+class panTratamientos : public catalogos::CatalogoClasificado
 {
     Q_OBJECT
 public:

@@ -70,9 +70,9 @@ panEditHC::panEditHC() : Form(u"panEditHC"_s)
         guardarAjuste(ajusteFuente, familia);
         aplicarAspecto();
     });
-    connect(&Command1, &QPushButton::clicked, this, &panEditHC::command1Click);
-    connect(&Command2, &QPushButton::clicked, this, &panEditHC::command2Click);
-    connect(&Command3, &QPushButton::clicked, this, &panEditHC::command3Click);
+    connect(&Command1, &QPushButton::clicked, this, &panEditHC::abrirOtra);
+    connect(&Command2, &QPushButton::clicked, this, &panEditHC::imprimir);
+    connect(&Command3, &QPushButton::clicked, this, &panEditHC::guardar);
     connect(&Command4, &QPushButton::clicked, &RT1, &QPlainTextEdit::cut);
     connect(&Command5, &QPushButton::clicked, &RT1, &QPlainTextEdit::copy);
     connect(&Command6, &QPushButton::clicked, &RT1, &QPlainTextEdit::paste);
@@ -150,7 +150,7 @@ bool panEditHC::queryUnload()
     return dejarLosCambios();
 }
 
-void panEditHC::command1Click()
+void panEditHC::abrirOtra()
 {
     const std::optional<qint64> numero = EligePaciente();
     if (!numero || !dejarLosCambios())
@@ -160,7 +160,7 @@ void panEditHC::command1Click()
     cargar();
 }
 
-void panEditHC::command2Click()
+void panEditHC::imprimir()
 {
     printing::Choice impresora;
     if (!printing::defaultChoice(impresora))
@@ -173,7 +173,7 @@ void panEditHC::command2Click()
     documento.endDoc();
 }
 
-void panEditHC::command3Click()
+void panEditHC::guardar()
 {
     auto paciente = services::paciente(tag());
     if (!paciente) {

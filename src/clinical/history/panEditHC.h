@@ -21,9 +21,9 @@ private:
     void aplicarAspecto();
     void elegirColor(const QString &ajuste, const QString &titulo);
     bool dejarLosCambios();
-    void command1Click();
-    void command2Click();
-    void command3Click();
+    void abrirOtra();
+    void imprimir();
+    void guardar();
 
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Abrir otra Historia Clínica"),
                                   QStringLiteral("abrir")};

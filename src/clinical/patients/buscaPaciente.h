@@ -5,7 +5,7 @@
 #include <optional>
 
 /// "Buscar Paciente": a name's beginning or a number. Answers "PORAP" or "PORHI".
-class buscaPaciente : public DialogoBuscar
+class buscaPaciente : public services::DialogoBuscar
 {
     Q_OBJECT
 public:

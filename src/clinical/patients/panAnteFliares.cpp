@@ -14,9 +14,9 @@ panAnteFliares::panAnteFliares() : Form(u"panAnteFliares"_s)
     Command1.setDefault(true);
     setContents(this, Column{Label1, Expanding(List1), Row{Command3, Stretch(), Command1, Command2}});
     resize(440, 380);
-    connect(&Command1, &QPushButton::clicked, this, &panAnteFliares::command1Click);
+    connect(&Command1, &QPushButton::clicked, this, &panAnteFliares::aceptar);
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
-    connect(&Command3, &QPushButton::clicked, this, &panAnteFliares::command3Click);
+    connect(&Command3, &QPushButton::clicked, this, &panAnteFliares::agregar);
 }
 
 void panAnteFliares::load()
@@ -46,7 +46,7 @@ QStringList panAnteFliares::marcados() const
     return textos;
 }
 
-void panAnteFliares::command1Click()
+void panAnteFliares::aceptar()
 {
     if (marcados().isEmpty())
         msgBox(u"Debe seleccionar al menos un ítem !!"_s, Icon::Exclamation, u"Atención"_s);
@@ -54,7 +54,7 @@ void panAnteFliares::command1Click()
         answer(u"SI"_s);
 }
 
-void panAnteFliares::command3Click()
+void panAnteFliares::agregar()
 {
     const auto nombre = inputBox(u"Ingrese el nombre de un nuevo antecendente psicologico familiar:"_s,
                                  u"Antec. Fliares."_s, {}, 100);

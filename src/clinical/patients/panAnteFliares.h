@@ -17,8 +17,8 @@ protected:
 
 private:
     void llenar();
-    void command1Click();
-    void command3Click();
+    void aceptar();
+    void agregar();
 
     forms::Label Label1{
         QStringLiteral("Label1"),

@@ -52,8 +52,8 @@ panComFliar::panComFliar() : Form(u"panComFliar"_s)
                           Row{Stretch(), Command1, Command2},
                       });
     setMinimumWidth(900);
-    connect(&Command7, &QPushButton::clicked, this, &panComFliar::command7Click);
-    connect(&Command8, &QPushButton::clicked, this, &panComFliar::command8Click);
+    connect(&Command7, &QPushButton::clicked, this, &panComFliar::agregarPatologias);
+    connect(&Command8, &QPushButton::clicked, this, &panComFliar::quitarPatologia);
     connect(&Command1, &QPushButton::clicked, this, [this] { answer(u"SI"_s); });
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
 }
@@ -63,7 +63,7 @@ basic::Value panComFliar::nacimiento(const DTPicker &fecha) const
     return fecha.value().date() == sinFecha ? basic::Value(basic::Null{}) : basic::Value(fecha.value());
 }
 
-void panComFliar::command7Click()
+void panComFliar::agregarPatologias()
 {
     panAnteFliares seleccion;
     seleccion.showModal();
@@ -71,7 +71,7 @@ void panComFliar::command7Click()
         List1.addItems(seleccion.marcados());
 }
 
-void panComFliar::command8Click()
+void panComFliar::quitarPatologia()
 {
     delete List1.takeItem(List1.currentRow());
 }

@@ -27,8 +27,8 @@ private:
     enum Progenitor { padre, madre };
 
     basic::Value nacimiento(const forms::DTPicker &fecha) const; ///< Null while it stands at 01/01/1900
-    void command7Click();
-    void command8Click();
+    void agregarPatologias();
+    void quitarPatologia();
 
     forms::ControlArray<forms::TextBox> Text1{QStringLiteral("Text1")};
     forms::DTPicker mFPa{QStringLiteral("mFPa")};

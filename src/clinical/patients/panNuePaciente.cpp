@@ -63,10 +63,10 @@ panNuePaciente::panNuePaciente() : Form(u"panNuePaciente"_s)
         control->setEnabled(false);
         connect(&Check1, &QCheckBox::toggled, control, &QWidget::setEnabled);
     }
-    connect(&Command1, &QPushButton::clicked, this, &panNuePaciente::command1Click);
+    connect(&Command1, &QPushButton::clicked, this, &panNuePaciente::aceptar);
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
     connect(&Command4, &QPushButton::clicked, this, [this] { familia_.showModal(); });
-    connect(&Command5, &QPushButton::clicked, this, &panNuePaciente::command5Click);
+    connect(&Command5, &QPushButton::clicked, this, &panNuePaciente::imprimir);
 }
 
 void panNuePaciente::load()
@@ -116,7 +116,7 @@ bool panNuePaciente::numeroAceptado()
     return false;
 }
 
-void panNuePaciente::command1Click()
+void panNuePaciente::aceptar()
 {
     if (!numeroAceptado())
         return;
@@ -128,7 +128,7 @@ void panNuePaciente::command1Click()
     answer(u"SI"_s);
 }
 
-void panNuePaciente::command5Click()
+void panNuePaciente::imprimir()
 {
     printing::Choice impresora;
     if (!MODULE11::Pregunta(u"Imprime la ficha"_s) || !printing::defaultChoice(impresora))

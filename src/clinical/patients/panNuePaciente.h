@@ -58,8 +58,8 @@ private:
 
     void ofrecerNumero();
     bool numeroAceptado();
-    void command1Click();
-    void command5Click();
+    void aceptar();
+    void imprimir();
 
     forms::ControlArray<forms::TextBox> Text1{QStringLiteral("Text1")};
     forms::DTPicker DTPicker1{QStringLiteral("DTPicker1")};

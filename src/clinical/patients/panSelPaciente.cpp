@@ -89,9 +89,9 @@ panSelPaciente::panSelPaciente() : Form(u"panSelPaciente"_s)
     connect(&Text1, &QLineEdit::textChanged, this, &panSelPaciente::buscarNumero);
     connect(&Text2, &QLineEdit::textChanged, this, &panSelPaciente::buscarNombre);
     connect(&Data1, &Data::reposition, this, &panSelPaciente::mostrarElegido);
-    connect(&DBGrid1, &DBGrid::accepted, this, &panSelPaciente::command2Click);
-    connect(&Command1, &QPushButton::clicked, this, &panSelPaciente::command1Click);
-    connect(&Command2, &QPushButton::clicked, this, &panSelPaciente::command2Click);
+    connect(&DBGrid1, &DBGrid::accepted, this, &panSelPaciente::aceptar);
+    connect(&Command1, &QPushButton::clicked, this, &panSelPaciente::buscarConDialogo);
+    connect(&Command2, &QPushButton::clicked, this, &panSelPaciente::aceptar);
     connect(&Command3, &QPushButton::clicked, this, &panSelPaciente::unload);
 }
 
@@ -178,7 +178,7 @@ void panSelPaciente::mostrarElegido()
     Text2.setFound(true);
 }
 
-void panSelPaciente::command1Click()
+void panSelPaciente::buscarConDialogo()
 {
     std::optional<QString> sinHallar;
     Data1.change([&](dao::Recordset &pacientes) { sinHallar = BuscaEnPacientes(pacientes); });
@@ -190,7 +190,7 @@ void panSelPaciente::command1Click()
     Text2.setFound(false);
 }
 
-void panSelPaciente::command2Click()
+void panSelPaciente::aceptar()
 {
     if (!numero_.isEmpty())
         answer(numero_);

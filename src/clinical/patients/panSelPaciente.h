@@ -26,8 +26,8 @@ private:
     void buscarNumero(const QString &texto);
     void buscarNombre(const QString &texto);
     void mostrarElegido();
-    void command1Click();
-    void command2Click();
+    void buscarConDialogo();
+    void aceptar();
 
     forms::SSTab SSTab1{QStringLiteral("SSTab1")};
     forms::Data Data1{QStringLiteral("Data1")};

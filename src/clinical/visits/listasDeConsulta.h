@@ -5,6 +5,9 @@
 #include "platform/forms/controls.h"
 #include "platform/forms/layout.h"
 
+namespace consultas
+{
+
 /// The symptoms, diagnoses and treatments of a visit as three lists with their commands, which the capture of
 /// a visit and the browser of visits share: `Command1(n)` adds from the catalogue, `Command2(n)` removes, n
 /// being the group.
@@ -22,8 +25,8 @@ public:
     void setEnabled(bool enabled);
 
     void vaciar();
-    void agregarRenglon(consultas::Grupo grupo, const consultas::Renglon &renglon);
-    std::vector<consultas::Renglon> renglones(consultas::Grupo grupo) const;
+    void agregarRenglon(Grupo grupo, const Renglon &renglon);
+    std::vector<Renglon> renglones(Grupo grupo) const;
 
     /// Adds to the list with this index from its catalogue, as its command does; another index is refused
     /// with a message.
@@ -37,8 +40,8 @@ signals:
     void quitado(int grupo, const QString &nombre);
 
 private:
-    std::vector<consultas::Renglon> elegidos(consultas::Grupo grupo) const;
-    void quitar(consultas::Grupo grupo);
+    std::vector<Renglon> elegidos(Grupo grupo) const;
+    void quitar(Grupo grupo);
     bool eventFilter(QObject *receptor, QEvent *evento) override;
 
     forms::ListBox mSintomas{QStringLiteral("mSintomas")};
@@ -47,7 +50,9 @@ private:
     forms::ControlArray<forms::CommandButton> Command1{QStringLiteral("Command1")};
     forms::ControlArray<forms::CommandButton> Command2{QStringLiteral("Command2")};
 
-    std::array<forms::ListBox *, consultas::grupos.size()> listas_ = {&mSintomas, &mTratamientos,
+    std::array<forms::ListBox *, grupos.size()> listas_ = {&mSintomas, &mTratamientos,
                                                                       &mDiagnosticos}; ///< by Grupo
     QString paciente_;
 };
+
+} // namespace consultas

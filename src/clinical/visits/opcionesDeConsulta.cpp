@@ -3,6 +3,7 @@
 #include "clinical/visits/consulta.h"
 
 using namespace forms;
+using consultas::OpcionesDeConsulta;
 
 namespace
 {

@@ -5,6 +5,9 @@
 
 #include <QButtonGroup>
 
+namespace consultas
+{
+
 /// Where a visit took place and whether it was the first, as two pairs of options.
 class OpcionesDeConsulta : public QObject
 {
@@ -29,3 +32,5 @@ signals:
 private:
     QButtonGroup lugar_, tipo_;
 };
+
+} // namespace consultas

@@ -65,7 +65,7 @@ panNueConsulta::panNueConsulta()
     }
     comboEspecialidad.setValue(especialidadHabitual());
     disponer();
-    connect(&Command7, &QPushButton::clicked, this, &panNueConsulta::command7Click);
+    connect(&Command7, &QPushButton::clicked, this, &panNueConsulta::aceptar);
     connect(&Command8, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
 }
 
@@ -90,7 +90,7 @@ void panNueConsulta::disponer()
 
 Item panNueConsulta::datosDeLaVisita()
 {
-    mDato(cHora).setMaximumWidth(70);
+    mDato(cHora).setFixedWidth(60);
     text9.setFixedHeight(text9.fontMetrics().lineSpacing() * 2 + 12);
     return Group(u"Consulta Resumida"_s,
                  Fields{{u"&Fecha :"_s, Row{mFecha, Fields{{u"&Hora :"_s, mDato(cHora)}},
@@ -182,7 +182,7 @@ void panNueConsulta::keyPressEvent(QKeyEvent *evento)
 {
     const bool entrar = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
     if (entrar && evento->modifiers().testFlag(Qt::ControlModifier))
-        command7Click();
+        aceptar();
     else if (entrar)
         irAlCampoSiguiente();
     else if (evento->key() == Qt::Key_F2)
@@ -214,7 +214,7 @@ void panNueConsulta::anotarNormal()
 
 /// The signs must be numbers, so the person is led through each one left blank; it then stands at 0. An hour
 /// that is none is not stored, which the person is told before.
-void panNueConsulta::command7Click()
+void panNueConsulta::aceptar()
 {
     for (int signo = 0; signo < signos_; ++signo) {
         if (basic::isNumeric(Text3(signo).text()))

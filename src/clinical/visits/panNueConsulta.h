@@ -32,18 +32,18 @@ private:
     bool enBlanco() const;
     void irAlCampoSiguiente();
     void anotarNormal();
-    void command7Click();
+    void aceptar();
 
     forms::Label lblPaciente{QStringLiteral("lblPaciente")};
     forms::DTPicker mFecha{QStringLiteral("mFecha")};
     forms::ControlArray<forms::TextBox> mDato{QStringLiteral("mDato")};
-    OpcionesDeConsulta opciones;
+    consultas::OpcionesDeConsulta opciones;
     forms::ComboBox comboEspecialidad;
     forms::MemoBox text9{QStringLiteral("text9")};
     forms::ControlArray<forms::TextBox> Text3{QStringLiteral("Text3")}; ///< signs, then the examination
     forms::TextBox Text1{QStringLiteral("Text1"), 255};
     forms::TextBox Text2{QStringLiteral("Text2"), 255};
-    ListasDeConsulta listas;
+    consultas::ListasDeConsulta listas;
     forms::SSTab SStab1{QStringLiteral("SStab1")};
     forms::Label lblTeclas{QStringLiteral("lblTeclas"),
                            QStringLiteral("Entrar: campo siguiente    F2: anota «Normal»    "

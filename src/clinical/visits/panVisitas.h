@@ -59,8 +59,8 @@ private:
     forms::ControlArray<forms::TextBox> mDato{QStringLiteral("mDato")};
     forms::ControlArray<forms::TextBox> Text1{QStringLiteral("Text1")};
     forms::ControlArray<forms::TextBox> Text3{QStringLiteral("Text3")};
-    OpcionesDeConsulta opciones;
-    ListasDeConsulta listas;
+    consultas::OpcionesDeConsulta opciones;
+    consultas::ListasDeConsulta listas;
 
     forms::CommandButton Command3{QStringLiteral("Command3"), QStringLiteral("&Nueva..."),
                                   QStringLiteral("agregar")};

@@ -43,8 +43,8 @@ protected:
 
     /// Adds a row with what `fill` sets, and stands on it.
     void addRow(const std::function<void(dao::Recordset &)> &fill);
-    /// Deletes the current row; what was typed goes with it.
-    void deleteRow();
+    /// Deletes the current row, after the gate and the question; what was typed goes with it.
+    virtual void deleteRow();
 
     /// False refuses the deletion of the current row; the refusal is told by the window.
     virtual bool mayDelete() { return true; }

@@ -18,13 +18,14 @@ constexpr int paginaEventos = 1;
 
 } // namespace
 
-panUsuarios::panUsuarios() : Form(u"panUsuarios"_s)
+panUsuarios::panUsuarios()
+    : Tabla(u"panUsuarios"_s, u"Usuarios del sistema"_s,
+            {{u"Nombre"_s, u"Nombre"_s, {}, 240},
+             {u"Clave"_s, u"Clave"_s, {}, 180, true},
+             {u"Nivel"_s, u"Nivel"_s, {}, 80},
+             {u"Tipo"_s, u"Tipo"_s, {}, 80}})
 {
-    setWindowTitle(u"Usuarios del sistema"_s);
-    DBGrid1.setSource(Data1, {{u"Nombre"_s, u"Nombre"_s, {}, 240},
-                              {u"Clave"_s, u"Clave"_s, {}, 180},
-                              {u"Nivel"_s, u"Nivel"_s, {}, 80},
-                              {u"Tipo"_s, u"Tipo"_s, {}, 80}});
+    setSource(u"Select * from usuarios"_s);
     DBGrid2.setSource(Data2, {{u"Fecha"_s, u"Fecha"_s, u"dd/mm/yyyy"_s, 110},
                               {u"Hora"_s, u"Hora"_s, {}, 70},
                               {u"Proceso"_s, u"Proceso"_s, {}, 250},
@@ -32,15 +33,14 @@ panUsuarios::panUsuarios() : Form(u"panUsuarios"_s)
     Data1.bind(Text1, u"Nombre"_s);
     Data1.bind(Text2, u"Nivel"_s);
     Data1.bind(Text3, u"Clave"_s);
+    Text3.setSecret();
     Text2.setMaximumWidth(70);
     Combo2.addItems(MODULE11::tiposDeUsuario);
-    // The printed list waits for the report service.
-    Check1.setEnabled(false);
-    Command7.setEnabled(false);
+    Check1.setEnabled(false); // the printed list waits for the report service
     setContents(this, Column{
                           Expanding(Tabs(SSTab1, {{u"&Usuarios"_s, fichaUsuarios()},
                                                   {u"E&ventos del usuario"_s, fichaEventos()}})),
-                          Row{Stretch(), Command3},
+                          Row{Stretch(), closes(u"Command3"_s, u"&Cerrar"_s)},
                       });
     resize(820, 560);
     conectar();
@@ -53,55 +53,49 @@ Item panUsuarios::fichaUsuarios()
         Group(u"Usuario seleccionado"_s,
               Row{Expanding(Fields{{u"Nom&bre :"_s, Text1}, {u"C&lave :"_s, Text3}}),
                   Expanding(Fields{{u"N&ivel :"_s, Row{Text2, Expanding(Combo1)}}, {u"Ti&po :"_s, Combo2}})}),
-        Row{Command1, Command2, Stretch(), Command4},
+        Row{command(u"Command1"_s, u"&Nuevo..."_s, u"nuevo"_s, [this] { agregar(); },
+                    {.gate = u"AgregarUsuarios"_s}),
+            deletes(u"Command2"_s, u"&Eliminar"_s,
+                    {.gate = u"BorrarUsuarios"_s,
+                     .question = u"Está seguro de retirar este usuario del sistema"_s}),
+            Stretch(), Command4},
     };
 }
 
 Item panUsuarios::fichaEventos()
 {
+    CommandButton &imprimir = command(u"Command7"_s, u"&Imprimir..."_s, u"imprimir"_s, {});
+    imprimir.setEnabled(false); // as the list of all users
     return Column{
         Label1,
         Expanding(DBGrid2),
-        Row{Fields{{u"&Desde :"_s, dt1}}, Fields{{u"&Hasta :"_s, dt2}}, Command5, Stretch(), Check1,
-            Command7},
+        Row{Fields{{u"&Desde :"_s, dt1}}, Fields{{u"&Hasta :"_s, dt2}},
+            command(u"Command5"_s, u"&Filtrar"_s, u"buscar"_s, [this] { filtrar(); }), Stretch(), Check1,
+            imprimir},
     };
 }
 
 void panUsuarios::conectar()
 {
-    connect(&Data1, &Data::reposition, this, &panUsuarios::mostrarFila);
+    connect(&Text3, &TextBox::secretShown, &DBGrid1, &DBGrid::setSecretsShown);
     connect(&SSTab1, &QTabWidget::currentChanged, this, [this] { mostrarEventos(); });
     connect(&Text2, &QLineEdit::textChanged, this, &panUsuarios::mostrarNivel);
     connect(&Combo1, &QComboBox::activated, this,
             [this] { escribir(u"Nivel"_s, MODULE11::nivelDeEntrada(Combo1.value())); });
     connect(&Combo2, &QComboBox::activated, this, [this] { escribir(u"Tipo"_s, Combo2.value().left(1)); });
-    connect(&Command1, &QPushButton::clicked, this, &panUsuarios::command1Click);
-    connect(&Command2, &QPushButton::clicked, this, &panUsuarios::command2Click);
-    connect(&Command3, &QPushButton::clicked, this, &panUsuarios::unload);
-    connect(&Command4, &QPushButton::clicked, this, &panUsuarios::command4Click);
-    connect(&Command5, &QPushButton::clicked, this, &panUsuarios::command5Click);
 }
 
 void panUsuarios::load()
 {
     Combo1.addItems(MODULE11::entradasDeNivel());
-    Data1.setRecordSource(u"Select * from usuarios"_s);
-    Data1.refresh();
+    Tabla::load();
 }
 
-bool panUsuarios::queryUnload()
-{
-    Data1.updateRecord();
-    return true;
-}
-
-void panUsuarios::mostrarFila()
+void panUsuarios::rowShown()
 {
     const bool hay = Data1.hasRow();
     bloquear(!hay || Data1.recordset()[u"Nombre"].text() == u"supervisor");
     Text3.setEnabled(hay);
-    Command2.setEnabled(hay);
-    Command4.setEnabled(hay);
     Combo2.setValue(hay ? MODULE11::tipoDeLetra(Data1.recordset()[u"Tipo"].text()) : QString());
     mostrarNivel();
     const bool fuera = hay && Data1.recordset()[u"Nivel"].integer() >= MODULE11::suspendido;
@@ -144,51 +138,33 @@ void panUsuarios::mostrarEventos(const QString &condicion)
 
 void panUsuarios::escribir(const QString &campo, const basic::Value &valor)
 {
-    if (!Data1.hasRow())
-        return;
-    Data1.change([&](dao::Recordset &usuarios) {
-        usuarios.edit();
-        usuarios[campo] = valor;
-        usuarios.update();
-    });
+    if (Data1.hasRow())
+        Data1.set(campo, valor);
 }
 
-void panUsuarios::command1Click()
+void panUsuarios::agregar()
 {
-    if (!MODULE11::VerificaNivel(u"AgregarUsuarios"_s))
-        return;
     panNueUsuario nuevo;
     nuevo.showModal();
     if (nuevo.tag() != u"SI")
         return;
-    Data1.change([&](dao::Recordset &usuarios) {
-        usuarios.addNew();
+    addRow([&](dao::Recordset &usuarios) {
         usuarios[u"Nombre"] = nuevo.nombre();
         usuarios[u"Nivel"] = nuevo.nivel();
         usuarios[u"Clave"] = nuevo.clave();
         usuarios[u"Tipo"] = nuevo.tipo();
-        usuarios.update();
-        usuarios.setBookmark(usuarios.lastModified());
     });
 }
 
-void panUsuarios::command2Click()
-{
-    if (!MODULE11::VerificaNivel(u"BorrarUsuarios"_s) ||
-        !MODULE11::PreguntaSiBorra(u"Está seguro de retirar este usuario del sistema"_s))
-        return;
-    Data1.deleteRow();
-}
-
 /// A suspended level keeps the original one in its value.
-void panUsuarios::command4Click()
+void panUsuarios::suspender()
 {
     const qint64 paso = Command4.text().startsWith(u"Sus") ? MODULE11::suspendido : -MODULE11::suspendido;
     Data1.updateRecord();
     escribir(u"Nivel"_s, Data1.recordset()[u"Nivel"].integer() + paso);
 }
 
-void panUsuarios::command5Click()
+void panUsuarios::filtrar()
 {
     mostrarEventos(u" and "_s + dao::period(u"Fecha"_s, dt1.value(), dt2.value()));
 }

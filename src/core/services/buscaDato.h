@@ -3,7 +3,7 @@
 #include "core/services/dialogoBuscar.h"
 
 /// "Buscar": a text to look for in one column. Answers "SI" or "NO".
-class buscaDato : public DialogoBuscar
+class buscaDato : public services::DialogoBuscar
 {
     Q_OBJECT
 public:

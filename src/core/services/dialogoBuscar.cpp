@@ -5,6 +5,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace forms;
+using services::DialogoBuscar;
 
 DialogoBuscar::DialogoBuscar(const QString &name, const QString &titulo, const QString &casilla,
                              const Textos &textos)
@@ -32,8 +33,8 @@ void DialogoBuscar::activate()
 bool DialogoBuscar::mover(dao::Recordset &recordset, const QString &campo) const
 {
     const auto lugar = check3d1.isChecked() ? dao::Match::Anywhere : dao::Match::Beginning;
-    const QString criterio = u"[%1] LIKE "_s.arg(campo) +
-                             dao::quoted(dao::typedPattern(Text1.text().trimmed(), lugar));
+    const QString criterio =
+        u"[%1] LIKE "_s.arg(campo) + dao::quoted(dao::typedPattern(Text1.text().trimmed(), lugar));
     if (option3d1(1).isChecked())
         recordset.findLast(criterio);
     else if (option3d1(2).isChecked())

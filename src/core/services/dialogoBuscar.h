@@ -5,6 +5,9 @@
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 
+namespace services
+{
+
 /// What the search dialogues share: a text, whether it may stand anywhere, and where the search starts.
 class DialogoBuscar : public forms::Form
 {
@@ -31,3 +34,5 @@ private:
     forms::CheckBox check3d1;
     forms::ControlArray<forms::OptionButton> option3d1{QStringLiteral("option3d1")};
 };
+
+} // namespace services

@@ -15,11 +15,11 @@ panSelDesHas::panSelDesHas(const QString &texto) : Form(u"panSelDesHas"_s)
                           Fields{{u"&Desde :"_s, dt1}, {u"&Hasta :"_s, dt2}},
                           Row{Stretch(), Command1, Command2},
                       });
-    connect(&Command1, &QPushButton::clicked, this, &panSelDesHas::command1Click);
+    connect(&Command1, &QPushButton::clicked, this, &panSelDesHas::aceptar);
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
 }
 
-void panSelDesHas::command1Click()
+void panSelDesHas::aceptar()
 {
     if (desde() < hasta())
         answer(u"SI"_s);

@@ -15,7 +15,7 @@ public:
     basic::Date hasta() const { return dt2.value(); }
 
 private:
-    void command1Click();
+    void aceptar();
 
     forms::Label Label3{QStringLiteral("Label3")};
     forms::DTPicker dt1{QStringLiteral("dt1")};

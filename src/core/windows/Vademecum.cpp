@@ -78,7 +78,7 @@ Vademecum::Vademecum()
     resize(1280, 720);
 
     Timer1.setParent(this);
-    connect(&Timer1, &QTimer::timeout, this, &Vademecum::timer1Timer);
+    connect(&Timer1, &QTimer::timeout, this, &Vademecum::refrescarPacientesDeHoy);
     Timer1.start();
 }
 
@@ -122,7 +122,7 @@ QWidget *Vademecum::construirPanel()
     Command2.setFixedWidth(static_cast<int>(forms::toPixels(anchoCerrado)));
     Command2.setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     Command2.setToolTip(u"Mostrar u ocultar los pacientes para hoy"_s);
-    connect(&Command2, &QToolButton::clicked, this, &Vademecum::command2Click);
+    connect(&Command2, &QToolButton::clicked, this, &Vademecum::plegarPanel);
 
     listaPacientes_ = new QWidget;
     auto *lista = new QVBoxLayout(listaPacientes_);
@@ -156,7 +156,7 @@ QWidget *Vademecum::construirPanel()
     return &panel_;
 }
 
-void Vademecum::command2Click()
+void Vademecum::plegarPanel()
 {
     const int cerrado = static_cast<int>(forms::toPixels(anchoCerrado));
     const bool abrir = panel_.width() == cerrado;
@@ -169,7 +169,7 @@ void Vademecum::mostrarEstado()
         MODULE11::UsuarioActual, MODULE11::DrActual, basic::programFile(u"BASE.MDB"_s)));
 }
 
-void Vademecum::timer1Timer()
+void Vademecum::refrescarPacientesDeHoy()
 {
     try {
         actualizarPacientesDeHoy();

@@ -47,8 +47,8 @@ private:
     QWidget *construirPanel();
     void primeraActivacion();
     void mostrarPantallaInicial();
-    void timer1Timer();
-    void command2Click();
+    void refrescarPacientesDeHoy();
+    void plegarPanel();
     void mostrarEstado();
 
     QWidget panel_; // before the controls in it, which must go first

@@ -63,7 +63,7 @@ panPersonaliza::panPersonaliza() : Form(u"panPersonaliza"_s)
                           Row{Stretch(), Command1, Command2},
                       });
     setMinimumWidth(560);
-    connect(&Command1, &QPushButton::clicked, this, &panPersonaliza::command1Click);
+    connect(&Command1, &QPushButton::clicked, this, &panPersonaliza::aceptar);
     connect(&Command2, &QPushButton::clicked, this, &panPersonaliza::unload);
 }
 
@@ -89,7 +89,7 @@ void panPersonaliza::load()
         Text7.setText(profesion);
 }
 
-void panPersonaliza::command1Click()
+void panPersonaliza::aceptar()
 {
     const QString sufijo = Combo1.value().trimmed();
     escribir("Lugar de Ejercicio", Text3.text());

@@ -14,7 +14,7 @@ protected:
     void load() override;
 
 private:
-    void command1Click();
+    void aceptar();
 
     forms::Label Label1{QStringLiteral("Label1"),
                         QStringLiteral("Escriba sus datos particulares para poder personalizar el sistema.")};

@@ -12,7 +12,7 @@ panSalida::panSalida() : Form(u"panSalida"_s)
     setWindowTitle(u"Salir"_s);
     Command1.setDefault(true);
     setContents(this, Column{Label1, Check1, Row{Stretch(), Command1, Command2}});
-    connect(&Command1, &QPushButton::clicked, this, &panSalida::command1Click);
+    connect(&Command1, &QPushButton::clicked, this, &panSalida::aceptar);
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
 }
 
@@ -24,7 +24,7 @@ void panSalida::load()
     Check1.setChecked(hayBackup && settings::getSetting(u"Miscelaneas"_s, u"HacebackupAlSalir"_s) == u"SI");
 }
 
-void panSalida::command1Click()
+void panSalida::aceptar()
 {
     if (Check1.isEnabled())
         settings::saveSetting(u"Miscelaneas"_s, u"HacebackupAlSalir"_s,

@@ -14,7 +14,7 @@ protected:
     void load() override;
 
 private:
-    void command1Click();
+    void aceptar();
 
     forms::Label Label1{QStringLiteral("Label1"), QStringLiteral("Desea salir de Sanirell! ??")};
     forms::CheckBox Check1{QStringLiteral("Check1"), QStringLiteral("Realiza &backup de la base de datos ?")};

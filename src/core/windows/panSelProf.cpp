@@ -12,9 +12,12 @@ panSelProf::panSelProf() : Form(u"panSelProf"_s)
 {
     setWindowTitle(u"Seleccionar Profesional"_s);
     Label1.setWordWrap(true);
+    lblVacia.setWordWrap(true);
+    lblVacia.setAlignment(Qt::AlignTop | Qt::AlignLeft);
     Command1.setDefault(true);
     setContents(this, Column{
                           Label1,
+                          lblVacia,
                           Expanding(DBGrid1),
                           Row{Stretch(), Command1, Command2},
                       });
@@ -30,14 +33,14 @@ void panSelProf::load()
 {
     Data1.setRecordSource(u"Select * from Profesionales order by Nombre"_s);
     basic::ignoring(dao::fileTrouble, [this] { Data1.refresh(); });
-    Command1.setEnabled(Data1.hasRecordset() && !Data1.recordset().eof());
+    const bool hay = Data1.hasRow();
+    Command1.setEnabled(hay);
+    lblVacia.setVisible(!hay);
 }
 
 QString panSelProf::nombre()
 {
-    if (!Data1.hasRecordset() || Data1.recordset().eof())
-        return {};
-    return Data1.recordset()[u"Nombre"].text();
+    return Data1.hasRow() ? Data1.recordset()[u"Nombre"].text() : QString();
 }
 
 #include "moc_panSelProf.cpp"

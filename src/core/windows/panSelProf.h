@@ -22,6 +22,11 @@ private:
         QStringLiteral("Label1"),
         QStringLiteral(
             "Deberá seleccionar de ésta lista, que profesional utilizará el sistema en éste equipo PC.")};
+    forms::Label lblVacia{
+        QStringLiteral("lblVacia"),
+        QStringLiteral(
+            "Todavía no hay profesionales en la lista. Presione Cancelar e ingrese; luego agréguelos en "
+            "Archivos / Tablas varias / Tabla de Profesionales y vuelva a iniciar el programa.")};
     forms::Data Data1{QStringLiteral("Data1")};
     forms::DBGrid DBGrid1{QStringLiteral("DBGrid1")};
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Aceptar"),

@@ -36,7 +36,7 @@ panMedidas::panMedidas() : Form(u"panMedidas"_s)
                 },
                 {&Command3, &Command4, &Command5});
     setMinimumWidth(360);
-    connect(&Command1, &QPushButton::clicked, this, &panMedidas::command1Click);
+    connect(&Command1, &QPushButton::clicked, this, &panMedidas::aceptar);
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
 }
 
@@ -76,7 +76,7 @@ void panMedidas::cambiarUnidad(const Medida &medida)
     settings::saveSetting(u"Medidas"_s, medida.clave, tag);
 }
 
-void panMedidas::command1Click()
+void panMedidas::aceptar()
 {
     for (const Medida &medida : medidas_) {
         if (!basic::isNumeric(Text1(medida.indice).text())) {

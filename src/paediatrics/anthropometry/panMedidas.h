@@ -33,7 +33,7 @@ private:
     double enUnidad(int indice, const forms::CommandButton &unidad) const;
     void mostrarUnidad(const Medida &medida, const QString &tag);
     void cambiarUnidad(const Medida &medida);
-    void command1Click();
+    void aceptar();
 
     forms::DTPicker TextF{QStringLiteral("TextF")};
     forms::ControlArray<forms::TextBox> Text1{QStringLiteral("Text1")};

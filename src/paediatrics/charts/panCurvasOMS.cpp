@@ -54,10 +54,10 @@ panCurvasOMS::panCurvasOMS() : Form(u"panCurvasOMS"_s), Image1(u"Image1"_s, char
                           lblPaciente,
                           Image1,
                       });
-    connect(&Combo1, &QComboBox::currentIndexChanged, this, &panCurvasOMS::combo1Click);
-    connect(&Check1, &QCheckBox::toggled, this, &panCurvasOMS::combo1Click);
+    connect(&Combo1, &QComboBox::currentIndexChanged, this, &panCurvasOMS::mostrarCurva);
+    connect(&Check1, &QCheckBox::toggled, this, &panCurvasOMS::mostrarCurva);
     connect(&Command1, &QPushButton::clicked, this, &panCurvasOMS::unload);
-    connect(&Command2, &QPushButton::clicked, this, &panCurvasOMS::command2Click);
+    connect(&Command2, &QPushButton::clicked, this, &panCurvasOMS::imprimir);
 }
 
 void panCurvasOMS::activate()
@@ -65,7 +65,7 @@ void panCurvasOMS::activate()
     lblPaciente.setCaption(services::nombreDePaciente(tag()));
 }
 
-void panCurvasOMS::combo1Click()
+void panCurvasOMS::mostrarCurva()
 {
     if (Combo1.currentIndex() < 0)
         return;
@@ -118,7 +118,7 @@ void panCurvasOMS::dibujarFila(const charts::WhoChart &chart, dao::Recordset &me
                       rotulo + basic::format(valor, u"###.#") + unidad);
 }
 
-void panCurvasOMS::command2Click()
+void panCurvasOMS::imprimir()
 {
     printing::Choice impresora;
     if (!printing::defaultChoice(impresora))

@@ -17,10 +17,10 @@ protected:
     void activate() override;
 
 private:
-    void combo1Click();
+    void mostrarCurva();
     void dibujar(const charts::WhoChart &chart);
     void dibujarFila(const charts::WhoChart &chart, dao::Recordset &medidas, basic::Date nacimiento);
-    void command2Click();
+    void imprimir();
 
     forms::Label Label1{QStringLiteral("Label1"), QStringLiteral("&Seleccione curva :")};
     forms::ComboBox Combo1{QStringLiteral("Combo1")};

@@ -69,9 +69,9 @@ panMuesCurvas::panMuesCurvas() : Form(u"panMuesCurvas"_s)
             [this] { forms::setTag(&Command3, u"MUJER"_s); });
     connect(&Option2(varones), &QRadioButton::clicked, this,
             [this] { forms::setTag(&Command3, u"VARON"_s); });
-    connect(&Check1, &QCheckBox::toggled, this, &panMuesCurvas::check1Click);
+    connect(&Check1, &QCheckBox::toggled, this, &panMuesCurvas::incluirATodos);
     connect(&Command1, &QPushButton::clicked, this, &panMuesCurvas::unload);
-    connect(&Command2, &QPushButton::clicked, this, &panMuesCurvas::command2Click);
+    connect(&Command2, &QPushButton::clicked, this, &panMuesCurvas::mostrarCurva);
     connect(&Command4, &QPushButton::clicked, this, [this] { screens::showModal("panCurvasOMS", sujeto()); });
 }
 
@@ -98,7 +98,7 @@ void panMuesCurvas::tomarSexoDelPaciente()
         MODULE11::MuestraError(u"Debe definir el sexo del paciente antes de mostrar curvas."_s);
 }
 
-void panMuesCurvas::check1Click()
+void panMuesCurvas::incluirATodos()
 {
     Frame5(0).setVisible(Check1.isChecked());
     if (!Check1.isChecked())
@@ -132,7 +132,7 @@ QString panMuesCurvas::sujeto() const
     return Check1.isChecked() ? u"<TODOS>"_s : tag();
 }
 
-void panMuesCurvas::command2Click()
+void panMuesCurvas::mostrarCurva()
 {
     screens::showModal(destino(), sujeto());
 }

@@ -17,12 +17,12 @@ protected:
 
 private:
     void tomarSexoDelPaciente();
-    void check1Click();
+    void incluirATodos();
     void habilitarEdades();
     QString sexo() const { return forms::tag(&Command3); }
     screens::Window destino() const;
     QString sujeto() const;
-    void command2Click();
+    void mostrarCurva();
 
     forms::ControlArray<forms::OptionButton> Option1{QStringLiteral("Option1")};
     forms::ControlArray<forms::OptionButton> Option2{QStringLiteral("Option2")};

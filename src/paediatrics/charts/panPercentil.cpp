@@ -45,7 +45,7 @@ panPercentil::panPercentil(const charts::ClassicalChart &chart)
 {
     setWindowTitle(chart.captionOfPatient.toString());
     setContents(this, Column{Picture1, Row{Stretch(), Command1, Command2}});
-    connect(&Command1, &QPushButton::clicked, this, &panPercentil::command1Click);
+    connect(&Command1, &QPushButton::clicked, this, &panPercentil::imprimir);
     connect(&Command2, &QPushButton::clicked, this, &panPercentil::unload);
 }
 
@@ -130,7 +130,7 @@ void panPercentil::dibujarTodos()
     }
 }
 
-void panPercentil::command1Click()
+void panPercentil::imprimir()
 {
     printing::Choice impresora;
     if (!printing::chooserDialog(impresora, u"Imprimir"_s))

@@ -22,7 +22,7 @@ private:
     void dibujarPaciente();
     void dibujarMedida(dao::Recordset &medidas, charts::Measure medida, basic::Date nacimiento);
     void dibujarTodos();
-    void command1Click();
+    void imprimir();
 
     const charts::ClassicalChart &chart_;
     forms::PictureBox Picture1;

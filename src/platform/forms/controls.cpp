@@ -99,8 +99,10 @@ void TextBox::setSecret()
     QAction *see = addAction(QIcon(QStringLiteral(":/icons/ver.svg")), TrailingPosition);
     see->setCheckable(true);
     see->setToolTip(QStringLiteral("Ver lo escrito"));
-    connect(see, &QAction::toggled, this,
-            [this](bool shown) { setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password); });
+    connect(see, &QAction::toggled, this, [this](bool shown) {
+        setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password);
+        emit secretShown(shown);
+    });
 }
 
 void TextBox::focusInEvent(QFocusEvent *event)

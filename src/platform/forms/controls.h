@@ -55,6 +55,9 @@ public:
     /// Hides what is typed behind dots, with a button to see it.
     void setSecret();
 
+signals:
+    void secretShown(bool shown);
+
 protected:
     void focusInEvent(QFocusEvent *event) override; // selects all when reached by keyboard
 

@@ -21,6 +21,7 @@ constexpr char16_t deletedMark[] = u"#Eliminado";
 constexpr int linePixels = 24;
 constexpr int narrowestColumn = 70;
 constexpr int widestByHeading = 260;
+constexpr int secretDots = 6; // whatever the length
 
 /// A cell is typed in a field that takes no more than its column.
 class CellDelegate : public QStyledItemDelegate
@@ -130,6 +131,7 @@ public:
                : field.type == dao::FieldType::Memo ? longestMemo
                                                     : 0;
     }
+    void setSecretsShown(bool shown) { secretsShown_ = shown; }
     void setEditable(bool editable) { editable_ = editable; }
     const std::vector<GridColumn> &columns() const { return columns_; }
 
@@ -151,6 +153,8 @@ public:
         try {
             const basic::Value value = data_.recordset().valueAt(index.row(), ordinals_[column]);
             const QString &pattern = columns_[column].pattern;
+            if (columns_[column].secret && !secretsShown_)
+                return value.isBlank() ? QString() : QString(secretDots, u'•');
             if (role == Qt::EditRole || pattern.isEmpty())
                 return value.text();
             return basic::format(value, pattern);
@@ -241,6 +245,7 @@ private:
     int rows_ = 0;
     bool known_ = false; ///< the source told how many rows it has
     bool editable_ = false;
+    bool secretsShown_ = false;
     QString lookField_;
     std::function<RowLook(const basic::Value &)> look_;
     int lookOrdinal_ = -1;
@@ -398,6 +403,13 @@ void DBGrid::setRowLook(const QString &field, std::function<RowLook(const basic:
 {
     if (model_)
         model_->setRowLook(field, std::move(look));
+}
+
+void DBGrid::setSecretsShown(bool shown)
+{
+    if (model_)
+        model_->setSecretsShown(shown);
+    viewport()->update();
 }
 
 int DBGrid::currentRow() const

@@ -11,12 +11,13 @@ namespace forms
 {
 
 /// A column of a grid: heading, field, display pattern (basic::format; empty shows the value's text), width
-/// in pixels (0: by its heading).
+/// in pixels (0: by its heading). A secret one shows dots until setSecretsShown().
 struct GridColumn {
     QString heading;
     QString field;
     QString pattern = {};
     int width = 0;
+    bool secret = false;
 };
 
 /// How a row stands out from the others by one of its values.
@@ -41,6 +42,7 @@ public:
     void setEditable(bool editable);
     /// Gives each row the look that goes with its value of `field`; after setSource().
     void setRowLook(const QString &field, std::function<RowLook(const basic::Value &)> look);
+    void setSecretsShown(bool shown);
     /// The person gave a column another width.
     bool columnsMoved() const { return columnsMoved_; }
     int currentRow() const;

@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 
 namespace forms
 {
@@ -20,7 +21,10 @@ const QString section = QStringLiteral("Ventanas");
 class Sheet : public QScrollArea
 {
 public:
-    QSize sizeHint() const override { return widget()->sizeHint() + QSize(2, 2); }
+    QSize sizeHint() const override
+    {
+        return widget()->sizeHint() + QSize(verticalScrollBar()->sizeHint().width() + 2, 2);
+    }
     QSize minimumSizeHint() const override { return {160, 120}; }
 };
 

@@ -15,6 +15,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace forms;
+using practice::HerramientaHorarios;
 
 namespace
 {
@@ -62,8 +63,8 @@ HerramientaHorarios::HerramientaHorarios(forms::TextBox &intervalo) : intervalo_
         tomarhora.add(i);
     diasEnVerde();
     disponer();
-    connect(&Command7, &QPushButton::clicked, this, &HerramientaHorarios::command7Click);
-    connect(&Command8, &QPushButton::clicked, this, &HerramientaHorarios::command8Click);
+    connect(&Command7, &QPushButton::clicked, this, &HerramientaHorarios::aplicar);
+    connect(&Command8, &QPushButton::clicked, this, &HerramientaHorarios::quitar);
 }
 
 void HerramientaHorarios::disponer()
@@ -140,7 +141,7 @@ void HerramientaHorarios::trabajar(const std::function<void(const horarios::Avan
     });
 }
 
-void HerramientaHorarios::command7Click()
+void HerramientaHorarios::aplicar()
 {
     const auto reemplazar = askOrCancelBox(
         u"Atención, desea eliminar los turnos y horarios asignados entre el período especificado y crear un esquema de citas nuevo para dicho profesional??. Si ya asignó un esquema entre dichas fechas anteriormente pero para otros dias de la semana, haga click en NO, si necesita rehacer los turnos o cambiar horarios, haga click en SI."_s,
@@ -161,7 +162,7 @@ void HerramientaHorarios::command7Click()
     diasEnVerde();
 }
 
-void HerramientaHorarios::command8Click()
+void HerramientaHorarios::quitar()
 {
     if (!askBox(
             u"Atención, se eliminarán los turnos asignados al profesional en dicho período, desea continuar??"_s,

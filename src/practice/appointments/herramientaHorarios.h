@@ -7,6 +7,9 @@
 #include <QProgressBar>
 #include <QWidget>
 
+namespace practice
+{
+
 /// The working-hours tool of one professional: writes the hours and the free places of chosen weekdays over a
 /// period, and takes them away. Asks and tells in boxes of its own.
 class HerramientaHorarios : public QWidget
@@ -30,8 +33,8 @@ private:
     horarios::Esquema esquema() const;
     bool hayProfesional() const;
     void trabajar(const std::function<void(const horarios::Avance &)> &trabajo);
-    void command7Click();
-    void command8Click();
+    void aplicar();
+    void quitar();
 
     forms::TextBox &intervalo_;
     qint64 idProfesional_ = 0;
@@ -48,3 +51,5 @@ private:
                                   QStringLiteral("quitar")};
     QProgressBar ProgressBar1;
 };
+
+} // namespace practice

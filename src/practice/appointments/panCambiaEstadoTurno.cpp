@@ -18,7 +18,7 @@ panCambiaEstadoTurno::panCambiaEstadoTurno() : Form(u"panCambiaEstadoTurno"_s)
                           Row{Stretch(), Command1, Command2},
                       });
     resize(400, 130);
-    connect(&Command1, &QPushButton::clicked, this, &panCambiaEstadoTurno::command1Click);
+    connect(&Command1, &QPushButton::clicked, this, &panCambiaEstadoTurno::aceptar);
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
 }
 
@@ -28,7 +28,7 @@ void panCambiaEstadoTurno::load()
     Combo3.setCurrentIndex(-1);
 }
 
-void panCambiaEstadoTurno::command1Click()
+void panCambiaEstadoTurno::aceptar()
 {
     if (Combo3.currentIndex() < 0) {
         msgBox(u"Seleccione un nuevo estado."_s, Icon::Critical, u"Error"_s);

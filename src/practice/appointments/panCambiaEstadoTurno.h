@@ -16,7 +16,7 @@ protected:
     void load() override;
 
 private:
-    void command1Click();
+    void aceptar();
 
     forms::ComboBox Combo3{QStringLiteral("Combo3")};
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Aceptar"),

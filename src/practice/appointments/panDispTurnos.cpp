@@ -26,8 +26,8 @@ panDispTurnos::panDispTurnos(basic::Date fecha, qint64 idProfesional)
                           Row{lblProf, Stretch(), Command1, Command2},
                       });
     resize(430, 480);
-    connect(&DBGrid1, &DBGrid::accepted, this, &panDispTurnos::command1Click);
-    connect(&Command1, &QPushButton::clicked, this, &panDispTurnos::command1Click);
+    connect(&DBGrid1, &DBGrid::accepted, this, &panDispTurnos::aceptar);
+    connect(&Command1, &QPushButton::clicked, this, &panDispTurnos::aceptar);
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
 }
 
@@ -45,7 +45,7 @@ QString panDispTurnos::hora()
     return Data1.hasRow() ? Data1.recordset()[u"Hora"].text() : QString();
 }
 
-void panDispTurnos::command1Click()
+void panDispTurnos::aceptar()
 {
     if (!Data1.hasRow())
         return;

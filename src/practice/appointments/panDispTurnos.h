@@ -20,7 +20,7 @@ protected:
     void load() override;
 
 private:
-    void command1Click();
+    void aceptar();
 
     basic::Date fecha_;
     forms::Label Label1{QStringLiteral("Label1")};

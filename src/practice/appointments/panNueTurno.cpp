@@ -66,11 +66,11 @@ panNueTurno::panNueTurno() : Form(u"panNueTurno"_s)
     connect(&checkBajas, &QCheckBox::toggled, this, &panNueTurno::armarLista);
     connect(&Check1, &QCheckBox::toggled, this,
             [this](bool sano) { mMotivo.setText(sano ? u"Control Sano"_s : u"-"_s); });
-    connect(&DBGrid1, &DBGrid::accepted, this, &panNueTurno::command1Click);
-    connect(&Command1, &QPushButton::clicked, this, &panNueTurno::command1Click);
+    connect(&DBGrid1, &DBGrid::accepted, this, &panNueTurno::aceptar);
+    connect(&Command1, &QPushButton::clicked, this, &panNueTurno::aceptar);
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
-    connect(&Command3, &QPushButton::clicked, this, &panNueTurno::command3Click);
-    connect(&Command4, &QPushButton::clicked, this, &panNueTurno::command4Click);
+    connect(&Command3, &QPushButton::clicked, this, &panNueTurno::verElDia);
+    connect(&Command4, &QPushButton::clicked, this, &panNueTurno::buscarPorNombre);
 }
 
 void panNueTurno::disponer()
@@ -330,7 +330,7 @@ bool panNueTurno::atiendeEseDia(qint64 idProfesional)
     return false;
 }
 
-void panNueTurno::command1Click()
+void panNueTurno::aceptar()
 {
     if (Text1.text().trimmed().isEmpty()) {
         markWrong(Text1, u"Elija un paciente o escriba su nombre"_s);
@@ -349,7 +349,7 @@ void panNueTurno::command1Click()
         answer(u"SI"_s);
 }
 
-void panNueTurno::command3Click()
+void panNueTurno::verElDia()
 {
     const auto id = profesionalElegido();
     if (!id || !atiendeEseDia(*id))
@@ -360,7 +360,7 @@ void panNueTurno::command3Click()
         mHora.setText(disponibles.hora());
 }
 
-void panNueTurno::command4Click()
+void panNueTurno::buscarPorNombre()
 {
     const QString nombre = ports::pideNombreDePaciente();
     if (nombre.isEmpty())

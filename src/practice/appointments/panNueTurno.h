@@ -50,9 +50,9 @@ private:
     void paso(int filas);
     std::optional<qint64> profesionalElegido();
     bool atiendeEseDia(qint64 idProfesional);
-    void command1Click();
-    void command3Click();
-    void command4Click();
+    void aceptar();
+    void verElDia();
+    void buscarPorNombre();
 
     forms::Label Label1{
         QStringLiteral("Label1"),

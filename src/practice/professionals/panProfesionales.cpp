@@ -1,6 +1,5 @@
 #include "practice/professionals/panProfesionales.h"
 
-#include "core/security/niveles.h"
 #include "core/services/services.h"
 #include "core/session/session.h"
 #include "platform/basic/runtime.h"
@@ -28,11 +27,11 @@ const QString interturnosHabitual = u"30"_s;
 
 } // namespace
 
-panProfesionales::panProfesionales() : Form(u"panProfesionales"_s)
+panProfesionales::panProfesionales()
+    : Tabla(u"panProfesionales"_s, u"Tabla de Profesionales / Usuarios"_s,
+            {{u"Nombre"_s, u"Nombre"_s, {}, 200}, {u"Especialidad"_s, u"Especialidad"_s, {}, 110}})
 {
-    setWindowTitle(u"Tabla de Profesionales / Usuarios"_s);
-    DBGrid1.setSource(Data1,
-                      {{u"Nombre"_s, u"Nombre"_s, {}, 200}, {u"Especialidad"_s, u"Especialidad"_s, {}, 110}});
+    setSource(u"Select * from Profesionales"_s);
     DBGrid1.setMinimumWidth(330);
     int indice = 0;
     for (const Campo &campo : campos)
@@ -42,13 +41,22 @@ panProfesionales::panProfesionales() : Form(u"panProfesionales"_s)
     Data1.bind(Text3, u"Observaciones"_s);
     Data1.bind(Text2, u"interturnos"_s);
     Text2.setMaximumWidth(60);
-    setContents(this, Column{
-                          Expanding(Row{DBGrid1,
-                                        Expanding(Tabs(SSTab1, {{u"&Datos"_s, fichaDatos()},
-                                                                {u"&Política de permisos"_s, fichaPermisos()},
-                                                                {u"&Horarios"_s, fichaHorarios()}}))}),
-                          Row{Command1, Command2, Command3, Command4, Command5, Stretch(), Command9},
-                      });
+    setContents(
+        this,
+        Column{
+            Expanding(Row{DBGrid1, Expanding(Tabs(SSTab1, {{u"&Datos"_s, fichaDatos()},
+                                                           {u"&Política de permisos"_s, fichaPermisos()},
+                                                           {u"&Horarios"_s, fichaHorarios()}}))}),
+            Row{command(u"Command1"_s, u"&Nuevo..."_s, u"nuevo"_s, [this] { agregar(); },
+                        {.gate = u"AgregarProfesionales"_s}),
+                deletes(
+                    u"Command2"_s, u"&Eliminar"_s,
+                    {.gate = u"BorrarProfesionales"_s, .question = u"Borra este profesional de la lista"_s}),
+                rowCommand(u"Command3"_s, u"&Guardar"_s, u"guardar"_s, [this] { Data1.updateRecord(); }),
+                rowCommand(u"Command4"_s, u"&Buscar"_s, u"buscar"_s, [this] { buscar(); }),
+                rowCommand(u"Command5"_s, u"&Imprimir"_s, u"imprimir"_s, [this] { imprimir(); }), Stretch(),
+                closes(u"Command9"_s, u"&Cerrar"_s)},
+        });
     resize(1240, 640);
     conectar();
 }
@@ -83,7 +91,6 @@ Item panProfesionales::fichaHorarios()
 
 void panProfesionales::conectar()
 {
-    connect(&Data1, &Data::reposition, this, &panProfesionales::mostrarFila);
     connect(&Combo2, &QComboBox::activated, this, [this] {
         Data1.updateRecord();
         escribir(u"idUsuario"_s, practice::usuarioElegido(Combo2));
@@ -92,37 +99,20 @@ void panProfesionales::conectar()
     connect(&Option2, &QAbstractButton::clicked, this, [this] { escribir(u"TipoPermiso"_s, u"L"_s); });
     connect(&Option3, &QAbstractButton::clicked, this, [this] { escribir(u"TipoPermiso"_s, u"T"_s); });
     connect(&UpDown2, &UpDown::stepped, this, &panProfesionales::pasoDeInterturnos);
-    connect(&herramienta, &HerramientaHorarios::cambiado, &calendario, &practice::CalendarioAnual::irA);
-    connect(&Command1, &QPushButton::clicked, this, &panProfesionales::nuevoClick);
-    connect(&Command2, &QPushButton::clicked, this, &panProfesionales::eliminarClick);
-    connect(&Command3, &QPushButton::clicked, this, [this] { Data1.updateRecord(); });
-    connect(&Command4, &QPushButton::clicked, this, [this] {
-        Data1.change(
-            [](dao::Recordset &profesionales) { MODULE11::BuscaEnLista(profesionales, u"Nombre"_s); });
-    });
-    connect(&Command5, &QPushButton::clicked, this, &panProfesionales::imprimirClick);
-    connect(&Command9, &QPushButton::clicked, this, &panProfesionales::unload);
+    connect(&herramienta, &practice::HerramientaHorarios::cambiado, &calendario,
+            &practice::CalendarioAnual::irA);
 }
 
 void panProfesionales::load()
 {
     practice::llenaUsuariosMedicos(Combo2);
-    Data1.setRecordSource(u"Select * from Profesionales"_s);
-    Data1.refresh();
+    Tabla::load();
 }
 
-bool panProfesionales::queryUnload()
-{
-    Data1.updateRecord();
-    return true;
-}
-
-void panProfesionales::mostrarFila()
+void panProfesionales::rowShown()
 {
     const bool hay = Data1.hasRow();
     SSTab1.setEnabled(hay);
-    for (CommandButton *boton : {&Command2, &Command3, &Command4, &Command5})
-        boton->setEnabled(hay);
     dao::Recordset &fila = Data1.recordset();
     Label8.setCaption(u"Seleccione el perfil de usuario asignado a "_s +
                       (hay ? fila[u"Nombre"].text() : QString()));
@@ -151,11 +141,7 @@ void panProfesionales::mostrarPermiso(const QString &permiso)
 
 void panProfesionales::escribir(const QString &campo, const basic::Value &valor)
 {
-    Data1.change([&](dao::Recordset &profesionales) {
-        profesionales.edit();
-        profesionales[campo] = valor;
-        profesionales.update();
-    });
+    Data1.set(campo, valor);
 }
 
 void panProfesionales::pasoDeInterturnos(int paso)
@@ -167,16 +153,13 @@ void panProfesionales::pasoDeInterturnos(int paso)
         Text2.setText(QString::number(qMax(minutosPorPaso, qRound(*minutos) + paso * minutosPorPaso)));
 }
 
-void panProfesionales::nuevoClick()
+void panProfesionales::agregar()
 {
-    if (!MODULE11::VerificaNivel(u"AgregarProfesionales"_s))
-        return;
     panNueProfesional nuevo;
     nuevo.showModal();
     if (nuevo.tag() != u"SI")
         return;
-    Data1.change([&](dao::Recordset &profesionales) {
-        profesionales.addNew();
+    addRow([&](dao::Recordset &profesionales) {
         profesionales[u"Nombre"] = nuevo.nombre();
         profesionales[u"Especialidad"] = nuevo.especialidad();
         profesionales[u"Domicilio"] = nuevo.domicilio();
@@ -185,29 +168,32 @@ void panProfesionales::nuevoClick()
         profesionales[u"observaciones"] = nuevo.observaciones() + u'.';
         profesionales[u"tipopermiso"] = u"U"_s;
         profesionales[u"idUsuario"] = nuevo.idUsuario();
-        profesionales.update();
-        profesionales.setBookmark(profesionales.lastModified());
     });
 }
 
-/// The appointments given stay in the book.
-void panProfesionales::eliminarClick()
+bool panProfesionales::mayDelete()
 {
-    if (!MODULE11::VerificaNivel(u"BorrarProfesionales"_s))
-        return;
-    dao::Recordset &fila = Data1.recordset();
-    if (fila[u"Nombre"].text().trimmed().toUpper() == MODULE11::DrActual.trimmed().toUpper()) {
-        MODULE11::MuestraError(u"Error, no puede eliminar éste registro!!"_s);
-        return;
-    }
-    if (!MODULE11::PreguntaSiBorra(u"Borra este profesional de la lista"_s))
-        return;
-    MODULE11::BaseDatos.execute(u"Delete * from DisTurnos where idProfesional = "_s +
-                                fila[u"idProfesional"].text());
-    Data1.deleteRow();
+    const QString nombre = Data1.recordset()[u"Nombre"].text();
+    if (nombre.trimmed().toUpper() != MODULE11::DrActual.trimmed().toUpper())
+        return true;
+    MODULE11::MuestraError(u"Error, no puede eliminar éste registro!!"_s);
+    return false;
 }
 
-void panProfesionales::imprimirClick()
+/// The hours go with the professional; the appointments given stay in the book.
+void panProfesionales::deleteRow()
+{
+    MODULE11::BaseDatos.execute(u"Delete * from DisTurnos where idProfesional = "_s +
+                                Data1.recordset()[u"idProfesional"].text());
+    Tabla::deleteRow();
+}
+
+void panProfesionales::buscar()
+{
+    Data1.change([](dao::Recordset &profesionales) { MODULE11::BuscaEnLista(profesionales, u"Nombre"_s); });
+}
+
+void panProfesionales::imprimir()
 {
     Data1.updateRecord();
     practice::imprimeProfesionales();

@@ -1,11 +1,9 @@
 #pragma once
 
+#include "core/records/tabla.h"
 #include "core/services/especialidades.h"
 #include "platform/forms/controlarray.h"
 #include "platform/forms/controls.h"
-#include "platform/forms/data.h"
-#include "platform/forms/dbgrid.h"
-#include "platform/forms/form.h"
 #include "platform/forms/layout.h"
 #include "platform/forms/updown.h"
 #include "practice/appointments/herramientaHorarios.h"
@@ -13,7 +11,7 @@
 
 /// "Tabla de Profesionales / Usuarios": the professionals of the practice, the account each one works under,
 /// the patients each one may see, and the days on which each one attends.
-class panProfesionales : public forms::Form
+class panProfesionales : public records::Tabla
 {
     Q_OBJECT
 public:
@@ -21,7 +19,9 @@ public:
 
 protected:
     void load() override;
-    bool queryUnload() override;
+    bool mayDelete() override;
+    void deleteRow() override;
+    void rowShown() override;
 
 private:
     forms::Item fichaDatos();
@@ -29,16 +29,13 @@ private:
     forms::Item fichaHorarios();
     void conectar();
 
-    void mostrarFila();
     void mostrarPermiso(const QString &permiso);
     void escribir(const QString &campo, const basic::Value &valor);
     void pasoDeInterturnos(int paso);
-    void nuevoClick();
-    void eliminarClick();
-    void imprimirClick();
+    void agregar();
+    void buscar();
+    void imprimir();
 
-    forms::Data Data1{QStringLiteral("Data1")};
-    forms::DBGrid DBGrid1{QStringLiteral("DBGrid1")};
     forms::SSTab SSTab1{QStringLiteral("SSTab1")};
 
     forms::ControlArray<forms::TextBox> Text1{QStringLiteral("Text1")};
@@ -61,19 +58,6 @@ private:
     forms::UpDown UpDown2{QStringLiteral("UpDown2")};
     forms::Label Label9{QStringLiteral("Label9"),
                         QStringLiteral("Utilize el formato HH:mm:ss en su configuracion de Windows")};
-    HerramientaHorarios herramienta{Text2};
+    practice::HerramientaHorarios herramienta{Text2};
     practice::CalendarioAnual calendario;
-
-    forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Nuevo..."),
-                                  QStringLiteral("nuevo")};
-    forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("&Eliminar"),
-                                  QStringLiteral("borrar")};
-    forms::CommandButton Command3{QStringLiteral("Command3"), QStringLiteral("&Guardar"),
-                                  QStringLiteral("guardar")};
-    forms::CommandButton Command4{QStringLiteral("Command4"), QStringLiteral("&Buscar"),
-                                  QStringLiteral("buscar")};
-    forms::CommandButton Command5{QStringLiteral("Command5"), QStringLiteral("&Imprimir"),
-                                  QStringLiteral("imprimir")};
-    forms::CommandButton Command9{QStringLiteral("Command9"), QStringLiteral("&Cerrar"),
-                                  QStringLiteral("cerrar")};
 };
