@@ -129,7 +129,6 @@ void panVisitas::conectar()
     connect(&listas, &ListasDeConsulta::quitado, this,
             [this](int grupo, const QString &nombre) { quitado(static_cast<Grupo>(grupo), nombre); });
     connect(&Command3, &QPushButton::clicked, this, &panVisitas::nueva);
-    connect(&Command4, &QPushButton::clicked, this, &panVisitas::quitar);
     connect(&Command5, &QPushButton::clicked, this, [this] {
         guardar();
         MODULE11::RegistraEvento(
@@ -362,9 +361,6 @@ void panVisitas::irA(qint64 idConsulta)
 
 void panVisitas::quitar()
 {
-    if (!MODULE11::VerificaNivel(u"BorrarConsultas"_s) ||
-        !MODULE11::PreguntaSiBorra(u"Borra esta consulta"_s))
-        return;
     dao::Recordset &consulta = Data2.recordset();
     const qint64 lugar = consulta.absolutePosition();
     MODULE11::RegistraEvento(u"BORRADO DE CONSULTA "_s, u"HC. Nº%1 / Fecha:%2"_s.arg(tag(), textoDeFecha()));

@@ -2,6 +2,7 @@
 
 #include "clinical/visits/listasDeConsulta.h"
 #include "clinical/visits/opcionesDeConsulta.h"
+#include "core/records/comando.h"
 #include "platform/forms/data.h"
 #include "platform/forms/databar.h"
 #include "platform/forms/dbgrid.h"
@@ -64,8 +65,10 @@ private:
 
     forms::CommandButton Command3{QStringLiteral("Command3"), QStringLiteral("&Nueva..."),
                                   QStringLiteral("agregar")};
-    forms::CommandButton Command4{QStringLiteral("Command4"), QStringLiteral("&Quitar"),
-                                  QStringLiteral("borrar")};
+    forms::CommandButton &Command4 = records::comando(
+        *this, QStringLiteral("Command4"), QStringLiteral("&Quitar"), QStringLiteral("borrar"),
+        [this] { quitar(); },
+        {.gate = QStringLiteral("BorrarConsultas"), .question = QStringLiteral("Borra esta consulta")});
     forms::CommandButton Command5{QStringLiteral("Command5"), QStringLiteral("&Guardar"),
                                   QStringLiteral("guardar")};
     forms::CommandButton Command6{QStringLiteral("Command6"), QStringLiteral("&Otorgar Turno..."),

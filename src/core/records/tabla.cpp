@@ -1,7 +1,6 @@
 #include "core/records/tabla.h"
 
 #include "core/records/fichaDelPaciente.h"
-#include "core/security/niveles.h"
 #include "core/services/services.h"
 #include "core/session/session.h"
 
@@ -37,15 +36,7 @@ bool Tabla::queryUnload()
 forms::CommandButton &Tabla::command(const QString &name, const QString &caption, const QString &icon,
                                      std::function<void()> work, Before before)
 {
-    auto *button = new forms::CommandButton(name, caption, icon);
-    button->setParent(this);
-    connect(button, &QPushButton::clicked, this, [before = std::move(before), work = std::move(work)] {
-        if (!before.gate.isEmpty() && !MODULE11::VerificaNivel(before.gate))
-            return;
-        if (before.question.isEmpty() || MODULE11::PreguntaSiBorra(before.question))
-            work();
-    });
-    return *button;
+    return comando(*this, name, caption, icon, std::move(work), std::move(before));
 }
 
 forms::CommandButton &Tabla::rowCommand(const QString &name, const QString &caption, const QString &icon,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/records/comando.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/data.h"
 #include "platform/forms/dbgrid.h"
@@ -10,13 +11,6 @@
 
 namespace records
 {
-
-/// What a command asks before it works: the right of the user, by its key, and a question that a Yes answers.
-/// Empty for none.
-struct Before {
-    QString gate = {};
-    QString question = {};
-};
 
 /// A window over the rows of one table: a grid, the fields of the current row bound to `Data1`, and commands.
 /// What was typed in a row is written when the row is left and when the window closes. A window of this kind

@@ -1,10 +1,8 @@
 #include "practice/appointments/panTurnos.h"
 
-#include "core/security/niveles.h"
 #include "core/services/listas.h"
 #include "core/services/services.h"
 #include "core/session/login.h"
-#include "core/session/screens.h"
 #include "core/session/session.h"
 #include "platform/basic/runtime.h"
 #include "platform/dao/sqltext.h"
@@ -126,11 +124,6 @@ void panTurnos::load()
                               preguntar ? porUsuario : QString());
     });
     connect(&DBGrid2, &DBGrid::accepted, this, &panTurnos::editar);
-    connect(&Command1, &QPushButton::clicked, this, &panTurnos::informe);
-    connect(&Command2, &QPushButton::clicked, this, &panTurnos::otorgar);
-    connect(&Command3, &QPushButton::clicked, this, &panTurnos::borrar);
-    connect(&Command4, &QPushButton::clicked, this, &panTurnos::unload);
-    connect(&Command6, &QPushButton::clicked, this, &panTurnos::cambiarEstado);
 }
 
 /// A doctor sees the own book only. In the mode by user, the others begin with what they gave at the login.
@@ -220,8 +213,6 @@ void panTurnos::prepararDialogo(panNueTurno &dialogo)
 
 void panTurnos::otorgar()
 {
-    if (!MODULE11::VerificaNivel(u"AgregarTurnos"_s))
-        return;
     if (!enLugar()) {
         msgBox(u"Seleccione un horario para agregar un turno."_s, Icon::Exclamation, u"Atención"_s);
         return;
@@ -257,8 +248,7 @@ void panTurnos::editar()
 
 void panTurnos::borrar()
 {
-    if (!enLugar() || !MODULE11::VerificaNivel(u"BorrarTurnos"_s) ||
-        !MODULE11::PreguntaSiBorra(u"Borra el turno Seleccionado"_s))
+    if (!enLugar())
         return;
     const qint64 idTurno = turnoActual();
     turnos::liberar(Data1.recordset());
@@ -276,12 +266,6 @@ void panTurnos::cambiarEstado()
         return;
     turnos::cambiarEstado(Data1.recordset(), dialogo.estado());
     volverA(idTurno);
-}
-
-void panTurnos::informe()
-{
-    if (MODULE11::VerificaNivel(u"IngresarAInformes"_s))
-        screens::showModal("panInfTurnos");
 }
 
 #include "moc_panTurnos.cpp"

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/records/comando.h"
+#include "core/session/screens.h"
 #include "platform/forms/controlarray.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/data.h"
@@ -33,7 +35,6 @@ private:
     void editar();
     void borrar();
     void cambiarEstado();
-    void informe();
 
     forms::MonthView calendar1{QStringLiteral("calendar1")};
     forms::ComboBox Combo1{QStringLiteral("Combo1"), {QStringLiteral("<Todas>")}};
@@ -46,16 +47,22 @@ private:
     forms::Label panelFecha{QStringLiteral("panelFecha")};
     forms::Data Data1{QStringLiteral("Data1")};
     forms::DBGrid DBGrid2{QStringLiteral("DBGrid2")};
-    forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("&Otorgar turno..."),
-                                  QStringLiteral("agregar")};
-    forms::CommandButton Command3{QStringLiteral("Command3"), QStringLiteral("&Borrar turno"),
-                                  QStringLiteral("borrar")};
-    forms::CommandButton Command6{QStringLiteral("Command6"), QStringLiteral("Cambiar &estado..."),
-                                  QStringLiteral("editar")};
-    forms::CommandButton Command5{QStringLiteral("Command5"), QStringLiteral("Imprimi&r"),
-                                  QStringLiteral("imprimir")};
-    forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("I&nforme..."),
-                                  QStringLiteral("informes")};
-    forms::CommandButton Command4{QStringLiteral("Command4"), QStringLiteral("&Cerrar"),
-                                  QStringLiteral("cerrar")};
+    forms::CommandButton &Command2 = records::comando(
+        *this, QStringLiteral("Command2"), QStringLiteral("&Otorgar turno..."), QStringLiteral("agregar"),
+        [this] { otorgar(); }, {.gate = QStringLiteral("AgregarTurnos")});
+    forms::CommandButton &Command3 = records::comando(
+        *this, QStringLiteral("Command3"), QStringLiteral("&Borrar turno"), QStringLiteral("borrar"),
+        [this] { borrar(); },
+        {.gate = QStringLiteral("BorrarTurnos"), .question = QStringLiteral("Borra el turno Seleccionado")});
+    forms::CommandButton &Command6 =
+        records::comando(*this, QStringLiteral("Command6"), QStringLiteral("Cambiar &estado..."),
+                         QStringLiteral("editar"), [this] { cambiarEstado(); });
+    forms::CommandButton &Command5 = records::comando(
+        *this, QStringLiteral("Command5"), QStringLiteral("Imprimi&r"), QStringLiteral("imprimir"), {});
+    forms::CommandButton &Command1 = records::comando(
+        *this, QStringLiteral("Command1"), QStringLiteral("I&nforme..."), QStringLiteral("informes"),
+        [] { screens::showModal("panInfTurnos"); }, {.gate = QStringLiteral("IngresarAInformes")});
+    forms::CommandButton &Command4 =
+        records::comando(*this, QStringLiteral("Command4"), QStringLiteral("&Cerrar"),
+                         QStringLiteral("cerrar"), [this] { unload(); });
 };
