@@ -1,34 +1,11 @@
-#include "clinical/patients/panComFliar.h"
-#include "clinical/patients/panNuePaciente.h"
-#include "clinical/patients/panSelPaciente.h"
-#include "clinical/visits/panNueConsulta.h"
-#include "core/security/panNueUsuario.h"
-#include "core/services/panListados.h"
-#include "core/session/screens.h"
 #include "core/windows/Vademecum.h"
-#include "core/windows/panIngresoUsuario.h"
-#include "core/windows/panSelProf.h"
-#include "delivered.h"
-#include "paediatrics/anthropometry/panMedidas.h"
-#include "platform/forms/application.h"
-#include "platform/forms/controls.h"
-#include "platform/forms/dbgrid.h"
-#include "platform/forms/form.h"
+#include "openwindows.h"
 #include "platform/forms/wrong.h"
-#include "practice/appointments/panCambiaEstadoTurno.h"
-#include "practice/appointments/panDispTurnos.h"
-#include "practice/appointments/panNueTurno.h"
-#include "practice/professionals/panNueProfesional.h"
-#include "subsystems.h"
 
 #include <QKeyEvent>
-#include <QMainWindow>
-#include <QMdiArea>
 #include <QMenuBar>
 #include <QStatusTipEvent>
-#include <QTimer>
 
-#include <map>
 #include <set>
 
 using namespace Qt::StringLiterals;
@@ -36,87 +13,8 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-using Opening = std::function<std::unique_ptr<forms::Form>()>;
-
-template <class Window>
-Opening opening()
+class WindowsTest : public OpenWindows
 {
-    return [] { return std::make_unique<Window>(); };
-}
-
-/// Every window that a menu or another subsystem opens, and the dialogues behind them.
-std::map<QString, Opening> windows()
-{
-    std::map<QString, Opening> all = {
-        {u"panNuePaciente"_s, opening<panNuePaciente>()},
-        {u"panComFliar"_s, opening<panComFliar>()},
-        {u"panSelPaciente"_s, opening<panSelPaciente>()},
-        {u"panNueConsulta"_s, opening<panNueConsulta>()},
-        {u"panNueUsuario"_s, opening<panNueUsuario>()},
-        {u"panIngresoUsuario"_s, opening<panIngresoUsuario>()},
-        {u"panSelProf"_s, opening<panSelProf>()},
-        {u"panMedidas"_s, opening<panMedidas>()},
-        {u"panCambiaEstadoTurno"_s, opening<panCambiaEstadoTurno>()},
-        {u"panDispTurnos"_s, [] { return std::make_unique<panDispTurnos>(basic::today(), 1); }},
-        {u"panNueTurno"_s, opening<panNueTurno>()},
-        {u"panNueProfesional"_s, opening<panNueProfesional>()},
-    };
-    for (const std::string_view name : screens::windows) {
-        const auto window = screens::Window::find(QString::fromLatin1(name.data(), qsizetype(name.size())));
-        if (screens::has(*window))
-            all[window->text()] = [window = *window] { return screens::make(window); };
-    }
-    return all;
-}
-
-/// The main window's area, with the patient and the professional that windows ask for.
-class WindowsTest : public DeliveredBase
-{
-protected:
-    void SetUp() override
-    {
-        DeliveredBase::SetUp();
-        qputenv("SANIRELL_CARPETA", DELIVERED); // its pictures
-        static const bool prepared = [] {
-            forms::Application::dress();
-            app::prepare();
-            return true;
-        }();
-        ASSERT_TRUE(prepared);
-        run({"INSERT INTO Profesionales (idProfesional, Nombre, TipoPermiso) VALUES (1, 'Dr <Su Nombre>', 'T')",
-             "INSERT INTO Pacientes (Numero, [Apellido y Nombres], idProfesional, Sexo, [Fecha de Nacimiento]) "
-             "VALUES (1, 'Álvarez Mía', 0, 'Mujer', cdate('15/03/2023'))",
-             "INSERT INTO Consulta (Paciente, Fecha, Motivo) VALUES (1, cdate('15/03/2024'), 'Control')"});
-        main.setCentralWidget(area);
-        forms::setChildArea(area);
-    }
-    void TearDown() override
-    {
-        forms::setChildArea(nullptr);
-        qunsetenv("SANIRELL_CARPETA");
-        DeliveredBase::TearDown();
-    }
-
-    /// Calls `look` with each window, open in an area of this size.
-    void inEach(QSize room, const std::function<void(forms::Form &)> &look)
-    {
-        main.resize(room);
-        main.show();
-        QCoreApplication::processEvents();
-        for (const auto &[name, open] : windows()) {
-            SCOPED_TRACE(name.toStdString());
-            forms::Form *form = open().release();
-            form->setTag(u"1"_s);
-            form->showChild();
-            QCoreApplication::processEvents();
-            look(*form);
-            form->unload();
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        }
-    }
-
-    QMainWindow main;
-    QMdiArea *area = new QMdiArea;
 };
 
 /// What a person may press with Alt where it is in sight.
