@@ -131,6 +131,7 @@ void panNuePaciente::aceptar()
 void panNuePaciente::imprimir()
 {
     printing::Choice impresora;
+    impresora.name = nombre() + u" - "_s + windowTitle();
     if (!MODULE11::Pregunta(u"Imprime la ficha"_s) || !printing::defaultChoice(impresora))
         return;
     const QList<QWidget *> adornos = {&Command1, &Command2, &Command4, &Command5};
@@ -139,7 +140,7 @@ void panNuePaciente::imprimir()
     const QImage imagen = grab().toImage();
     for (QWidget *adorno : adornos)
         adorno->show();
-    printing::Document documento(impresora, windowTitle() + u' ' + nombre());
+    printing::Document documento(impresora, impresora.name);
     documento.paintPage(imagen);
     documento.endDoc();
 }

@@ -60,6 +60,7 @@ bool imprime(const QString &archivo, const QString &seleccion, const reports::Pa
 {
     reports::Report aImprimir = informe(archivo, seleccion, datos);
     printing::Choice eleccion;
+    eleccion.name = aImprimir.title();
     if (!printing::defaultChoice(eleccion))
         return false;
     forms::Progress avance(u"Se imprime la página"_s);

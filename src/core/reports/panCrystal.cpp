@@ -175,6 +175,7 @@ void panCrystal::buscar()
 void panCrystal::imprimir()
 {
     printing::Choice eleccion;
+    eleccion.name = informe.title();
     if (!printing::chooserDialog(eleccion, informe.title()))
         return;
     forms::Progress avance(u"Se imprime la página"_s);

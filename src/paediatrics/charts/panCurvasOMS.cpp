@@ -121,6 +121,7 @@ void panCurvasOMS::dibujarFila(const charts::WhoChart &chart, dao::Recordset &me
 void panCurvasOMS::imprimir()
 {
     printing::Choice impresora;
+    impresora.name = services::nombreDePaciente(tag()) + u" - "_s + windowTitle();
     if (!printing::defaultChoice(impresora))
         return;
     QImage imagen(Image1.size() * nitidez, QImage::Format_RGB32);
@@ -128,7 +129,7 @@ void panCurvasOMS::imprimir()
     QPainter painter(&imagen);
     Image1.render(&painter);
     painter.end();
-    printing::Document documento(impresora, windowTitle() + u" "_s + services::nombreDePaciente(tag()), true);
+    printing::Document documento(impresora, impresora.name, true);
     documento.print(lblPaciente.caption());
     documento.print(Combo1.value());
     documento.paintPicture(imagen, Image1.sizeTwips().width(), Image1.sizeTwips().height());

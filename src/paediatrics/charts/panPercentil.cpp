@@ -133,9 +133,10 @@ void panPercentil::dibujarTodos()
 void panPercentil::imprimir()
 {
     printing::Choice impresora;
+    impresora.name = windowTitle();
     if (!printing::chooserDialog(impresora, u"Imprimir"_s))
         return;
-    printing::Document documento(impresora, windowTitle());
+    printing::Document documento(impresora, impresora.name);
     documento.setFont(QFont(u"Arial"_s, 15));
     documento.print((chart_.printsDoctor ? u"Dr. "_s : QString()) + MODULE11::DrActual);
     documento.setFont(QFont(u"Arial"_s, 10));

@@ -47,10 +47,12 @@ QString nextDocument(const QString &folder)
     return file;
 }
 
-QString askForPdf()
+QString askForPdf(const QString &name)
 {
+    QString proposal = name.isEmpty() ? QStringLiteral("documento") : name;
+    proposal.replace(u'/', u'-');
     return forms::saveFileDialog(QStringLiteral("Guardar como PDF"),
-                                 QDir::home().filePath(QStringLiteral("documento.pdf")),
+                                 QDir::home().filePath(proposal + QStringLiteral(".pdf")),
                                  QStringLiteral("Archivo PDF (*.pdf)"));
 }
 
@@ -90,18 +92,18 @@ bool chooserDialog(Choice &choice, const QString &title)
     choice.printer = pdf ? QString() : printers->currentText();
     choice.file.clear();
     if (pdf && documentFolder().isEmpty())
-        choice.file = askForPdf();
+        choice.file = askForPdf(choice.name);
     return !pdf || !choice.file.isEmpty() || !documentFolder().isEmpty();
 }
 
 bool defaultChoice(Choice &choice)
 {
-    choice = {};
+    choice = {{}, {}, 1, choice.name};
     if (!documentFolder().isEmpty())
         return true;
     choice.printer = QPrinterInfo::defaultPrinterName();
     if (choice.printer.isEmpty())
-        choice.file = askForPdf();
+        choice.file = askForPdf(choice.name);
     return !choice.printer.isEmpty() || !choice.file.isEmpty();
 }
 

@@ -20,6 +20,7 @@ struct Choice {
     QString printer; ///< a system printer's name; empty for a PDF file
     QString file;    ///< the PDF file
     int copies = 1;
+    QString name{}; ///< what the document is called: proposed for the file
 };
 
 /// The printer dialogue: "Imprimir" and "Cancelar"; false when cancelled.
