@@ -121,7 +121,7 @@ CREATE TABLE [Antecedentes Personales] (paciente LONG, Antecedente TEXT(255), [C
     [Alergia Insectos 18] TEXT(10), [Alergia Insectos 19] TEXT(10), [Alergia Insectos 20] TEXT(10),
     [Alergia Insectos 21] TEXT(10), [Alergia Insectos 22] TEXT(10), [Alergia Insectos 23] TEXT(10),
     [Alergia Insectos 24] TEXT(10));
-CREATE UNIQUE INDEX PrimaryKey ON [Antecedentes Personales] (paciente) WITH PRIMARY;
+CREATE INDEX paciente ON [Antecedentes Personales] (paciente);
 
 CREATE TABLE AntecedentesCardiologicos (idPaciente LONG, [Historia familiar de Enfermedad Cardiaca] BIT,
     [Enfermedad Cardiaca anterior] BIT, Reumatismo BIT, Hipertension BIT, Claudicacion BIT, Flebitis BIT,

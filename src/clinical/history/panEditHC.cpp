@@ -1,5 +1,6 @@
 #include "clinical/history/panEditHC.h"
 
+#include "clinical/history/historiaComoTexto.h"
 #include "clinical/patients/eligePaciente.h"
 #include "core/security/eventos.h"
 #include "core/services/paciente.h"
@@ -51,7 +52,6 @@ panEditHC::panEditHC() : Form(u"panEditHC"_s)
     for (int puntos : {8, 9, 10, 11, 12, 14, 16, 18, 20, 24, 28, 36})
         Combo1.addItem(QString::number(puntos));
     Combo2.addItems(QFontDatabase::families());
-    Command9.setEnabled(false); // until the history can be told as text
 
     setContents(this, Column{
                           Row{Command3, Command1, Command2, Stretch(), Command9},
@@ -78,6 +78,7 @@ panEditHC::panEditHC() : Form(u"panEditHC"_s)
     connect(&Command6, &QPushButton::clicked, &RT1, &QPlainTextEdit::paste);
     connect(&Command7, &QPushButton::clicked, this, [this] { elegirColor(ajusteFondo, u"Fondo"_s); });
     connect(&Command8, &QPushButton::clicked, this, [this] { elegirColor(ajusteLetra, u"Letra"_s); });
+    connect(&Command9, &QPushButton::clicked, this, &panEditHC::agregarInteractiva);
 }
 
 void panEditHC::load()
@@ -172,6 +173,14 @@ void panEditHC::imprimir()
     documento.print(u"----------------------------------"_s);
     documento.print(RT1.toPlainText());
     documento.endDoc();
+}
+
+void panEditHC::agregarInteractiva()
+{
+    const auto numero = services::numeroDePaciente(tag());
+    const QString historia = numero ? clinical::historiaComoTexto(*numero, true) : QString();
+    if (!historia.isEmpty())
+        RT1.setPlainText(RT1.toPlainText() + u'\n' + historia);
 }
 
 void panEditHC::guardar()

@@ -23,6 +23,7 @@ private:
     bool dejarLosCambios();
     void abrirOtra();
     void imprimir();
+    void agregarInteractiva();
     void guardar();
 
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Abrir otra Historia Clínica"),

@@ -154,11 +154,18 @@ constexpr const char *indicesDeVelocidad[] = {
     "CREATE INDEX idConsulta ON ExFisico (idConsulta)",
 };
 
+// The allergy record of a patient and the lines of the patient's history stand in one table: the record has
+// no `Antecedente`. Older files allowed one row a patient.
+constexpr const char *antecedentesDeVariasFilas[] = {
+    "DROP INDEX PrimaryKey ON [Antecedentes Personales]",
+    "CREATE INDEX paciente ON [Antecedentes Personales] (paciente)",
+};
+
 /// A statement that has taken effect fails, and so does one that names a column that never was.
 constexpr std::initializer_list<int> yaHecho = {
-    dao::Error::TableExists,   dao::Error::IndexExists,   dao::Error::FieldExists,
-    dao::Error::FieldNotFound, dao::Error::TableNotFound, dao::Error::ItemNotFound,
-    dao::Error::BadParameters, dao::Error::NotATable,     dao::Error::DuplicateKey};
+    dao::Error::TableExists,   dao::Error::IndexExists,  dao::Error::FieldExists,   dao::Error::FieldNotFound,
+    dao::Error::TableNotFound, dao::Error::ItemNotFound, dao::Error::BadParameters, dao::Error::NotATable,
+    dao::Error::DuplicateKey,  dao::Error::IndexNotFound};
 
 constexpr int largoDeClave = 60;
 
@@ -211,6 +218,7 @@ void ActualizaBase()
     });
     ejecuta(trasLosTamanos);
     ejecuta(indicesDeVelocidad);
+    ejecuta(antecedentesDeVariasFilas);
     reparaTipoDeUsuarios();
     basic::ignoring(yaHecho, [] { BaseDatos.widenText(u"Usuarios"_s, u"Clave"_s, largoDeClave); });
     lista.commit();

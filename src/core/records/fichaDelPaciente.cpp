@@ -19,8 +19,8 @@ std::optional<qint64> pacienteDe(forms::Form &ventana)
 }
 
 FichaDelPaciente::FichaDelPaciente(const QString &ventana, const QString &titulo, const QString &tabla,
-                                   const QString &columna)
-    : Form(ventana), tabla_(tabla), columna_(columna)
+                                   const QString &columna, const QString &condicion)
+    : Form(ventana), tabla_(tabla), columna_(columna), condicion_(condicion)
 {
     setWindowTitle(titulo);
     QFont destacada = lblPaciente.font();
@@ -40,7 +40,8 @@ void FichaDelPaciente::activate()
 
 void FichaDelPaciente::leer(qint64 paciente)
 {
-    Data1.setRecordSource(u"Select * from [%1] where [%2] = %3"_s.arg(tabla_, columna_).arg(paciente));
+    Data1.setRecordSource(u"Select * from [%1] where [%2] = %3 and (%4)"_s.arg(
+        tabla_, columna_, QString::number(paciente), condicion_));
     Data1.refresh();
     if (Data1.hasRow())
         return;

@@ -19,9 +19,10 @@ class FichaDelPaciente : public forms::Form
 {
     Q_OBJECT
 protected:
-    /// `columna` of `tabla` holds the patient's number.
+    /// `columna` of `tabla` holds the patient's number. Where the table has rows of another kind beside the
+    /// record, `condicion` tells the record's.
     FichaDelPaciente(const QString &ventana, const QString &titulo, const QString &tabla,
-                     const QString &columna);
+                     const QString &columna, const QString &condicion = QStringLiteral("True"));
 
     /// Once, after the row has been read.
     virtual void filaLeida() {}
@@ -34,7 +35,7 @@ protected:
 
 private:
     void leer(qint64 paciente);
-    QString tabla_, columna_;
+    QString tabla_, columna_, condicion_;
 };
 
 } // namespace records
