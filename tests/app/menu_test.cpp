@@ -22,7 +22,7 @@ const std::set<std::string> notBuiltYet{
     "panImagenes",      "panImportAfiliados", "panInformes",     "panMadNeurol",      "panObras",
     "panOft",           "panPlanVacunas",     "panPrestaciones", "panProtBase",       "panRiesgoOperatorio",
     "panServices",      "panTension",         "panTestCardio",   "panVidaSexual",     "panVisual",
-    "pan_Recetario",    "panfichaPer",        "tooth",
+    "panfichaPer",      "tooth",
 };
 
 bool leadsIntoTheProgram(menu::Kind kind)

@@ -66,6 +66,14 @@ bool imprime(const QString &archivo, const QString &seleccion, const reports::Pa
     return reports::print(aImprimir, eleccion, [&](qint64 pagina) { return avance.tell(pagina + 1); });
 }
 
+void escribePdf(const QString &archivo, const QString &seleccion, const QString &destino)
+{
+    reports::Report aGuardar = informe(archivo, seleccion, {});
+    printing::Choice eleccion;
+    eleccion.file = destino;
+    reports::print(aGuardar, eleccion);
+}
+
 void guardaPdf(reports::Report &informe)
 {
     printing::Choice eleccion;
