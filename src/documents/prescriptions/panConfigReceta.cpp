@@ -27,12 +27,14 @@ namespace
 const QString seccion = u"Configuracion"_s;
 const QString claveDeCuadricula = u"Alinear objetos de la receta"_s;
 constexpr double cuadricula = 150; // twips
-constexpr QPointF lugarInicial{600, 600};
 const QString picture1 = u"Picture1"_s;
 
 /// The picture's place while there is none, to click on.
-const Look marcoDeImagen =
-    polygon(QRectF(0, 0, 1200, 900), QColor(0xf2, 0xf5, 0xf7), QColor(0x9a, 0xa8, 0xb3));
+Look marcoDeImagen()
+{
+    const Picture marco(u":/marco.svg"_s);
+    return PictureLook{marco, marco.sizeTwips()};
+}
 
 QPointF esquina(const Papel &papel)
 {
@@ -53,6 +55,12 @@ const Entregado *entregado(const QString &tabla)
         if (diseno.tabla.compare(tabla, Qt::CaseInsensitive) == 0)
             return &diseno;
     return nullptr;
+}
+
+/// Where objects go that were not dragged to a place: one below the other.
+QPointF lugarLibre(const Diseno &diseno)
+{
+    return QPointF(600, 600) + QPointF(150, 300) * static_cast<double>(diseno.elementos.size() % 10);
 }
 
 /// A picture beside the program is found by every workstation, wherever the folder is for it.
@@ -132,7 +140,7 @@ void panConfigReceta::conectar()
         if (item == picture1)
             elegirImagen();
     });
-    connect(&menuAgregarObjeto, &QAction::triggered, this, [this] { agregar(lugarInicial); });
+    connect(&menuAgregarObjeto, &QAction::triggered, this, [this] { agregar(lugarLibre(diseno_)); });
     connect(&menuPropiedades, &QAction::triggered, this, &panConfigReceta::propiedades);
     connect(&menuEliminar, &QAction::triggered, this, &panConfigReceta::eliminar);
     connect(&Check1, &QCheckBox::toggled, this, [this](bool alinear) {
@@ -140,7 +148,7 @@ void panConfigReceta::conectar()
         settings::saveSetting(seccion, claveDeCuadricula, alinear ? u"SI"_s : u"NO"_s);
     });
     connect(&Combo1, &QComboBox::currentIndexChanged, this, &panConfigReceta::elegirPapel);
-    connect(&Command1, &QPushButton::clicked, this, [this] { agregar(lugarInicial); });
+    connect(&Command1, &QPushButton::clicked, this, [this] { agregar(lugarLibre(diseno_)); });
     connect(&Command2, &QPushButton::clicked, this, &panConfigReceta::imprimirPrueba);
     connect(&Command3, &QPushButton::clicked, this, &panConfigReceta::guardar);
     connect(&Command4, &QPushButton::clicked, this, &panConfigReceta::unload);
@@ -200,7 +208,7 @@ void panConfigReceta::mostrarImagen(const Imagen &imagen)
         problema = error.description();
     }
     if (!Picture2.imagen().isVisible()) {
-        Picture2.imagen().setLook(marcoDeImagen);
+        Picture2.imagen().setLook(marcoDeImagen());
         Picture2.imagen().setVisible(true);
     }
     if (!problema.isEmpty())

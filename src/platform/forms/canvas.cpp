@@ -254,7 +254,7 @@ void Canvas::drawBackground(QPainter *painter, const QRectF &rect)
 
 void Canvas::drawGrid(QPainter &painter, const QRectF &rect) const
 {
-    painter.setPen(QPen(palette().color(QPalette::Midlight), 0));
+    painter.setPen(QPen(palette().color(QPalette::Mid), 0));
     for (double x = std::ceil(rect.left() / grid_) * grid_; x <= rect.right(); x += grid_)
         painter.drawLine(QPointF(x, rect.top()), QPointF(x, rect.bottom()));
     for (double y = std::ceil(rect.top() / grid_) * grid_; y <= rect.bottom(); y += grid_)
