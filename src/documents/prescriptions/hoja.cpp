@@ -126,7 +126,7 @@ void Hoja::mostrarImagen(const Imagen &imagen)
         return;
     const Picture dibujo(basic::programFile(imagen.archivo));
     QSizeF medida = dibujo.sizeTwips();
-    const QSizeF lugar = {papel_->medida.width(), papel_->receta.top()};
+    const QSizeF lugar = {papel_->medida.width(), papel_->receta.top() / 2};
     if (medida.width() > lugar.width() || medida.height() > lugar.height())
         medida.scale(lugar, Qt::KeepAspectRatio);
     imagen_->setLook(PictureLook{dibujo, medida});

@@ -41,8 +41,8 @@ public:
     std::optional<int> numeroDe(const QString &nombre) const;
 
     forms::CanvasItem &imagen() { return *imagen_; }
-    /// Shows a picture as large as it was made, within the head of the sheet. Throws basic::Error for a file
-    /// that is none; the picture is then at its place, unseen.
+    /// Shows a picture as large as it was made, and no higher than half the head of the sheet. Throws
+    /// basic::Error for a file that is none; the picture is then at its place, unseen.
     void mostrarImagen(const Imagen &imagen);
 
 private:

@@ -63,6 +63,13 @@ QPointF lugarLibre(const Diseno &diseno)
     return QPointF(600, 600) + QPointF(150, 300) * static_cast<double>(diseno.elementos.size() % 10);
 }
 
+/// A picture may be larger than the frame that was there for it.
+void traerALaHoja(CanvasItem &item, const Papel &papel)
+{
+    const QSizeF lugar = papel.medida - item.place().size();
+    item.setPos(qBound(0.0, item.x(), lugar.width()), qBound(0.0, item.y(), lugar.height()));
+}
+
 /// A picture beside the program is found by every workstation, wherever the folder is for it.
 QString rutaParaGuardar(const QString &archivo)
 {
@@ -290,6 +297,7 @@ void panConfigReceta::elegirImagen()
     const Imagen anterior{forms::tag(&Picture2.imagen()), Picture2.imagen().pos()};
     try {
         Picture2.mostrarImagen({rutaParaGuardar(archivo), anterior.lugar});
+        traerALaHoja(Picture2.imagen(), Picture2.papel());
     } catch (const basic::Error &error) {
         mostrarImagen(anterior);
         MODULE11::MuestraError(error.description());

@@ -142,7 +142,9 @@ void Canvas::placeHeld()
     for (const Held &held : held_) {
         if (!held.control)
             continue;
-        held.control->setGeometry(mapFromScene(held.place).boundingRect());
+        const QPoint corner = mapFromScene(held.place.topLeft());
+        const QPoint opposite = mapFromScene(held.place.bottomRight());
+        held.control->setGeometry(QRect(corner, QSize(opposite.x() - corner.x(), opposite.y() - corner.y())));
         QFont font = held.control->font();
         font.setPointSizeF(held.points * zoom_);
         held.control->setFont(font);

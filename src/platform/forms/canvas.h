@@ -104,9 +104,9 @@ private:
             this, [=, this] { (this->*signal)(arguments...); }, Qt::QueuedConnection);
     }
 
+    std::vector<Held> held_; ///< outlives the scene, which scrolls the view once more as it goes
     QGraphicsScene scene_;
     Picture background_;
-    std::vector<Held> held_;
     double grid_ = 0;
     bool gridShown_ = false;
     double zoom_ = 1;

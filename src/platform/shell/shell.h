@@ -15,8 +15,8 @@ bool start(Tool tool, const QString &argument = {});
 
 /// Whether there is a mail program to hand a message to.
 bool canMail();
-/// Opens a new message with a file attached in the mail program; it goes out when the person sends it. Without
-/// an address the person writes it. False when the mail program cannot be started.
+/// Opens a new message with a file attached in the mail program; it goes out when the person sends it.
+/// Without an address the person writes it. False when the mail program cannot be started.
 bool mail(const QString &address, const QString &subject, const QString &attachment);
 
 /// True for the first process of this executable on this machine and session that asks; it stays so until
