@@ -474,6 +474,7 @@ CREATE INDEX Nombre ON Profesionales (Nombre);
 
 CREATE TABLE Recetario (Paciente TEXT(100), fecha DATE, Receta MEMO);
 CREATE INDEX fecha ON Recetario (fecha);
+CREATE INDEX fechaPaciente ON Recetario (fecha, Paciente);
 
 CREATE TABLE RelPractico (codpresupuesto LONG, codpractico LONG, idpresupuesto LONG, idpractico LONG,
     cantidad DOUBLE, precio CURRENCY, subtotal CURRENCY);
