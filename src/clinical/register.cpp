@@ -10,6 +10,7 @@
 #include "clinical/patients/eligePaciente.h"
 #include "clinical/patients/fichas.h"
 #include "clinical/patients/hc.h"
+#include "clinical/summary/panEstadPaciente.h"
 #include "clinical/visits/panVisitas.h"
 #include "core/session/ports.h"
 #include "core/session/screens.h"
@@ -33,6 +34,7 @@ void clinical::registerScreens()
     screens::add<panEditHC>("panEditHC");
     screens::add<hc>("hc");
     screens::add<panVisitas>("panVisitas");
+    screens::add<panEstadPaciente>("panEstadPaciente");
     screens::add<panSintomas>("panSintomas");
     screens::add<panDiagnosticos>("panDiagnosticos");
     screens::add<panTratamientos>("panTratamientos");

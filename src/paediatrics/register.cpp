@@ -2,6 +2,7 @@
 
 #include "core/session/ports.h"
 #include "core/session/screens.h"
+#include "paediatrics/anthropometry/imcNormal.h"
 #include "paediatrics/anthropometry/medidas.h"
 #include "paediatrics/anthropometry/panCrecimiento.h"
 #include "paediatrics/charts/chartcatalogue.h"
@@ -14,6 +15,7 @@ using namespace Qt::StringLiterals;
 void paediatrics::registerScreens()
 {
     ports::tomarMedidas.provide(TomarMedidas);
+    ports::imcNormal.provide(imcNormal);
     screens::add<panCrecimiento>("panCrecimiento");
     screens::add<panMuesCurvas>("panMuesCurvas");
     screens::add<panCurvasOMS>("panCurvasOMS");

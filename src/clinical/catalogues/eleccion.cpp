@@ -25,23 +25,6 @@ Renglon renglonDe(const records::Catalogo &catalogo)
     return {catalogo.tag(), elegidos.front().id};
 }
 
-std::optional<Renglon> eligeEnCIE10()
-{
-    if (!MODULE11::VerificaNivel(u"IngresarACie10"_s))
-        return {};
-    panCIE10 clasificacion;
-    clasificacion.showModal();
-    if (clasificacion.tag() == u"NO")
-        return {};
-    const auto id = basic::toNumber(clasificacion.idDiagnosticoCIE());
-    if (!id) {
-        forms::msgBox(u"Seleccione una enfermedad o patología de la última ramificación dentro del CIE10"_s,
-                      forms::Icon::Critical, u"Error"_s);
-        return {};
-    }
-    return Renglon{clasificacion.tag(), static_cast<qint64>(*id)};
-}
-
 } // namespace
 
 std::vector<Renglon> catalogos::eligeSintomas()
@@ -61,11 +44,33 @@ Renglon catalogos::eligeTratamiento(const QString &paciente)
     return renglonDe(tratamientos);
 }
 
-std::optional<Renglon> catalogos::eligeDiagnostico()
+std::optional<Renglon> catalogos::eligeEnCIE10()
 {
-    if (settings::getSetting(u"Configuracion"_s, u"Clasificador patologico"_s) == u"CIE10")
-        return eligeEnCIE10();
+    if (!MODULE11::VerificaNivel(u"IngresarACie10"_s))
+        return {};
+    panCIE10 clasificacion;
+    clasificacion.showModal();
+    if (clasificacion.tag() == u"NO")
+        return {};
+    const auto id = basic::toNumber(clasificacion.idDiagnosticoCIE());
+    if (!id) {
+        forms::msgBox(u"Seleccione una enfermedad o patología de la última ramificación dentro del CIE10"_s,
+                      forms::Icon::Critical, u"Error"_s);
+        return {};
+    }
+    return Renglon{clasificacion.tag(), static_cast<qint64>(*id)};
+}
+
+std::optional<Renglon> catalogos::eligeDeLosPropios(const QString &clasificacion)
+{
     panDiagnosticos diagnosticos;
+    diagnosticos.setTag(clasificacion);
     diagnosticos.showModal();
     return renglonDe(diagnosticos);
+}
+
+std::optional<Renglon> catalogos::eligeDiagnostico()
+{
+    const bool enCIE10 = settings::getSetting(u"Configuracion"_s, u"Clasificador patologico"_s) == u"CIE10";
+    return enCIE10 ? eligeEnCIE10() : eligeDeLosPropios();
 }

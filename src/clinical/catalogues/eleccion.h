@@ -23,4 +23,9 @@ Renglon eligeTratamiento(const QString &paciente);
 /// the classification is not allowed to the user, or what was chosen there is no disease.
 std::optional<Renglon> eligeDiagnostico();
 
+/// The same from the practice's own list, narrowed to a classification.
+std::optional<Renglon> eligeDeLosPropios(const QString &clasificacion = {});
+/// The same from the international classification, behind its right.
+std::optional<Renglon> eligeEnCIE10();
+
 } // namespace catalogos

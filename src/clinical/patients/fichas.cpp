@@ -1,6 +1,7 @@
 #include "clinical/patients/fichas.h"
 
 #include "clinical/patients/eligePaciente.h"
+#include "clinical/patients/filaDePaciente.h"
 #include "clinical/patients/panNuePaciente.h"
 #include "core/security/eventos.h"
 #include "core/services/paciente.h"
@@ -63,38 +64,10 @@ void agregarPaciente(const panNuePaciente &ficha, qint64 idProfesional)
     dao::Recordset pacientes = MODULE11::BaseDatos.openRecordset(u"Pacientes"_s);
     pacientes.addNew();
     pacientes[u"Numero"] = ficha.numero().value();
-    pacientes[u"Apellido y nombres"] = ficha.nombre();
-    pacientes[u"Fecha de Nacimiento"] = ficha.nacimiento();
-    pacientes[u"Documento"] = ficha.documento();
-    pacientes[u"sexo"] = ficha.sexo();
-    pacientes[u"Grupo sanguineo"] = ficha.grupoSanguineo();
-    pacientes[u"obra social"] = ficha.obraSocial();
-    pacientes[u"Numero de afiliado"] = ficha.numeroDeAfiliado();
-    pacientes[u"Situacion Conyugal"] = ficha.situacionConyugal();
+    clinical::escribeIdentidad(pacientes, ficha);
     pacientes[u"Historia Clinica"] = u"-"_s;
-    pacientes[u"Domicilio"] = ficha.domicilio();
-    pacientes[u"Localidad"] = ficha.localidad();
-    pacientes[u"Telefono"] = ficha.telefono();
-    pacientes[u"Provincia"] = ficha.provincia();
-    pacientes[u"Pais"] = ficha.pais();
-    pacientes[u"Es turista o esporadico"] = ficha.esTurista();
     pacientes[u"idProfesional"] = idProfesional;
-    pacientes[u"email"] = ficha.email();
-    pacientes[u"Barrio"] = ficha.barrio();
-    pacientes[u"CodigoPostal"] = ficha.codigoPostal();
     pacientes.update();
-}
-
-void agregarPatologiasFamiliares(const panComFliar &familia, qint64 numero)
-{
-    dao::Recordset patologias = MODULE11::BaseDatos.openRecordset(u"Patologias Familiares"_s);
-    const QStringList lista = familia.patologias();
-    for (auto patologia = lista.rbegin(); patologia != lista.rend(); ++patologia) {
-        patologias.addNew();
-        patologias[u"Paciente"] = numero;
-        patologias[u"Patologia"] = *patologia;
-        patologias.update();
-    }
 }
 
 void agregarPediatria(const panNuePaciente &ficha)
@@ -103,15 +76,8 @@ void agregarPediatria(const panNuePaciente &ficha)
     pediatria.addNew();
     pediatria[u"Numero"] = ficha.numero().value();
     if (const panComFliar *familia = ficha.condicionFamiliar()) {
-        pediatria[u"Nombre del padre"] = familia->nombreDelPadre();
-        pediatria[u"Nombre de la madre"] = familia->nombreDeLaMadre();
-        pediatria[u"Fecha Nacim Padre"] = familia->nacimientoDelPadre();
-        pediatria[u"Fecha Nacim Madre"] = familia->nacimientoDeLaMadre();
-        pediatria[u"Ocupacion Padre"] = familia->ocupacionDelPadre();
-        pediatria[u"Ocupacion Madre"] = familia->ocupacionDeLaMadre();
-        pediatria[u"Hs permanencia padre"] = familia->horasDelPadre();
-        pediatria[u"Hs permanencia madre"] = familia->horasDeLaMadre();
-        agregarPatologiasFamiliares(*familia, ficha.numero().value());
+        clinical::escribeFamilia(pediatria, *familia);
+        clinical::reemplazaPatologiasFamiliares(ficha.numero().value(), familia->patologias());
     }
     pediatria.update();
 }

@@ -58,6 +58,25 @@ panComFliar::panComFliar() : Form(u"panComFliar"_s)
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
 }
 
+void panComFliar::mostrar(dao::Recordset *pediatria, const QStringList &patologias)
+{
+    List1.clear();
+    List1.addItems(patologias);
+    if (!pediatria)
+        return;
+    static constexpr const char16_t *columnas[][4] = {
+        {u"Nombre del padre", u"Fecha Nacim Padre", u"Ocupacion Padre", u"Hs permanencia padre"},
+        {u"Nombre de la Madre", u"Fecha Nacim Madre", u"Ocupacion Madre", u"Hs permanencia madre"}};
+    for (const Progenitor quien : {padre, madre}) {
+        const auto &[nombre, nacio, ocupacion, horas] = columnas[quien];
+        Text1(quien).setText((*pediatria)[nombre].text());
+        Combo1(quien).setValue((*pediatria)[ocupacion].text());
+        Text2(quien).setText((*pediatria)[horas].text());
+        const basic::Value fecha = (*pediatria)[nacio];
+        (quien == padre ? mFPa : mFMa).setValue(fecha.isNull() ? basic::Date(sinFecha) : fecha.date());
+    }
+}
+
 basic::Value panComFliar::nacimiento(const DTPicker &fecha) const
 {
     return fecha.value().date() == sinFecha ? basic::Value(basic::Null{}) : basic::Value(fecha.value());

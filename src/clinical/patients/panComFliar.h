@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/basic/value.h"
+#include "platform/dao/recordset.h"
 #include "platform/forms/controlarray.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
@@ -12,6 +13,9 @@ class panComFliar : public forms::Form
     Q_OBJECT
 public:
     panComFliar();
+
+    /// Shows what a family's row holds; without one, the pathologies alone.
+    void mostrar(dao::Recordset *pediatria, const QStringList &patologias);
 
     QString nombreDelPadre() const { return Text1(padre).text(); }
     QString nombreDeLaMadre() const { return Text1(madre).text(); }

@@ -53,10 +53,14 @@ panNuePaciente::panNuePaciente() : Form(u"panNuePaciente"_s)
                                                            {u"E-mail :"_s, Text1(cEmail)}}}),
                           Group(u"Cobertura y profesional"_s,
                                 Row{Fields{{QString(), Check1}, {Label1, Combo1}, {Label2, Text1(cAfiliado)}},
-                                    Fields{{u"P&rofesional :"_s, Combo3}}}),
+                                    Fields{{u"P&rofesional :"_s, Combo3}, {lblBaja, dtBaja}}}),
                           Row{Command4, Command5, Stretch(), Command1, Command2},
                       });
     setMinimumWidth(820);
+
+    lblBaja.hide();
+    dtBaja.hide();
+    dtBaja.setDate({});
 
     const QList<QWidget *> cobertura = {&Label1, &Combo1, &Label2, &Text1(cAfiliado)};
     for (QWidget *control : cobertura) {
@@ -69,18 +73,59 @@ panNuePaciente::panNuePaciente() : Form(u"panNuePaciente"_s)
     connect(&Command5, &QPushButton::clicked, this, &panNuePaciente::imprimir);
 }
 
+void panNuePaciente::mostrar(dao::Recordset &paciente, dao::Recordset *pediatria,
+                             const QStringList &patologias)
+{
+    static constexpr const char16_t *columnas[] = {
+        u"Numero",       u"Apellido y Nombres", u"Documento", u"Domicilio", u"Barrio", u"Localidad",
+        u"CodigoPostal", u"Provincia",          u"Pais",      u"Telefono",  u"email",  u"Numero de Afiliado"};
+    edita_ = true;
+    setWindowTitle(u"Edición de datos básicos del paciente"_s);
+    llenarListas();
+    for (int campo = cNumero; campo <= cAfiliado; ++campo)
+        Text1(campo).setText(paciente[columnas[campo]].text());
+    Text1(cNumero).setEnabled(false);
+    if (const basic::Value nacimiento = paciente[u"Fecha de Nacimiento"]; !nacimiento.isNull())
+        DTPicker1.setValue(nacimiento.date());
+    Combo2.setValue(paciente[u"Grupo Sanguineo"].text());
+    mSexo.setValue(paciente[u"Sexo"].text());
+    Combo4.setValue(paciente[u"Situacion Conyugal"].text());
+    const QString cobertura = paciente[u"Obra Social"].text();
+    if (!cobertura.isEmpty() && Combo1.findText(cobertura) < 0)
+        Combo1.addItem(cobertura); // one that is in the catalogue no more stays the patient's
+    Combo1.setValue(cobertura);
+    Check1.setChecked(!cobertura.isEmpty());
+    Check2.setChecked(paciente[u"Es turista o esporadico"].truth());
+    Combo3.setValue(MODULE11::BuscaCampo(u"Select Nombre from Profesionales where idProfesional = %1"_s.arg(
+                                             paciente[u"idProfesional"].integer()),
+                                         u"Nombre")
+                        .text());
+    Combo3.setEnabled(false);
+    lblBaja.show();
+    dtBaja.setVisible(true);
+    dtBaja.setFieldValue(paciente[u"FechaBaja"]);
+    familia_.mostrar(pediatria, patologias);
+}
+
+void panNuePaciente::llenarListas()
+{
+    Combo2.addItems(gruposSanguineos);
+    mSexo.addItems({u"Varon"_s, u"Mujer"_s});
+    MODULE11::LlenaLista(Combo1, u"Select * from [Obra Social]"_s, u"Descripcion");
+    MODULE11::LlenaLista(Combo3, u"Select * from Profesionales"_s, u"Nombre");
+}
+
 void panNuePaciente::load()
 {
     Command4.setEnabled(settings::applicationTitle() != u"Sanirell! Modulo secretaria");
+    if (edita_)
+        return;
     Combo3.setEnabled(MODULE11::TipoUsuario != u"M");
-    Combo2.addItems(gruposSanguineos);
-    mSexo.addItems({u"Varon"_s, u"Mujer"_s});
+    llenarListas();
     Combo2.setCurrentIndex(-1);
     mSexo.setCurrentIndex(-1);
     Combo4.setCurrentIndex(-1);
     ofrecerNumero();
-    MODULE11::LlenaLista(Combo1, u"Select * from [Obra Social]"_s, u"Descripcion");
-    MODULE11::LlenaLista(Combo3, u"Select * from Profesionales"_s, u"Nombre");
     Combo3.setValue(MODULE11::DrActual);
 }
 
@@ -118,7 +163,7 @@ bool panNuePaciente::numeroAceptado()
 
 void panNuePaciente::aceptar()
 {
-    if (!numeroAceptado())
+    if (!edita_ && !numeroAceptado())
         return;
     if (nombre().trimmed().isEmpty()) {
         MODULE11::MuestraError(u"Datos mal ingresados"_s);

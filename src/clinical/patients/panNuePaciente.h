@@ -13,6 +13,9 @@ class panNuePaciente : public forms::Form
 public:
     panNuePaciente();
 
+    /// Edits a patient who is there: shows what the row holds. The number stays as it is.
+    void mostrar(dao::Recordset &paciente, dao::Recordset *pediatria, const QStringList &patologias);
+
     /// As it was read; nothing while the field holds "<No>" or no number.
     std::optional<qint64> numero() const { return services::numeroDePaciente(Text1(cNumero).text()); }
     QString nombre() const { return Text1(cNombre).text(); }
@@ -33,6 +36,8 @@ public:
     QString email() const { return Text1(cEmail).text(); }
     QString barrio() const { return Text1(cBarrio).text(); }
     QString codigoPostal() const { return Text1(cCodigoPostal).text(); }
+    bool editaBaja() const { return edita_; } ///< the day of discharge is shown only of who is there
+    basic::Value fechaDeBaja() const { return dtBaja.fieldValue(); }
     /// The family's condition, or null when it was not accepted.
     const panComFliar *condicionFamiliar() const;
 
@@ -56,6 +61,7 @@ private:
         cAfiliado
     };
 
+    void llenarListas();
     void ofrecerNumero();
     bool numeroAceptado();
     void aceptar();
@@ -80,5 +86,8 @@ private:
                                   QStringLiteral("familia")};
     forms::CommandButton Command5{QStringLiteral("Command5"), QStringLiteral("&Imprimir"),
                                   QStringLiteral("imprimir")};
+    forms::DTPicker dtBaja{QStringLiteral("dtBaja"), forms::DTPicker::Presence::Optional};
+    forms::Label lblBaja{QStringLiteral("lblBaja"), QStringLiteral("Fecha de &baja :")};
     panComFliar familia_;
+    bool edita_ = false;
 };

@@ -14,6 +14,9 @@ class panNueConsulta : public forms::Form
 public:
     panNueConsulta();
 
+    /// The speciality that the visit is of, for the person to change; the doctor's own otherwise.
+    void proponerEspecialidad(const QString &especialidad) { comboEspecialidad.setValue(especialidad); }
+
     consultas::Visita visita() const;
 
 protected:

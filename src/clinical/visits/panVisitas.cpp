@@ -1,6 +1,6 @@
 #include "clinical/visits/panVisitas.h"
 
-#include "clinical/visits/panNueConsulta.h"
+#include "clinical/visits/nuevaConsulta.h"
 #include "core/security/eventos.h"
 #include "core/security/niveles.h"
 #include "core/services/services.h"
@@ -328,30 +328,11 @@ void panVisitas::nueva()
     if (!MODULE11::VerificaNivel(u"AgregarConsultas"_s))
         return;
     Data2.updateRecord(); // a text that is refused is put right before, not once the new visit is recorded
-    panNueConsulta captura;
-    std::optional<Registrada> registrada;
-    while (!registrada) {
-        captura.setTag(tag());
-        captura.showModal();
-        if (captura.tag() != u"SI")
-            return;
-        registrada = registrar(captura.visita());
-    }
+    const std::optional<Registrada> registrada = capturaYRegistra(tag());
+    if (!registrada)
+        return;
     irA(registrada->idConsulta);
-    if (!registrada->examenSinGuardar.isEmpty())
-        MODULE11::MuestraError(u"La consulta se guardó, pero no todo su examen físico.\n"_s +
-                               registrada->examenSinGuardar);
-}
-
-/// Nothing when the visit is not stored: it was told, and what was typed must not be lost.
-std::optional<Registrada> panVisitas::registrar(const Visita &visita)
-{
-    try {
-        return registrarConsulta(tag(), visita);
-    } catch (const dao::Error &error) {
-        MODULE11::MuestraError(u"La consulta no se guardó.\n"_s + error.description());
-        return std::nullopt;
-    }
+    avisaExamenSinGuardar(*registrada);
 }
 
 void panVisitas::irA(qint64 idConsulta)

@@ -43,7 +43,6 @@ private:
     void agregados(consultas::Grupo grupo, const QStringList &nombres);
     void quitado(consultas::Grupo grupo, const QString &nombre);
     void nueva();
-    std::optional<consultas::Registrada> registrar(const consultas::Visita &visita);
     void irA(qint64 idConsulta);
     void quitar();
     void abrirHistoria();

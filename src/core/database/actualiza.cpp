@@ -161,6 +161,8 @@ constexpr const char *antecedentesDeVariasFilas[] = {
     "CREATE INDEX paciente ON [Antecedentes Personales] (paciente)",
 };
 
+constexpr const char *columnasDelResumen[] = {"ALTER TABLE Gineco ADD COLUMN Paridad TEXT(30)"};
+
 /// A statement that has taken effect fails, and so does one that names a column that never was.
 constexpr std::initializer_list<int> yaHecho = {
     dao::Error::TableExists,   dao::Error::IndexExists,  dao::Error::FieldExists,   dao::Error::FieldNotFound,
@@ -219,6 +221,7 @@ void ActualizaBase()
     ejecuta(trasLosTamanos);
     ejecuta(indicesDeVelocidad);
     ejecuta(antecedentesDeVariasFilas);
+    ejecuta(columnasDelResumen);
     reparaTipoDeUsuarios();
     basic::ignoring(yaHecho, [] { BaseDatos.widenText(u"Usuarios"_s, u"Clave"_s, largoDeClave); });
     lista.commit();

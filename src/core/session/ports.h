@@ -42,6 +42,8 @@ inline Port<void(qint64 paciente)> abreFicha;
 inline Port<void(std::optional<qint64> paciente)> otorgaTurno;
 /// Takes a patient's measures and stores them; true when they were.
 inline Port<bool(qint64 paciente)> tomarMedidas;
+/// From and to what the body-mass index is normal at that age; nothing where there are no figures.
+inline Port<std::optional<std::pair<double, double>>(const QString &sexo, qint64 diasDeVida)> imcNormal;
 /// Shows the prescription sheet of a patient with a text to begin with: the prescription to keep, without the
 /// point that ends it in the file; nothing when it was closed.
 inline Port<std::optional<QString>(qint64 paciente, const QString &textoInicial)> emiteReceta;

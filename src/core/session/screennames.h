@@ -87,6 +87,14 @@ inline constexpr std::string_view windows[] = {
     "panVidaSexual",
     "panVisitas",
     "panVisual",
+    "panAntPerinatales",
+    "panAnteCardio",
+    "panAnteGineco",
+    "panComplem",
+    "panGinecoGestas",
+    "panObtFoto",
+    "panResPerinat",
+    "pancapVideo",
     "tooth",
 };
 // clang-format on

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QStringList>
+
+/// The lists of the patient's page. They throw dao::Error.
+namespace clinical
+{
+
+/// The family's pathologies, and what each relative had.
+QStringList antecedentesFamiliares(qint64 paciente);
+QStringList antecedentesPersonales(qint64 paciente);
+/// Writes the whole list of personal history; the allergy record, which stands in the same table, stays.
+void guardaAntecedentesPersonales(qint64 paciente, const QStringList &antecedentes);
+
+/// Pathologies and diagnoses of the newborn, a line of dashes, and what the birth record says. Nothing where
+/// none of it says anything.
+QStringList renglonesPerinatales(qint64 paciente);
+
+} // namespace clinical

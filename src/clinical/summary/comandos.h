@@ -1,0 +1,39 @@
+#pragma once
+
+#include "clinical/summary/estados.h"
+#include "core/session/screennames.h"
+
+#include <span>
+
+namespace clinical
+{
+
+/// Where a command of the patient's page stands: on the panel of a speciality, or on the bar of all.
+enum class Lugar { Pediatria, Alergia, Oftalmologia, Cardiologia, Odontologia, Ginecologia, Barra };
+
+/// A command of the page that opens a window of the patient. The alarm is the icon beside it that a person
+/// colours; two commands of one alarm show the same mark.
+struct Comando {
+    const char *control, *caption;
+    Lugar lugar;
+    const char *ventana;
+    const char *nivel = "";
+    const char *titulo = ""; ///< before the patient's name; the window's own caption without
+    bool hija = false;       ///< a child window; the others are modal
+    const char *alarma = "", *tema = "";
+};
+
+std::span<const Comando> comandos();
+
+/// A speciality, with the icon that leads to it and the panel that it shows.
+struct Especialidad {
+    const char *nombre;
+    int icono, panel;
+    const char *dibujo;
+};
+std::span<const Especialidad> especialidadesDelResumen();
+
+/// What the text names; paediatrics for an unknown one.
+const Especialidad &especialidadDe(const QString &nombre);
+
+} // namespace clinical

@@ -1,0 +1,788 @@
+#include "clinical/summary/panEstadPaciente.h"
+
+#include "clinical/catalogues/eleccion.h"
+#include "clinical/history/historiaComoTexto.h"
+#include "clinical/patients/filaDePaciente.h"
+#include "clinical/summary/antecedentes.h"
+#include "clinical/summary/foto.h"
+#include "clinical/summary/vacunasDelPlan.h"
+#include "clinical/visits/nuevaConsulta.h"
+#include "core/security/alarmas.h"
+#include "core/security/eventos.h"
+#include "core/security/niveles.h"
+#include "core/services/hallazgosPerinatales.h"
+#include "core/services/paciente.h"
+#include "core/services/panSelFecha.h"
+#include "core/services/services.h"
+#include "core/session/ports.h"
+#include "core/session/screens.h"
+#include "core/session/session.h"
+#include "platform/basic/environment.h"
+#include "platform/basic/runtime.h"
+#include "platform/dao/sqltext.h"
+#include "platform/forms/boxes.h"
+#include "platform/forms/colour.h"
+#include "platform/settings/settings.h"
+
+#include <QEvent>
+#include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
+using namespace forms;
+using clinical::Comando;
+using clinical::Especialidad;
+using clinical::Lugar;
+
+namespace
+{
+
+constexpr int verde = 65280, rojo = 255; // as the rules give a colour
+constexpr QSize ladoDeLaFoto(96, 96);
+constexpr int mayorLadoGuardado = 480;
+constexpr qint64 diasDeEscolar = 1460, diasDeAdolescente = 4380;
+constexpr int casillasDeVacunas = 16;
+const QString sinNota = u"Ayuda Memoria..."_s;
+const QString seccion = u"Miscelaneas"_s, clave = u"Ultimo módulo visitado"_s;
+
+/// A box of personal data and what it shows of the register.
+struct Dato {
+    const char *control, *rotulo;
+    const char16_t *campo;
+};
+constexpr Dato datosDelRegistro[] = {
+    {"Text12", "Sexo :", u"Sexo"},
+    {"Text13", "Grupo y Factor :", u"grupo sanguineo"},
+    {"Text20", "Obra Social :", u"Obra social"},
+    {"Text27", "Nº de Afiliado :", u"Numero de Afiliado"},
+};
+
+/// A panel that is green or red, the command it stands beside, and who says which.
+struct Semaforo {
+    const char *control, *comando;
+    clinical::Estado (*estado)(const clinical::Persona &);
+};
+constexpr Semaforo semaforos[] = {
+    {"Picture2", "sscommand1", clinical::estadoDePresion},
+    {"Picture4", "Label26", clinical::estadoDePresion},
+    {"SSPanel3", "command15", clinical::estadoDeAlimentacion},
+    {"SSPanel1", "command9", clinical::estadoDeMaduracion},
+    {"sspanel7", "sscommand3", clinical::estadoDeAlergias},
+    {"sspanel8", "SsCommand4", clinical::estadoVisual},
+    {"SSPanel2", "command13", clinical::estadoEscolar},
+    {"Picture5", "command21", clinical::estadoDeAdolescencia},
+    {"Picture3", "Label87",
+     [](const clinical::Persona &persona) {
+         std::optional<clinical::Normal> normal;
+         if (const auto imc =
+                 ports::imcNormal ? ports::imcNormal(persona.sexo, persona.edad.diasDeVida) : std::nullopt)
+             normal = clinical::Normal{imc->first, imc->second};
+         return clinical::estadoCardiologicoYPeso(persona, normal);
+     }},
+};
+
+QString ruta(qint64 numero)
+{
+    return basic::programFile(u"images/FOTO_%1.bmp"_s.arg(numero, 9, 10, QLatin1Char('0')));
+}
+
+QString o(const basic::Value &valor, const QString &sinValor)
+{
+    return valor.isNull() ? sinValor : valor.text();
+}
+
+} // namespace
+
+panEstadPaciente::panEstadPaciente() : Form(u"panEstadPaciente"_s)
+{
+    setWindowTitle(u"Ficha Resumen Global del paciente"_s);
+    DBGrid1.setSource(Data1, {{u"Fecha"_s, u"Fecha"_s, u"dd/mm/yyyy"_s, 84},
+                              {u"Hora"_s, u"Hora"_s, u"HH:MM"_s, 50},
+                              {u"Motivo"_s, u"Motivo"_s, {}, 150},
+                              {u"Dr."_s, u"Dr"_s, {}, 100},
+                              {u"Especialidad"_s, u"EspecialidadPLUS"_s, {}, 100}});
+    agregarIdentidad();
+    agregarComandos();
+    agregarSemaforos();
+    agregarEspecialidades();
+    disponer();
+    conectar();
+}
+
+// --- what stands where ---
+
+void panEstadPaciente::agregarIdentidad()
+{
+    for (const char *nombre :
+         {"Text7", "Text8", "Text9", "Text10", "Text11", "Text12", "Text13", "Text20", "Text27"}) {
+        auto dato = std::make_unique<Label>(QString::fromLatin1(nombre));
+        dato->setTextFormat(Qt::PlainText);
+        dato->setCursor(Qt::PointingHandCursor);
+        connect(dato.get(), &Label::clicked, this, &panEstadPaciente::editarPaciente);
+        datos_[nombre] = std::move(dato);
+    }
+    QFont destacada = font();
+    destacada.setBold(true);
+    destacada.setPointSizeF(destacada.pointSizeF() * 1.15);
+    datos_["Text10"]->setFont(destacada);
+    datos_["Text10"]->setWordWrap(true);
+    imgFoto.setFixedSize(ladoDeLaFoto);
+    imgFoto.setAlignment(Qt::AlignCenter);
+    imgFoto.setFrameShape(QFrame::StyledPanel);
+    imgFoto.setCursor(Qt::PointingHandCursor);
+    imgFoto.setToolTip(u"click p/obtener"_s);
+    Label61.setCursor(Qt::PointingHandCursor);
+    Text14.setFixedHeight(Text14.fontMetrics().height() * 4);
+    Text1.setReadOnly(true);
+    Text21.setReadOnly(true);
+    Text1.setMaximumWidth(60);
+    Text21.setMaximumWidth(60);
+    Text14.installEventFilter(this);
+    RT1.setReadOnly(true);
+    mConRP.setReadOnly(true);
+}
+
+void panEstadPaciente::agregarComandos()
+{
+    for (const Comando &comando : clinical::comandos()) {
+        const auto ventana = screens::Window::find(QString::fromLatin1(comando.ventana));
+        auto boton = std::make_unique<CommandButton>(QString::fromLatin1(comando.control),
+                                                     QString::fromUtf8(comando.caption));
+        boton->setEnabled(ventana && screens::has(*ventana));
+        connect(boton.get(), &QPushButton::clicked, this, [this, &comando] { abrirComando(comando); });
+        comandos_[comando.control] = std::move(boton);
+        if (!*comando.alarma)
+            continue;
+        auto alarma = std::make_unique<Label>(QString::fromLatin1(comando.alarma));
+        forms::setTag(alarma.get(), u"ALARMA"_s);
+        alarma->setFixedSize(14, 14);
+        alarma->setFrameShape(QFrame::StyledPanel);
+        alarma->setCursor(Qt::PointingHandCursor);
+        alarma->setToolTip(u"Alarma: %1"_s.arg(QString::fromUtf8(comando.tema)));
+        connect(alarma.get(), &Label::clicked, this, [this, &comando] { marcarAlarma(comando); });
+        alarmas_[comando.alarma] = std::move(alarma);
+    }
+}
+
+void panEstadPaciente::agregarSemaforos()
+{
+    for (const Semaforo &semaforo : semaforos) {
+        auto panel = std::make_unique<Label>(QString::fromLatin1(semaforo.control));
+        panel->setFixedSize(10, 22);
+        panel->setCursor(Qt::PointingHandCursor);
+        setBackColor(*panel, fromColourValue(verde));
+        connect(panel.get(), &Label::clicked, &boton(semaforo.comando), &QPushButton::click);
+        semaforos_[semaforo.comando] = std::move(panel);
+    }
+}
+
+void panEstadPaciente::agregarEspecialidades()
+{
+    for (const Especialidad &especialidad : clinical::especialidadesDelResumen()) {
+        CommandButton &icono = icoesp.add(especialidad.icono, QString::fromUtf8(especialidad.nombre),
+                                          QString::fromLatin1(especialidad.dibujo));
+        icono.setCheckable(true);
+        icono.setAutoDefault(false);
+        forms::setTag(&icono, QString::fromUtf8(especialidad.nombre));
+        connect(&icono, &QPushButton::clicked, this,
+                [this, &especialidad] { elegirEspecialidad(especialidad); });
+    }
+    for (int i = 0; i < casillasDeVacunas; ++i) {
+        CheckBox &casilla = Check1.add(i, QString());
+        connect(&casilla, &QCheckBox::clicked, this, [this] {
+            mostrarVacunas(); // what is given is noted in the plan, not here
+            if (boton("Command90").isEnabled())
+                boton("Command90").click();
+        });
+    }
+    for (int i = 0; i < 8; ++i)
+        Labelff.add(i);
+}
+
+Item panEstadPaciente::comandosDe(Lugar lugar)
+{
+    std::vector<Item> columnas;
+    for (const Comando &comando : clinical::comandos()) {
+        if (comando.lugar != lugar)
+            continue;
+        std::vector<Item> fila;
+        if (const auto semaforo = semaforos_.find(comando.control); semaforo != semaforos_.end())
+            fila.emplace_back(*semaforo->second);
+        fila.push_back(Expanding(boton(comando.control)));
+        if (*comando.alarma)
+            fila.emplace_back(*alarmas_.at(comando.alarma));
+        columnas.push_back(Row(fila));
+    }
+    return Grid(lugar == Lugar::Barra ? 7 : 3, columnas);
+}
+
+Item panEstadPaciente::panel(int indice)
+{
+    switch (indice) {
+    case 0: {
+        std::vector<Item> vacunas;
+        for (auto &[i, casilla] : Check1)
+            vacunas.emplace_back(*casilla);
+        return Column{comandosDe(Lugar::Pediatria), Group(u"Vacunas del plan"_s, Grid(4, vacunas)),
+                      Stretch()};
+    }
+    case 1:
+        return Column{comandosDe(Lugar::Alergia), Stretch()};
+    case 2:
+        return Column{comandosDe(Lugar::Oftalmologia),
+                      Row{Group(u"Agudeza Visual"_s, Fields{{u"O.D. c/c :"_s, Labelff(0)},
+                                                            {u"O.I. c/c :"_s, Labelff(1)},
+                                                            {u"O.D. s/c :"_s, Labelff(2)},
+                                                            {u"O.I. s/c :"_s, Labelff(3)}}),
+                          Group(u"Anteojos Recetados"_s, Fields{{u"Cerca O.I. :"_s, Labelff(4)},
+                                                                {u"Cerca O.D. :"_s, Labelff(5)},
+                                                                {u"Lejos O.I. :"_s, Labelff(6)},
+                                                                {u"Lejos O.D. :"_s, Labelff(7)}}),
+                          Group(u"Lectura"_s, lblLectura), Expanding(Group(u"Ultima receta"_s, mConRP))}};
+    case 3:
+        return Column{comandosDe(Lugar::Cardiologia), Stretch()};
+    case 5:
+        return Column{comandosDe(Lugar::Odontologia),
+                      Expanding(Group(u"Prácticas odontológicas realizadas :"_s, List7))};
+    default:
+        return Column{comandosDe(Lugar::Ginecologia), Group(u"Resumen ginecológico"_s, gineco_.disposicion()),
+                      Stretch()};
+    }
+}
+
+Item panEstadPaciente::especialidades()
+{
+    std::vector<Item> iconos;
+    for (auto &[i, icono] : icoesp)
+        iconos.emplace_back(*icono);
+    for (const int indice : {0, 1, 2, 3, 5, 6}) {
+        auto *contenido = new QWidget;
+        contenido->setObjectName(u"panelEspecialidad(%1)"_s.arg(indice));
+        setContents(contenido, panel(indice));
+        paneles_.addWidget(contenido);
+        panelDe_[indice] = contenido;
+    }
+    QFont destacada = lblEspec.font();
+    destacada.setBold(true);
+    lblEspec.setFont(destacada);
+    return Column{Grid(4, iconos), lblEspec, paneles_};
+}
+
+Item panEstadPaciente::identidad()
+{
+    std::vector<FieldRow> filas;
+    for (const Dato &dato : datosDelRegistro)
+        filas.emplace_back(QString::fromUtf8(dato.rotulo), *datos_.at(dato.control));
+    filas.emplace_back(Label12, *datos_.at("Text11"));
+    filas.emplace_back(u"Ultima antitetánica :"_s, Label61);
+    const auto edad = [this](const char *control, const QString &unidad) {
+        return Row{*datos_.at(control), new QLabel(unidad)};
+    };
+    return Group(Frame1, Column{Row{imgFoto, Expanding(Column{*datos_.at("Text10"),
+                                                              Row{Label7, edad("Text7", u"años."_s),
+                                                                  edad("Text8", u"meses."_s),
+                                                                  edad("Text9", u"días."_s), Stretch()},
+                                                              Row{Stretch(), Command_525}})},
+                                Fields(filas), Text14});
+}
+
+Item panEstadPaciente::antecedentes()
+{
+    return Column{
+        Expanding(Group(u"Antecedentes Patológicos Familiares"_s,
+                        Column{Expanding(List8), Row{Stretch(), Command3}})),
+        Expanding(Group(u"Antecedentes Personales"_s,
+                        Column{Expanding(List3), Row{Stretch(), Command1, Command2}})),
+        Expanding(Group(u"Perinatales"_s, Column{Expanding(List2), Row{Stretch(), Command7}})),
+    };
+}
+
+Item panEstadPaciente::registroDeConsultas()
+{
+    return Group(u"Registro de Consultas"_s,
+                 Column{Row{label6, label15, Stretch(), Fields{{u"Consultas totales :"_s, Text1}},
+                            Fields{{u"Registros :"_s, Text21}}},
+                        Row{barra_, Stretch(), Check2}, Expanding(DBGrid1)});
+}
+
+Item panEstadPaciente::barra()
+{
+    return Column{comandosDe(Lugar::Barra), Row{Command14, Stretch(), cmdSalir}};
+}
+
+void panEstadPaciente::disponer()
+{
+    for (ListBox *lista : {&List2, &List3, &List8})
+        lista->setMinimumHeight(48);
+    DBGrid1.setMinimumHeight(90);
+    RT1.setMinimumHeight(90);
+    setContents(this,
+                Column{
+                    Expanding(Row{
+                        Expanding(Column{identidad(), Expanding(antecedentes())}, 3),
+                        Expanding(Column{especialidades(),
+                                         Splitter(Qt::Vertical, {{registroDeConsultas(), 3},
+                                                                 {Group(u"Historia clínica"_s, RT1), 2}})},
+                                  7),
+                    }),
+                    barra(),
+                });
+    resize(1180, 640);
+}
+
+void panEstadPaciente::conectar()
+{
+    connect(&Data1, &Data::reposition, this, [this] {
+        const bool hay = Data1.hasRow();
+        const qint64 lugar = hay ? Data1.recordset().absolutePosition() + 1 : 0;
+        barra_.setCaption(u"Consulta número : %1"_s.arg(lugar));
+    });
+    connect(&DBGrid1, &DBGrid::accepted, this, &panEstadPaciente::abrirConsultas);
+    connect(&label15, &QPushButton::clicked, this, &panEstadPaciente::abrirConsultas);
+    connect(&label6, &QPushButton::clicked, this, &panEstadPaciente::nuevaConsulta);
+    connect(&Check2, &QCheckBox::clicked, this, &panEstadPaciente::filtrarConsultas);
+    connect(&Command_525, &QPushButton::clicked, this, &panEstadPaciente::editarPaciente);
+    connect(&Command1, &QPushButton::clicked, this, &panEstadPaciente::agregarAntecedente);
+    connect(&Command2, &QPushButton::clicked, this, &panEstadPaciente::quitarAntecedente);
+    connect(&Command14, &QPushButton::clicked, this, &panEstadPaciente::recetar);
+    connect(&cmdSalir, &QPushButton::clicked, this, &panEstadPaciente::unload);
+    connect(&Label61, &Label::clicked, this, &panEstadPaciente::elegirAntitetanica);
+    connect(&imgFoto, &Label::clicked, this, [this] {
+        if (clinical::cambiaFoto(ruta(numero()), mayorLadoGuardado))
+            mostrarFoto();
+    });
+    connect(&List2, &QListWidget::itemClicked, this,
+            [](QListWidgetItem *renglon) { renglon->setToolTip(renglon->text()); });
+    connect(&Command3, &QPushButton::clicked, this, [this] {
+        screens::showChild("panArbol", tag(), u"Antecedentes Familiares de "_s + datos_["Text10"]->caption());
+    });
+    connect(&Command7, &QPushButton::clicked, this, [this] {
+        screens::showModal(List2.count() == 0 ? screens::Window("panResPerinat")
+                                              : screens::Window("panAntPerinatales"),
+                           tag());
+        llenar();
+    });
+    Command3.setEnabled(screens::has("panArbol"));
+    Command7.setEnabled(screens::has("panResPerinat") && screens::has("panAntPerinatales"));
+    Command14.setEnabled(bool(ports::emiteReceta));
+}
+
+// --- what is read ---
+
+void panEstadPaciente::load()
+{
+    traerAlFrente(clinical::especialidadDe(settings::getSetting(seccion, clave)));
+}
+
+void panEstadPaciente::activate()
+{
+    llenar();
+}
+
+/// A reading that fails leaves its own part of the page as it was.
+void panEstadPaciente::paso(const std::function<void()> &lectura)
+{
+    basic::ignoring({dao::Error::TableNotFound, dao::Error::ItemNotFound, dao::Error::FieldNotFound,
+                     dao::Error::BadParameters, dao::Error::RecordDeleted, dao::Error::NoCurrentRecord},
+                    lectura);
+}
+
+void panEstadPaciente::llenar()
+{
+    const auto paciente = services::numeroDePaciente(tag());
+    if (!paciente || llenando_)
+        return;
+    llenando_ = true; // a box told meanwhile wakes the page again when it closes
+    const QScopeGuard lleno([this] { llenando_ = false; });
+    MODULE11::RelojEspera();
+    const QScopeGuard reloj([] { MODULE11::RelojNormal(); });
+    persona_.numero = *paciente;
+    mostrarFoto();
+    paso([this] { pintarAlarmas(); });
+    paso([this] { mostrarOftalmologia(); });
+    paso([this] { mostrarOdontologia(); });
+    paso([this] { gineco_.mostrar(numero()); });
+    paso([this] {
+        Text1.setText(
+            MODULE11::BuscaCampo(
+                u"Select count(paciente) as total from consulta where paciente = %1"_s.arg(numero()),
+                u"total")
+                .text());
+    });
+    paso([this] {
+        mostrarConsultas(u"Select * from consulta where Dr = %1 and paciente = %2 order by fecha, hora"_s.arg(
+            dao::quoted(MODULE11::DrActual), tag()));
+    });
+    paso([this] { mostrarAntecedentes(); });
+    paso([this] { mostrarPaciente(); });
+    habilitarPorEdad();
+    asegurarPerinatal();
+    paso([this] {
+        List2.clear();
+        List2.addItems(clinical::renglonesPerinatales(numero()));
+    });
+    mostrarSemaforos();
+    paso([this] { mostrarVacunas(); });
+    RT1.setPlainText(clinical::historiaComoTexto(numero(), false));
+}
+
+void panEstadPaciente::mostrarFoto()
+{
+    const QPixmap foto(ruta(numero()));
+    if (foto.isNull())
+        imgFoto.setText(u"click p/obtener"_s);
+    else
+        imgFoto.setPixmap(foto.scaled(ladoDeLaFoto, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+}
+
+void panEstadPaciente::mostrarConsultas(const QString &sql)
+{
+    Data1.setRecordSource(sql);
+    Data1.refresh();
+    if (Data1.hasRow())
+        Data1.change([](dao::Recordset &consultas) { consultas.moveLast(); });
+    Text21.setText(QString::number(Data1.recordset().rowCount()));
+}
+
+void panEstadPaciente::mostrarPaciente()
+{
+    auto fila = services::paciente(numero());
+    if (!fila)
+        return;
+    const QString nombre = (*fila)[u"Apellido y Nombres"].text();
+    setWindowTitle(nombre);
+    Frame1.setTitle(u"HC %1 - Datos Personales"_s.arg(numero()));
+    datos_["Text10"]->setCaption(nombre);
+    for (const Dato &dato : datosDelRegistro)
+        datos_.at(dato.control)->setCaption(o((*fila)[dato.campo], u"?"_s));
+    notaGuardada_ = o((*fila)[u"ayuda memoria"], sinNota);
+    Text14.setPlainText(notaGuardada_);
+
+    const basic::Value nacimiento = (*fila)[u"Fecha de Nacimiento"];
+    const basic::Date hoy = basic::today();
+    if (nacimiento.isNull())
+        msgBox(u"Error, falta cargar la fecha de nacimiento en la ficha del paciente!"_s, Icon::Critical,
+               u"Error"_s);
+    persona_.sexo = (*fila)[u"Sexo"].text();
+    persona_.edad =
+        clinical::edadDe(nacimiento.isNull() ? basic::dateAdd(u"d", -1, hoy) : nacimiento.date(), hoy);
+    forms::setTag(datos_["Text7"].get(), nacimiento.text());
+    const clinical::Edad &edad = persona_.edad;
+    datos_["Text7"]->setCaption(QString::number(edad.anios));
+    datos_["Text8"]->setCaption(QString::number(edad.meses));
+    datos_["Text9"]->setCaption(QString::number(edad.dias));
+    Label7.setToolTip(u"Dias de Vida:"_s + basic::format(edad.diasDeVida, u"###,##0") +
+                      u" // Semanas de Vida:"_s +
+                      basic::format(static_cast<double>(edad.diasDeVida) / 7, u"##,##0.0"));
+    mostrarMadreOConyuge(*fila);
+}
+
+void panEstadPaciente::mostrarMadreOConyuge(dao::Recordset &paciente)
+{
+    if (persona_.edad.anios > 18) {
+        Label12.setCaption(u"Situación Cunyugal:"_s);
+        Label12.setToolTip({});
+        datos_["Text11"]->setCaption(o(paciente[u"Situacion Conyugal"], u"<No registrado>"_s));
+        return;
+    }
+    dao::Recordset pediatria =
+        MODULE11::BaseDatos.openRecordset(u"Select * from pediatria where numero = %1"_s.arg(numero()));
+    const basic::Value madre = pediatria.eof() ? basic::Value() : pediatria[u"Fecha Nacim Madre"].value();
+    Label12.setCaption(u"Madre del paciente:"_s);
+    Label12.setToolTip(u"F.Nac. : "_s + madre.text() + u" Edad : "_s +
+                       (madre.isBlank()
+                            ? u" ??"_s
+                            : QString::number(basic::today().date().year() - madre.date().date().year())));
+    datos_["Text11"]->setCaption(pediatria.eof() ? QString() : pediatria[u"Nombre de la Madre"].text());
+}
+
+/// Each command that is for an age is closed below it, and its panel is hidden.
+void panEstadPaciente::habilitarPorEdad()
+{
+    const clinical::Edad &edad = persona_.edad;
+    const auto poner = [this](const char *control, screens::Window ventana, bool tieneEdad) {
+        boton(control).setEnabled(tieneEdad && screens::has(ventana));
+        semaforos_.at(control)->setVisible(tieneEdad);
+    };
+    poner("command13", "panEscolar", edad.diasDeVida >= diasDeEscolar);
+    poner("SsCommand4", "panVisual", edad.anios >= 4);
+    poner("command21", "panAdole", edad.anios >= 12 || edad.diasDeVida >= diasDeAdolescente);
+}
+
+/// Every patient who is seen here owns a birth record.
+void panEstadPaciente::asegurarPerinatal()
+{
+    try {
+        dao::Recordset perinatal = MODULE11::BaseDatos.openRecordset(
+            u"Select * from Perinatal where IdPaciente = %1"_s.arg(numero()));
+        if (perinatal.eof()) {
+            perinatal.addNew();
+            perinatal[u"IdPaciente"] = numero();
+            perinatal.update();
+            perinatal.requery();
+        }
+        const basic::Value antitetanica = perinatal[u"FechaUltimaAntitetanica"];
+        Label61.setCaption(antitetanica.isNull() ? u"<Click>"_s : antitetanica.text());
+    } catch (const dao::Error &) {
+        MODULE11::MuestraError(
+            u"Ocurrió un error mientras se intentaba localizar los datos perinatales del paciente..."_s);
+    }
+}
+
+void panEstadPaciente::mostrarAntecedentes()
+{
+    List8.clear();
+    List8.addItems(clinical::antecedentesFamiliares(numero()));
+    List3.clear();
+    List3.addItems(clinical::antecedentesPersonales(numero()));
+}
+
+/// Green is set first: a state that cannot be read is no finding.
+void panEstadPaciente::mostrarSemaforos()
+{
+    for (const Semaforo &semaforo : semaforos) {
+        Label &panel = *semaforos_.at(semaforo.comando);
+        clinical::Estado estado;
+        paso([&] { estado = semaforo.estado(persona_); });
+        setBackColor(panel, fromColourValue(estado ? rojo : verde));
+        panel.setToolTip(estado.value_or(QString()));
+    }
+}
+
+void panEstadPaciente::mostrarVacunas()
+{
+    const std::vector<clinical::VacunaDelPlan> plan = clinical::vacunasDelPlan(persona_);
+    for (auto &[i, casilla] : Check1) {
+        const auto lugar = static_cast<std::size_t>(i);
+        const bool usada = lugar < plan.size();
+        casilla->setVisible(usada);
+        if (!usada)
+            continue;
+        casilla->setText(plan[lugar].descripcion);
+        forms::setTag(casilla.get(), plan[lugar].vacuna);
+        casilla->setChecked(plan[lugar].indicada.has_value());
+        casilla->setToolTip(plan[lugar].indicada
+                                ? u"Indicada el "_s + basic::format(*plan[lugar].indicada, u"dd mmm yyyy")
+                                : QString());
+    }
+}
+
+void panEstadPaciente::mostrarOftalmologia()
+{
+    static constexpr const char16_t *columnas[] = {u"aguVisOdCCC", u"aguVisOiCCC", u"aguVisOdSC",
+                                                   u"aguVisOiSc",  u"antRecCerOi", u"antRecCerOd",
+                                                   u"antRecLejOi", u"antRecLejOd"};
+    dao::Recordset ultima = MODULE11::BaseDatos.openRecordset(
+        u"Select top 1 * from consultaOftalmo where paciente = %1 order by fecha desc, idConsulta desc"_s.arg(
+            numero()));
+    const auto valor = [&](QStringView columna) { return ultima.eof() ? QString() : ultima[columna].text(); };
+    for (auto &[i, rotulo] : Labelff)
+        rotulo->setCaption(valor(columnas[i]));
+    const QString lectura = valor(u"Lectura");
+    lblLectura.setCaption(ultima.eof()             ? QString()
+                          : lectura == u"Normal"   ? u"Ok"_s
+                          : lectura == u"Alterada" ? u"Mal"_s
+                                                   : u"½"_s);
+    mConRP.setPlainText(valor(u"r_p"));
+}
+
+void panEstadPaciente::mostrarOdontologia()
+{
+    List7.clear();
+    for (dao::Recordset practica = MODULE11::BaseDatos.openRecordset(
+             u"Select * from Odontograma where IdPaciente = %1 order by fecha"_s.arg(numero()));
+         !practica.eof(); practica.moveNext())
+        List7.addItem(practica[u"Fecha"].text() + u" --> "_s + practica[u"Descripcion"].text());
+}
+
+/// Icons of one alarm bear its one mark, which is kept under the first of them.
+void panEstadPaciente::pintarAlarmas()
+{
+    for (auto &[nombre, icono] : alarmas_)
+        setBackColor(*icono, palette().color(QPalette::Window));
+    MODULE11::PintaAlarmas(*this, numero());
+    std::map<std::string, Label *> primera;
+    for (const Comando &comando : clinical::comandos())
+        if (*comando.alarma) {
+            const auto [lugar, nueva] = primera.try_emplace(comando.tema, alarmas_.at(comando.alarma).get());
+            if (!nueva)
+                setBackColor(*alarmas_.at(comando.alarma), backColor(*lugar->second));
+        }
+}
+
+// --- what a person does ---
+
+void panEstadPaciente::traerAlFrente(const Especialidad &especialidad)
+{
+    lblEspec.setCaption(QString::fromUtf8(especialidad.nombre));
+    paneles_.setCurrentWidget(panelDe_.at(especialidad.panel));
+    for (auto &[i, icono] : icoesp)
+        icono->setChecked(i == especialidad.icono);
+}
+
+void panEstadPaciente::elegirEspecialidad(const Especialidad &especialidad)
+{
+    traerAlFrente(especialidad);
+    settings::saveSetting(seccion, clave, lblEspec.caption());
+    if (!services::numeroDePaciente(tag()))
+        return;
+    const QString filtro =
+        Check2.isChecked() ? u"EspecialidadPLUS = %1 and "_s.arg(dao::quoted(lblEspec.caption())) : QString();
+    mostrarConsultas(
+        u"Select * from consulta where %1paciente = %2 order by fecha, hora"_s.arg(filtro, tag()));
+}
+
+void panEstadPaciente::filtrarConsultas()
+{
+    const QString especialidad =
+        Check2.isChecked() ? u" and EspecialidadPLUS = %1"_s.arg(dao::quoted(lblEspec.caption())) : QString();
+    mostrarConsultas(u"Select * from consulta where Dr = %1 and paciente = %2%3 order by fecha, hora"_s.arg(
+        dao::quoted(MODULE11::DrActual), tag(), especialidad));
+}
+
+void panEstadPaciente::abrirComando(const Comando &comando)
+{
+    const QString nivel = QString::fromLatin1(comando.nivel);
+    if (numero() == 0) {
+        MODULE11::MuestraError(
+            u"Error, no existe un puntero adecuado para ubicar al paciente !, Intente cerrar esta ventana y volverla a abrir, seleccionando un paciente."_s);
+        return;
+    }
+    if (!nivel.isEmpty() && !MODULE11::VerificaNivel(nivel))
+        return;
+    const screens::Window ventana = *screens::Window::find(QString::fromLatin1(comando.ventana));
+    const QString titulo =
+        *comando.titulo ? QString::fromUtf8(comando.titulo) + datos_["Text10"]->caption() : QString();
+    if (comando.hija) {
+        screens::showChild(ventana, tag(), titulo);
+        return;
+    }
+    if (auto form = screens::make(ventana)) {
+        form->setTag(tag());
+        if (!titulo.isEmpty())
+            form->setWindowTitle(titulo);
+        form->showModal();
+    }
+    llenar();
+}
+
+void panEstadPaciente::marcarAlarma(const Comando &comando)
+{
+    if (numero() == 0)
+        return;
+    const auto mismo = std::ranges::find_if(
+        clinical::comandos(), [&](const Comando &otro) { return QByteArrayView(otro.tema) == comando.tema; });
+    const bool deTodos = comando.lugar == Lugar::Barra && comando.hija;
+    MODULE11::AsignaAlarma(numero(), deTodos ? u"TODOS"_s : lblEspec.caption(),
+                           QString::fromUtf8(comando.tema), *alarmas_.at(mismo->alarma));
+    pintarAlarmas();
+}
+
+void panEstadPaciente::nuevaConsulta()
+{
+    if (numero() == 0 || !MODULE11::VerificaNivel(u"AgregarConsultas"_s))
+        return;
+    if (lblEspec.caption() == u"Oftalmología") {
+        boton("label22").click();
+        return;
+    }
+    if (const auto registrada = consultas::capturaYRegistra(tag(), lblEspec.caption())) {
+        consultas::avisaExamenSinGuardar(*registrada);
+        llenar();
+    }
+}
+
+void panEstadPaciente::abrirConsultas()
+{
+    if (numero() == 0 || !MODULE11::VerificaNivel(u"IngresarAConsultas"_s))
+        return;
+    MODULE11::RegistraEvento(u"INGRESAR A CONSULTAS"_s, u"Evol. de HC. Nº"_s + tag());
+    screens::showChild("panVisitas", tag());
+}
+
+void panEstadPaciente::agregarAntecedente()
+{
+    const auto elegido = settings::getSetting(u"Configuracion"_s, u"Clasificador patologico"_s) == u"PERSONAL"
+                             ? catalogos::eligeDeLosPropios(u"<Todos>"_s)
+                             : catalogos::eligeEnCIE10();
+    if (!elegido || elegido->nombre.isEmpty())
+        return;
+    List3.addLine(elegido->nombre);
+    guardarAntecedentes();
+}
+
+void panEstadPaciente::quitarAntecedente()
+{
+    if (!List3.currentItem())
+        return;
+    delete List3.takeItem(List3.currentRow());
+    guardarAntecedentes();
+}
+
+void panEstadPaciente::guardarAntecedentes()
+{
+    clinical::guardaAntecedentesPersonales(numero(), List3.lines());
+}
+
+bool panEstadPaciente::queryUnload()
+{
+    guardarNota();
+    return true;
+}
+
+bool panEstadPaciente::eventFilter(QObject *control, QEvent *evento)
+{
+    if (control == &Text14 && evento->type() == QEvent::FocusOut)
+        guardarNota();
+    return false;
+}
+
+/// The placeholder is no note.
+void panEstadPaciente::guardarNota()
+{
+    const QString nota = Text14.toPlainText();
+    if (numero() == 0 || nota == notaGuardada_)
+        return;
+    if (auto fila = services::paciente(numero())) {
+        fila->edit([&] { (*fila)[u"ayuda memoria"] = nota; });
+        notaGuardada_ = nota;
+    }
+}
+
+void panEstadPaciente::elegirAntitetanica()
+{
+    if (numero() == 0)
+        return;
+    panSelFecha calendario;
+    calendario.showModal();
+    if (calendario.tag() != u"SI")
+        return;
+    dao::Recordset perinatal =
+        MODULE11::BaseDatos.openRecordset(u"Select * from Perinatal where IdPaciente = %1"_s.arg(numero()));
+    if (!perinatal.eof())
+        perinatal.edit([&] { perinatal[u"FechaUltimaAntitetanica"] = calendario.value(); });
+    llenar();
+}
+
+void panEstadPaciente::recetar()
+{
+    const auto receta = ports::emiteReceta(numero(), {});
+    if (!receta)
+        return;
+    dao::Recordset recetas = MODULE11::BaseDatos.openRecordset(u"Recetario"_s);
+    recetas.addNew();
+    recetas[u"Paciente"] = datos_["Text10"]->caption();
+    recetas[u"fecha"] = basic::today();
+    recetas[u"Receta"] = *receta + u'.';
+    recetas[u"idPaciente"] = numero();
+    recetas[u"Dr"] = MODULE11::DrActual;
+    recetas.update();
+}
+
+void panEstadPaciente::editarPaciente()
+{
+    if (numero() != 0 && MODULE11::VerificaNivel(u"IngresarAPacientes"_s) &&
+        clinical::editaPaciente(numero()))
+        llenar();
+}
+
+#include "moc_panEstadPaciente.cpp"
