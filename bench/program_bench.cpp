@@ -2,11 +2,13 @@
 //   bench_program FOLDER
 // Ends non-zero when something was over its limit.
 #include "appointments.h"
+#include "prescriptions.h"
 #include "subsystems.h"
 #include "visits.h"
 
 #include "clinical/patients/panSelPaciente.h"
 #include "core/database/actualiza.h"
+#include "core/session/recetario.h"
 #include "core/session/session.h"
 #include "core/session/startup.h"
 #include "core/windows/Vademecum.h"
@@ -92,6 +94,7 @@ void measure()
     if (!MODULE11::BaseDatos.openRecordset(u"DisTurnos"_s).eof())
         bench::appointments(report);
     bench::visits(report);
+    bench::prescriptions(report);
     window.hide();
 }
 

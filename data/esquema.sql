@@ -454,6 +454,10 @@ CREATE TABLE POSRECETARIO (Elemento LONG, Valor TEXT(100), [Posicion X] LONG, [P
     Fuente TEXT(40), [Tamaño] LONG, Bold BIT, Italic BIT, Subrayado BIT, Fecha BIT, Grafico BIT);
 CREATE INDEX PrimaryKey ON POSRECETARIO (Elemento);
 
+CREATE TABLE POSRECETARIOMEDIA (Elemento LONG, Valor TEXT(100), [Posicion X] LONG, [Posicion Y] LONG,
+    Fuente TEXT(40), [Tamaño] LONG, Bold BIT, Italic BIT, Subrayado BIT, Fecha BIT, Grafico BIT);
+CREATE INDEX PrimaryKey ON POSRECETARIOMEDIA (Elemento);
+
 CREATE TABLE Practicos (idpractico COUNTER, detalle TEXT(100), precio CURRENCY);
 
 CREATE TABLE Presion (tipo TEXT(2), Edad LONG, P_5 DOUBLE, P_25 DOUBLE, P_50 DOUBLE, P_75 DOUBLE,
@@ -470,6 +474,7 @@ CREATE INDEX Nombre ON Profesionales (Nombre);
 
 CREATE TABLE Recetario (Paciente TEXT(100), fecha DATE, Receta MEMO);
 CREATE INDEX fecha ON Recetario (fecha);
+CREATE INDEX fechaPaciente ON Recetario (fecha, Paciente);
 
 CREATE TABLE RelPractico (codpresupuesto LONG, codpractico LONG, idpresupuesto LONG, idpractico LONG,
     cantidad DOUBLE, precio CURRENCY, subtotal CURRENCY);

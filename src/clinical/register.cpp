@@ -6,6 +6,7 @@
 #include "clinical/catalogues/panSintomas.h"
 #include "clinical/catalogues/panTratamientos.h"
 #include "clinical/history/panEditHC.h"
+#include "clinical/patients/buscaPaciente.h"
 #include "clinical/patients/eligePaciente.h"
 #include "clinical/patients/fichas.h"
 #include "clinical/patients/hc.h"
@@ -41,6 +42,7 @@ void clinical::registerScreens()
     screens::addOperation("AbreFicha", AbreFicha);
     screens::addOperation("BorraFicha", BorraFicha);
     ports::eligePaciente.provide(EligePaciente);
+    ports::buscaEnPacientes.provide(BuscaEnPacientes);
     ports::pideNombreDePaciente.provide(PideNombreDePaciente);
     ports::eligeDiagnostico.provide(catalogos::eligeDiagnostico);
 }

@@ -41,6 +41,8 @@ constexpr Source sources[] = {
     {"diagnosticos.csv", "DIAGPERSONALES"},
     {"tratamientos.csv", "Tratamientos"},
     {"estudios.csv", "TablaEstudios"},
+    {"recetario.csv", "POSRECETARIO"},
+    {"recetario_media_hoja.csv", "POSRECETARIOMEDIA"},
 };
 
 /// A column whose distinct values are a catalogue of their own.

@@ -16,19 +16,19 @@ buscaPaciente::buscaPaciente()
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"PORHI"_s); });
 }
 
-std::optional<QString> BuscaEnPacientes(dao::Recordset &pacientes)
+std::optional<QString> BuscaEnPacientes(dao::Recordset &filas, const QString &nombre, const QString &numero)
 {
     buscaPaciente dialogo;
     dialogo.showModal();
     QApplication::processEvents(); // the closing dialogue's place is painted before a long search
     bool hallado = true;
     if (dialogo.tag() == u"PORAP") {
-        hallado = dialogo.mover(pacientes, u"Apellido y Nombres"_s);
+        hallado = dialogo.mover(filas, nombre);
     } else if (dialogo.tag() == u"PORHI") {
-        const auto numero = services::numeroDePaciente(dialogo.texto());
-        if (numero)
-            pacientes.findFirst(u"[Numero] = "_s + QString::number(*numero));
-        hallado = numero && !pacientes.noMatch();
+        const auto pedido = services::numeroDePaciente(dialogo.texto());
+        if (pedido)
+            filas.findFirst(u"[%1] = %2"_s.arg(numero).arg(*pedido));
+        hallado = pedido && !filas.noMatch();
     }
     return hallado ? std::nullopt : std::optional(dialogo.texto());
 }

@@ -12,6 +12,6 @@ public:
     buscaPaciente();
 };
 
-/// Asks for the start of a name or a number and moves the recordset of patients to it. The text when there is
-/// no such patient; where nothing was asked for, the row stays.
-std::optional<QString> BuscaEnPacientes(dao::Recordset &pacientes);
+/// Asks for the start of a name or a number and moves the recordset to the row that has it in these columns.
+/// The text when there is no such row; where nothing was asked for, the row stays.
+std::optional<QString> BuscaEnPacientes(dao::Recordset &filas, const QString &nombre, const QString &numero);

@@ -181,7 +181,9 @@ void panSelPaciente::mostrarElegido()
 void panSelPaciente::buscarConDialogo()
 {
     std::optional<QString> sinHallar;
-    Data1.change([&](dao::Recordset &pacientes) { sinHallar = BuscaEnPacientes(pacientes); });
+    Data1.change([&](dao::Recordset &pacientes) {
+        sinHallar = BuscaEnPacientes(pacientes, u"Apellido y Nombres"_s, u"Numero"_s);
+    });
     if (!sinHallar)
         return;
     Data1.chooseNone();

@@ -6,6 +6,7 @@
 #include "platform/basic/environment.h"
 #include "platform/forms/boxes.h"
 #include "platform/forms/progress.h"
+#include "platform/settings/settings.h"
 
 #include <QDir>
 
@@ -17,11 +18,22 @@ namespace informes
 namespace
 {
 
+/// What the practice told of itself; nothing where it has not.
+QString registrado(const QString &clave)
+{
+    const QString dato = settings::getSetting(u"Usuario"_s, clave);
+    return dato.contains(u'<') ? QString() : dato;
+}
+
 /// What every report may tell besides its rows.
 reports::Parameters deLaSesion(const reports::Parameters &datos)
 {
-    reports::Parameters todos{{u"profesional"_s, MODULE11::DrActual},
-                              {u"usuario"_s, MODULE11::UsuarioActual}};
+    reports::Parameters todos{
+        {u"profesional"_s, MODULE11::DrActual},       {u"usuario"_s, MODULE11::UsuarioActual},
+        {u"matricula"_s, registrado(u"Matricula"_s)}, {u"especialidad"_s, registrado(u"Especialidad"_s)},
+        {u"domicilio"_s, registrado(u"Domicilio"_s)}, {u"localidad"_s, registrado(u"Localidad"_s)},
+        {u"telefonos"_s, registrado(u"Telefonos"_s)},
+    };
     todos.insert(datos);
     return todos;
 }
@@ -65,6 +77,14 @@ bool imprime(const QString &archivo, const QString &seleccion, const reports::Pa
         return false;
     forms::Progress avance(u"Se imprime la página"_s);
     return reports::print(aImprimir, eleccion, [&](qint64 pagina) { return avance.tell(pagina + 1); });
+}
+
+void escribePdf(const QString &archivo, const QString &seleccion, const QString &destino)
+{
+    reports::Report aGuardar = informe(archivo, seleccion, {});
+    printing::Choice eleccion;
+    eleccion.file = destino;
+    reports::print(aGuardar, eleccion);
 }
 
 void guardaPdf(reports::Report &informe)

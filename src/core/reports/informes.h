@@ -17,6 +17,9 @@ void muestra(const QString &archivo, const QString &seleccion, const reports::Pa
 /// Prints it without a preview; false when the person cancelled.
 bool imprime(const QString &archivo, const QString &seleccion, const reports::Parameters &datos = {});
 
+/// Writes it as a PDF under that name.
+void escribePdf(const QString &archivo, const QString &seleccion, const QString &destino);
+
 /// Asks where to and writes, with the window of long works.
 void guardaPdf(reports::Report &informe);
 void exportaCsv(const reports::Listing &lista, const QString &titulo);

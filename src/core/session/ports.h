@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/session/eleccion.h"
+#include "platform/dao/recordset.h"
 
 #include <QString>
 
@@ -31,12 +32,19 @@ private:
 inline Port<std::optional<qint64>()> eligePaciente;
 /// Asks for the name, or its beginning, of a patient to look for; empty when it was cancelled.
 inline Port<QString()> pideNombreDePaciente;
+/// Asks for the beginning of a name, or a number, and moves a recordset to the row by the columns named. The
+/// text when there is no such row; where nothing was asked for, the row stays.
+inline Port<std::optional<QString>(dao::Recordset &filas, const QString &nombre, const QString &numero)>
+    buscaEnPacientes;
 /// Opens a patient's record in the window of the practice's choice.
 inline Port<void(qint64 paciente)> abreFicha;
 /// Books the next appointment of a patient; without one the patient is chosen in the dialogue.
 inline Port<void(std::optional<qint64> paciente)> otorgaTurno;
 /// Takes a patient's measures and stores them; true when they were.
 inline Port<bool(qint64 paciente)> tomarMedidas;
+/// Shows the prescription sheet of a patient with a text to begin with: the prescription to keep, without the
+/// point that ends it in the file; nothing when it was closed.
+inline Port<std::optional<QString>(qint64 paciente, const QString &textoInicial)> emiteReceta;
 /// Lets a person choose a diagnosis from the practice's classifier.
 inline Port<std::optional<Renglon>()> eligeDiagnostico;
 

@@ -4,6 +4,7 @@
 #include "core/services/services.h"
 #include "core/session/ending.h"
 #include "core/session/login.h"
+#include "core/session/recetario.h"
 #include "core/session/screens.h"
 #include "core/session/session.h"
 #include "core/windows/Vademecum.h"
@@ -31,13 +32,6 @@ namespace
 {
 
 constexpr double anchoMinimo = 12000; // twips
-const QString tablaPorOmision = u"POSRECETARIO"_s;
-const QString claveDelRecetario = u"Archivo de configuraciones de la receta"_s;
-
-/// Why a table for the layout may not be made; the default one then serves.
-constexpr std::initializer_list<int> sinTablaPropia = {dao::Error::TableExists, dao::Error::IndexExists,
-                                                       dao::Error::Locked, dao::Error::ReadOnly,
-                                                       dao::Error::DiskFull};
 
 void escribirSiVacio(const QString &clave, const QString &valor)
 {
@@ -110,11 +104,6 @@ void importar()
     terminar();
 }
 
-bool existeTabla(const QString &nombre)
-{
-    return BaseDatos.tableNames().contains(nombre, Qt::CaseInsensitive);
-}
-
 void avisarPantallaChica()
 {
     if (forms::toTwips(QGuiApplication::primaryScreen()->size().width()) >= anchoMinimo)
@@ -160,43 +149,6 @@ void enlazarUsuarioConProfesional()
 QString conexionDeLaBase()
 {
     return u";PWD=qTzR8mvW2"_s;
-}
-
-void prepararRecetario()
-{
-    if (!TablaRecetario.isEmpty())
-        return;
-    if (!BaseDatos.isOpen()) { // nothing is told about a missing base before the login
-        TablaRecetario = tablaPorOmision;
-        return;
-    }
-    QString nombre = settings::getSetting(u"Configuracion"_s, claveDelRecetario);
-    if (nombre.isEmpty()) {
-        nombre = u"TblRec_"_s + basic::sqlNumber(basic::timer()).remove(u'.');
-        const bool creada = basic::ignoring(sinTablaPropia, [&] {
-            BaseDatos.execute(
-                u"CREATE TABLE [%1] (Elemento LONG, Valor TEXT(100), [Posicion X] Long, [Posicion Y] Long, Fuente TEXT(40), [Tamaño] LONG, Bold BIT, Italic BIT, Subrayado BIT, Fecha BIT, Grafico BIT)"_s
-                    .arg(nombre));
-            BaseDatos.execute(u"CREATE INDEX PrimaryKey on [%1] (Elemento)"_s.arg(nombre));
-        });
-        if (creada) {
-            settings::saveSetting(u"Configuracion"_s, claveDelRecetario, nombre);
-        } else {
-            forms::msgBox(
-                u"No se ha creado una tabla definida por el usuario, se utilizará la tabla por omisión"_s,
-                forms::Icon::Information, u"Atencion"_s);
-            nombre = u"posRecetario"_s;
-        }
-    }
-    if (!existeTabla(nombre)) {
-        forms::msgBox(
-            u"Error : La tabla %1 no está creada en la base de datos, se utilizará la tabla POSRECETARIO."_s
-                .arg(nombre),
-            forms::Icon::Critical, u"Error"_s);
-        nombre = tablaPorOmision;
-        settings::saveSetting(u"Configuracion"_s, claveDelRecetario, nombre);
-    }
-    TablaRecetario = nombre;
 }
 
 std::unique_ptr<Vademecum> iniciar(const QString &comando)

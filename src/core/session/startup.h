@@ -16,7 +16,4 @@ std::unique_ptr<Vademecum> iniciar(const QString &comando);
 /// The connect string under which the practice's file is opened.
 QString conexionDeLaBase();
 
-/// Settles the table of the prescription layout: the one in the settings, or a new one of this workstation.
-void prepararRecetario();
-
 } // namespace MODULE11

@@ -126,6 +126,55 @@ void Canvas::setZoom(double factor)
 {
     zoom_ = std::clamp(factor, nearest, farthest);
     setTransform(QTransform::fromScale(zoom_ / twipsPerPixel, zoom_ / twipsPerPixel));
+    placeHeld();
+}
+
+void Canvas::hold(QWidget &control, const QRectF &place)
+{
+    control.setParent(viewport());
+    held_.push_back({&control, place, control.font().pointSizeF()});
+    control.show();
+    placeHeld();
+}
+
+void Canvas::placeHeld()
+{
+    for (const Held &held : held_) {
+        if (!held.control)
+            continue;
+        const QPoint corner = mapFromScene(held.place.topLeft());
+        const QPoint opposite = mapFromScene(held.place.bottomRight());
+        held.control->setGeometry(QRect(corner, QSize(opposite.x() - corner.x(), opposite.y() - corner.y())));
+        QFont font = held.control->font();
+        font.setPointSizeF(held.points * zoom_);
+        held.control->setFont(font);
+    }
+}
+
+void Canvas::scrollContentsBy(int dx, int dy)
+{
+    QGraphicsView::scrollContentsBy(dx, dy);
+    placeHeld();
+}
+
+void Canvas::resizeEvent(QResizeEvent *event)
+{
+    QGraphicsView::resizeEvent(event);
+    placeHeld();
+}
+
+void Canvas::setGrid(double twips, bool shown)
+{
+    grid_ = twips;
+    gridShown_ = shown;
+    viewport()->update();
+}
+
+QPointF Canvas::snapped(QPointF twips) const
+{
+    if (grid_ <= 0)
+        return twips;
+    return QPointF(std::round(twips.x() / grid_), std::round(twips.y() / grid_)) * grid_;
 }
 
 void Canvas::fit()
@@ -201,6 +250,17 @@ void Canvas::drawBackground(QPainter *painter, const QRectF &rect)
     painter->fillRect(rect, palette().color(QPalette::Window));
     painter->fillRect(rect.intersected(sceneRect()), palette().color(QPalette::Base));
     background_.paint(*painter, sceneRect());
+    if (gridShown_ && grid_ > 0)
+        drawGrid(*painter, rect.intersected(sceneRect()));
+}
+
+void Canvas::drawGrid(QPainter &painter, const QRectF &rect) const
+{
+    painter.setPen(QPen(palette().color(QPalette::Mid), 0));
+    for (double x = std::ceil(rect.left() / grid_) * grid_; x <= rect.right(); x += grid_)
+        painter.drawLine(QPointF(x, rect.top()), QPointF(x, rect.bottom()));
+    for (double y = std::ceil(rect.top() / grid_) * grid_; y <= rect.bottom(); y += grid_)
+        painter.drawLine(QPointF(rect.left(), y), QPointF(rect.right(), y));
 }
 
 CanvasItem *Canvas::pressable(QPoint surfacePixel) const
@@ -311,8 +371,7 @@ void Canvas::nudge(CanvasItem &item, QPointF direction)
 
 QPointF Canvas::restingPlace(const CanvasItem &item, QPointF position) const
 {
-    if (grid_ > 0)
-        position = QPointF(std::round(position.x() / grid_), std::round(position.y() / grid_)) * grid_;
+    position = snapped(position);
     const QRectF place = item.place().translated(-item.pos());
     const QSizeF room = sizeTwips();
     return {std::clamp(position.x(), -place.left(), qMax(-place.left(), room.width() - place.right())),

@@ -4,6 +4,7 @@
 #include "platform/forms/drag.h"
 
 #include <QGraphicsView>
+#include <QPointer>
 
 namespace forms
 {
@@ -32,9 +33,17 @@ public:
     void clear(); ///< takes all items away, not the background
     /// From back to front.
     std::vector<CanvasItem *> all() const;
+    CanvasItem *focused() const; ///< the item that the keys act on; null for none
 
-    /// Items moved by hand come to rest on multiples of so many twips; 0 for anywhere.
-    void setGrid(double twips) { grid_ = twips; }
+    /// A control that stands on the canvas and keeps to its place, in twips, however it is scrolled and
+    /// zoomed. Its owner must let it go before the canvas.
+    void hold(QWidget &control, const QRectF &place);
+
+    /// Items moved by hand come to rest on multiples of so many twips; 0 for anywhere. Lines drawn to show it
+    /// are on the screen only.
+    void setGrid(double twips, bool shown = false);
+    /// Where something put there by hand comes to rest: the nearest place of the grid.
+    QPointF snapped(QPointF twips) const;
     void setZoom(double factor);
     double zoom() const { return zoom_; }
     /// The zoom at which the whole canvas is in sight.
@@ -69,10 +78,18 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     friend class CanvasItem;
-    CanvasItem *focused() const;
+    struct Held {
+        QPointer<QWidget> control;
+        QRectF place;
+        double points; ///< its letters at their own size
+    };
+    void placeHeld();
+    void drawGrid(QPainter &painter, const QRectF &rect) const;
     void focusNext(QPointF direction);
     void nudge(CanvasItem &item, QPointF direction);
     bool actOnKey(const QKeyEvent &event);
@@ -87,9 +104,11 @@ private:
             this, [=, this] { (this->*signal)(arguments...); }, Qt::QueuedConnection);
     }
 
+    std::vector<Held> held_; ///< outlives the scene, which scrolls the view once more as it goes
     QGraphicsScene scene_;
     Picture background_;
     double grid_ = 0;
+    bool gridShown_ = false;
     double zoom_ = 1;
     bool pressedOnBackground_ = false;
 };

@@ -3,6 +3,7 @@
 #include "platform/basic/errors.h"
 #include "platform/forms/canvas.h"
 #include "platform/forms/tag.h"
+#include "platform/forms/twips.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -94,6 +95,11 @@ Picture::Picture(const QString &file)
     }
     if (vectors_ ? !vectors_->isValid() : image_.isNull())
         throw basic::Error(InvalidPicture, QStringLiteral("'%1' no es una imagen válida.").arg(file));
+}
+
+QSizeF Picture::sizeTwips() const
+{
+    return QSizeF(vectors_ ? vectors_->defaultSize() : image_.size()) * twipsPerPixel;
 }
 
 void Picture::paint(QPainter &painter, const QRectF &target) const

@@ -25,6 +25,7 @@ public:
     /// Throws basic::Error 53 when the file is missing, 481 when it is no picture.
     explicit Picture(const QString &file);
     bool isNull() const { return !vectors_ && image_.isNull(); }
+    QSizeF sizeTwips() const; ///< as large as it was made, a pixel being one of the screen's
     void paint(QPainter &painter, const QRectF &target) const;
 
 private:

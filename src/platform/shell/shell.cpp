@@ -35,6 +35,11 @@ const QStringList &candidates(Tool tool)
     return table.at(tool);
 }
 
+QString mailer()
+{
+    return QStandardPaths::findExecutable(QStringLiteral("xdg-email"));
+}
+
 QString lockFile(const QString &name)
 {
     QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
@@ -70,6 +75,21 @@ bool start(Tool tool, const QString &argument)
             return QProcess::startDetached(path, arguments);
     }
     return false;
+}
+
+bool canMail()
+{
+    return !mailer().isEmpty();
+}
+
+bool mail(const QString &address, const QString &subject, const QString &attachment)
+{
+    QStringList arguments{QStringLiteral("--utf8"), QStringLiteral("--subject"), subject,
+                          QStringLiteral("--attach"), attachment};
+    // The program takes an address alone: what looks like one of its options is none.
+    if (address.contains(QLatin1Char('@')) && !address.startsWith(QLatin1Char('-')))
+        arguments.append(address);
+    return canMail() && QProcess::startDetached(mailer(), arguments);
 }
 
 bool claimSingleInstance(const QString &name)

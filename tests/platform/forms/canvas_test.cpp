@@ -97,6 +97,22 @@ TEST_F(CanvasTest, anItemMovedByHandRestsOnTheGridWithinTheCanvas)
     EXPECT_EQ(told, (QStringList{"click sello", "sello 1250;500", "sello 5400;0", "sello 5400;250"}));
 }
 
+TEST_F(CanvasTest, aControlThatStandsOnItKeepsItsPlaceWhenScrolledAndZoomed)
+{
+    QWidget field;
+    canvas.hold(field, QRectF(1500, 600, 3000, 1200));
+    EXPECT_EQ(field.geometry(), QRect(100, 40, 200, 80));
+    const double points = field.font().pointSizeF();
+    canvas.setZoom(2);
+    EXPECT_EQ(field.size(), QSize(400, 160));
+    EXPECT_EQ(field.font().pointSizeF(), 2 * points);
+    canvas.reveal({0, 0});
+    const QPoint before = field.pos();
+    canvas.reveal({6000, 3000});
+    EXPECT_LT(field.x(), before.x());
+    EXPECT_EQ(canvas.twipsAt(field.pos()), QPointF(1500, 600));
+}
+
 TEST_F(CanvasTest, arrowsLeadToTheNearestItemInTheirDirection)
 {
     box(u"a"_s, {300, 300});
