@@ -1,5 +1,6 @@
 #include "practice/appointments/panTurnos.h"
 
+#include "core/reports/exportaHtml.h"
 #include "core/security/niveles.h"
 #include "core/services/listas.h"
 #include "core/services/services.h"
@@ -22,6 +23,7 @@ namespace
 {
 
 const QString porUsuario = u"Por Usuario"_s;
+constexpr int anchoDelListado = 800;
 constexpr QStringView horarios[] = {u"desde1", u"hasta1", u"desde2", u"hasta2"};
 
 /// The first entry of each filter stands for all.
@@ -52,7 +54,6 @@ qint64 cuenta(const QString &sql)
 panTurnos::panTurnos() : Form(u"panTurnos"_s)
 {
     setWindowTitle(u"Pantalla de Turnos o Citas"_s);
-    Command5.setEnabled(false); // needs the listings
     for (int i = 0; i < 4; ++i)
         Label3.add(i, u"no"_s);
     for (int i = 0; i < 2; ++i) {
@@ -130,6 +131,8 @@ void panTurnos::load()
     connect(&Command2, &QPushButton::clicked, this, &panTurnos::otorgar);
     connect(&Command3, &QPushButton::clicked, this, &panTurnos::borrar);
     connect(&Command4, &QPushButton::clicked, this, &panTurnos::unload);
+    connect(&Command5, &QPushButton::clicked, this,
+            [this] { informes::exportaHtml(Data1.recordSource(), u"TURNOS"_s, anchoDelListado); });
     connect(&Command6, &QPushButton::clicked, this, &panTurnos::cambiarEstado);
 }
 
@@ -183,6 +186,7 @@ void panTurnos::mostrarCuentas()
 {
     const bool hay = enLugar();
     Command3.setEnabled(hay);
+    Command5.setEnabled(hay);
     Command6.setEnabled(hay);
     Command1.setEnabled(hay && screens::has("panInfTurnos"));
     if (!hay) {
