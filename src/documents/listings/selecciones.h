@@ -17,9 +17,9 @@ struct Periodo {
 
 /// What narrows a report of appointments or visits; what is not set takes all.
 struct Filtros {
-    std::optional<QString> profesional, paciente, obraSocial;
-    std::optional<qint64> idPrestacion; ///< of visits only, as the state of its order
-    std::optional<QString> estadoDeOrden;
+    std::optional<QString> profesional = {}, paciente = {}, obraSocial = {};
+    std::optional<qint64> idPrestacion = {}; ///< of visits only, as the state of its order
+    std::optional<QString> estadoDeOrden = {};
 };
 
 QString deConsultas(const Periodo &periodo);
