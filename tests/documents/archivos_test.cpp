@@ -84,6 +84,17 @@ TEST_F(ArchivosTest, eachIsLaidOutWithItsSelection)
     }
 }
 
+TEST_F(ArchivosTest, theManualsExampleIsAReport)
+{
+    QFile manual(QStringLiteral(MANUAL "/15-informes.md"));
+    ASSERT_TRUE(manual.open(QIODevice::ReadOnly));
+    const QString example = QString::fromUtf8(manual.readAll()).section(u"```\n"_s, 1, 1);
+    const QString text = textOf(reports::Report(reports::parseReportFile(example, u"ejemplo.rpt"_s),
+                                                MODULE11::BaseDatos, seleccion::dePacientes({}), {}));
+    EXPECT_TRUE(text.contains(u"Sin obra social\nD'Angelo"_s)) << text.toStdString();
+    EXPECT_TRUE(text.contains(u"Son 1"_s)) << text.toStdString();
+}
+
 TEST_F(ArchivosTest, eachSaysThatItHasNoData)
 {
     for (const auto &[file, expected] : files())
