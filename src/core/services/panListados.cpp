@@ -117,6 +117,7 @@ void panListados::mostrarColumnas()
 void panListados::disponer()
 {
     Text1.setMinimumWidth(220);
+    Label2.setWordWrap(true); // a list may have many amounts
     setContents(this, Column{
                           Row{Fields{{u"&Buscar :"_s, Text1}}, Command5, Stretch()},
                           Expanding(DBGrid1),
