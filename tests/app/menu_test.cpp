@@ -41,7 +41,6 @@ const std::set<std::string> notBuiltYet{
     "panIMC",
     "panImagenes",
     "panImportAfiliados",
-    "panInformes",
     "panMadNeurol",
     "panObras",
     "panOft",
