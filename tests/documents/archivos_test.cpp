@@ -1,3 +1,4 @@
+#include "core/reports/informes.h"
 #include "delivered.h"
 #include "documents/listings/selecciones.h"
 #include "platform/reports/report.h"
@@ -33,10 +34,8 @@ protected:
 
     static reports::Report report(const QString &file, const QString &formula)
     {
-        return {reports::readReportFile(QStringLiteral(REPORT_FILES "/") + file),
-                MODULE11::BaseDatos,
-                formula,
-                {}};
+        return {reports::readReportFile(QStringLiteral(REPORT_FILES "/") + file), MODULE11::BaseDatos,
+                formula, informes::datosDeLaSesion()};
     }
 
     static QString textOf(reports::Report report)

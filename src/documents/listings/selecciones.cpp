@@ -15,14 +15,13 @@ namespace
 
 constexpr int diagnosticosPorConsulta = 5;
 
-/// The diagnosis in one of its places; `lugar` has the place's number at %1. The whole stands in parentheses,
-/// so that what else is asked for holds for each place.
+/// The diagnosis in one of its places; `lugar` has the place's number at %1.
 QString enAlgunLugar(const QString &lugar, const QString &diagnostico)
 {
     QStringList lugares;
     for (int numero = 1; numero <= diagnosticosPorConsulta; ++numero)
         lugares += lugar.arg(numero) + u" = "_s + diagnostico;
-    return u"( "_s + lugares.join(u" or ") + u" )"_s;
+    return lugares.join(u" or ");
 }
 
 QString clausula(const QString &campo, const std::optional<QString> &valor)
@@ -57,8 +56,8 @@ QString deConsultas(const Periodo &periodo)
 
 QString dePatologia(const Periodo &periodo, const QString &diagnostico)
 {
-    return deConsultas(periodo) + u" and "_s +
-           enAlgunLugar(u"{consulta.Diagnostico %1}"_s, reports::literal(diagnostico));
+    return deConsultas(periodo) + u" and ( "_s +
+           enAlgunLugar(u"{consulta.Diagnostico %1}"_s, reports::literal(diagnostico)) + u" )"_s;
 }
 
 QString dePacientes(const std::optional<qint64> &idProfesional)

@@ -31,6 +31,8 @@ QString deTurnos(const Periodo &periodo, const Filtros &filtros);
 QString deAtenciones(const Periodo &periodo, const Filtros &filtros);
 
 QString listaDeConsultas(const Periodo &periodo);
+/// The list of a diagnosis reaches beyond the period: the dates bind to the first of the visit's five places,
+/// and the other four count at any date, as the practice has always read it.
 QString listaPorDiagnostico(const Periodo &periodo, const QString &diagnostico);
 QString listaDePacientes(const std::optional<qint64> &idProfesional);
 
