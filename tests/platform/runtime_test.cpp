@@ -36,6 +36,7 @@ TEST(Format, datesAndTheTwoMeaningsOfM)
     EXPECT_EQ(format(moment, u"d/mm/yyyy"), "5/03/2024");
     EXPECT_EQ(format(moment, u"dd mmm yyyy"), "05 mar 2024");
     EXPECT_EQ(format(moment, u"dddd d  mmmm, yyyy"), "martes 5  marzo, 2024");
+    EXPECT_EQ(format(moment, u"d \"de\" mmmm \\d\\e\\l yyyy \"días"), "5 de marzo del 2024 días");
     EXPECT_EQ(format(moment, u"HH:MM"), "09:07");
     EXPECT_EQ(format(moment, u"HH:MM:SS"), "09:07:03");
     EXPECT_EQ(format(moment, u"HHMMSS"), "090703");

@@ -1,6 +1,7 @@
 #include "clinical/visits/panVisitas.h"
 
 #include "clinical/visits/nuevaConsulta.h"
+#include "core/reports/exportaHtml.h"
 #include "core/security/eventos.h"
 #include "core/security/niveles.h"
 #include "core/services/services.h"
@@ -23,6 +24,7 @@ enum { cMotivo = 1, cHora, cPulso, cTemperatura, cRespiracion }; // mDato
 enum { cTalla = 3, cPeso };                                      // Text3
 enum { cEstadoGeneral = 3, cEstadoNutricional };                 // Text1
 
+constexpr int anchoDelListado = 800;
 const QString edicion = u"EDICION DE CONSULTA "_s;
 
 /// How the audit tells a change in a list.
@@ -135,6 +137,7 @@ void panVisitas::conectar()
             edicion, u"TOMA DE CAMBIOS A LA BASE // HC. Nº%1 / Fecha cons.:%2"_s.arg(tag(), textoDeFecha()));
     });
     connect(&Command6, &QPushButton::clicked, this, [this] { ports::otorgaTurno(tag().toLongLong()); });
+    connect(&Command7, &QPushButton::clicked, this, &panVisitas::exportar);
     connect(&Command9, &QPushButton::clicked, this, [] {
         if (MODULE11::VerificaNivel(u"IngresarAConsultas"_s))
             screens::showSingle("panDiario");
@@ -146,7 +149,6 @@ void panVisitas::conectar()
             [this] { abrirConPermiso(u"IngresarALaboratorio"_s, "panAnalisis", tag()); });
     connect(&Command14, &QPushButton::clicked, this, &panVisitas::abrirHistoria);
     Command6.setEnabled(bool(ports::otorgaTurno));
-    Command7.setEnabled(false); // the listings do not exist yet
     Command9.setEnabled(screens::has("panDiario"));
     Command11.setEnabled(screens::has("panEstudios"));
     Command12.setEnabled(screens::has("panAnalisis"));
@@ -208,7 +210,7 @@ void panVisitas::mostrarVisita()
 
 void panVisitas::habilitar(bool hay)
 {
-    for (CommandButton *boton : {&Command4, &Command5, &Command14})
+    for (CommandButton *boton : {&Command4, &Command5, &Command7, &Command14})
         boton->setEnabled(hay);
     mFecha.setEnabled(hay);
     mDato1.setEnabled(hay);
@@ -366,6 +368,15 @@ void panVisitas::abrirHistoria()
     }
     settings::saveSetting(u"Configuracion"_s, clave, u"STANDARD"_s);
     screens::showChild("panEditHC", tag());
+}
+
+/// With what was typed in the visit in sight.
+void panVisitas::exportar()
+{
+    if (!MODULE11::VerificaNivel(u"IngresarAInformes"_s))
+        return;
+    Data2.updateRecord();
+    informes::exportaHtml(Data2.recordSource(), u"Consultas del paciente"_s, anchoDelListado);
 }
 
 bool panVisitas::queryUnload()

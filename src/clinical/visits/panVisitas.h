@@ -46,6 +46,7 @@ private:
     void irA(qint64 idConsulta);
     void quitar();
     void abrirHistoria();
+    void exportar();
 
     forms::Data Data1{QStringLiteral("Data1")}; ///< the patient
     forms::Data Data2{QStringLiteral("Data2")}; ///< the visits

@@ -25,23 +25,10 @@ QString registrado(const QString &clave)
     return dato.contains(u'<') ? QString() : dato;
 }
 
-/// What every report may tell besides its rows.
-reports::Parameters deLaSesion(const reports::Parameters &datos)
-{
-    reports::Parameters todos{
-        {u"profesional"_s, MODULE11::DrActual},       {u"usuario"_s, MODULE11::UsuarioActual},
-        {u"matricula"_s, registrado(u"Matricula"_s)}, {u"especialidad"_s, registrado(u"Especialidad"_s)},
-        {u"domicilio"_s, registrado(u"Domicilio"_s)}, {u"localidad"_s, registrado(u"Localidad"_s)},
-        {u"telefonos"_s, registrado(u"Telefonos"_s)},
-    };
-    todos.insert(datos);
-    return todos;
-}
-
 reports::Report informe(const QString &archivo, const QString &seleccion, const reports::Parameters &datos)
 {
     return reports::Report(reports::readReportFile(ruta(archivo)), MODULE11::BaseDatos, seleccion,
-                           deLaSesion(datos));
+                           datosDeLaSesion(datos));
 }
 
 /// Where a list is proposed to be kept: the person's own folder, under its title.
@@ -53,6 +40,18 @@ QString pideArchivo(const QString &titulo, const QString &sufijo, const QString 
 }
 
 } // namespace
+
+reports::Parameters datosDeLaSesion(const reports::Parameters &datos)
+{
+    reports::Parameters todos{
+        {u"profesional"_s, MODULE11::DrActual},       {u"usuario"_s, MODULE11::UsuarioActual},
+        {u"matricula"_s, registrado(u"Matricula"_s)}, {u"especialidad"_s, registrado(u"Especialidad"_s)},
+        {u"domicilio"_s, registrado(u"Domicilio"_s)}, {u"localidad"_s, registrado(u"Localidad"_s)},
+        {u"telefonos"_s, registrado(u"Telefonos"_s)},
+    };
+    todos.insert(datos);
+    return todos;
+}
 
 QString ruta(const QString &archivo)
 {

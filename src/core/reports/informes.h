@@ -12,6 +12,9 @@ namespace informes
 /// The report file of this name, whatever its case; its path in the folder when there is none.
 QString ruta(const QString &archivo);
 
+/// What every report may tell besides its rows: who the practice is, who prints, and what is given.
+reports::Parameters datosDeLaSesion(const reports::Parameters &datos = {});
+
 /// Shows the report in the preview window and returns when it is closed.
 void muestra(const QString &archivo, const QString &seleccion, const reports::Parameters &datos = {});
 /// Prints it without a preview; false when the person cancelled.

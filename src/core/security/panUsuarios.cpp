@@ -1,5 +1,6 @@
 #include "core/security/panUsuarios.h"
 
+#include "core/reports/informes.h"
 #include "core/security/niveles.h"
 #include "core/security/panNueUsuario.h"
 #include "core/services/services.h"
@@ -7,6 +8,7 @@
 #include "platform/basic/runtime.h"
 #include "platform/dao/sqltext.h"
 #include "platform/forms/layout.h"
+#include "platform/reports/selection.h"
 
 using namespace Qt::StringLiterals;
 using namespace forms;
@@ -36,7 +38,6 @@ panUsuarios::panUsuarios()
     Text3.setSecret();
     Text2.setMaximumWidth(70);
     Combo2.addItems(MODULE11::tiposDeUsuario);
-    Check1.setEnabled(false); // the printed list waits for the report service
     setContents(this, Column{
                           Expanding(Tabs(SSTab1, {{u"&Usuarios"_s, fichaUsuarios()},
                                                   {u"E&ventos del usuario"_s, fichaEventos()}})),
@@ -64,14 +65,12 @@ Item panUsuarios::fichaUsuarios()
 
 Item panUsuarios::fichaEventos()
 {
-    CommandButton &imprimir = command(u"Command7"_s, u"&Imprimir..."_s, u"imprimir"_s, {});
-    imprimir.setEnabled(false); // as the list of all users
     return Column{
         Label1,
         Expanding(DBGrid2),
         Row{Fields{{u"&Desde :"_s, dt1}}, Fields{{u"&Hasta :"_s, dt2}},
             command(u"Command5"_s, u"&Filtrar"_s, u"buscar"_s, [this] { filtrar(); }), Stretch(), Check1,
-            imprimir},
+            command(u"Command7"_s, u"&Imprimir..."_s, u"imprimir"_s, [this] { imprimir(); })},
     };
 }
 
@@ -124,12 +123,17 @@ void panUsuarios::mostrarNivel()
         Combo1.setValue(MODULE11::entradaDeNivel(niveles));
 }
 
+QString panUsuarios::usuarioEnVista()
+{
+    return Data1.hasRow() ? Data1.recordset()[u"Nombre"].text() : QString();
+}
+
 /// The log is long: it is read only while it is in sight.
 void panUsuarios::mostrarEventos(const QString &condicion)
 {
     if (SSTab1.currentIndex() != paginaEventos)
         return;
-    const QString nombre = Data1.hasRow() ? Data1.recordset()[u"Nombre"].text() : QString();
+    const QString nombre = usuarioEnVista();
     Label1.setCaption(u"Eventos de "_s + nombre + u" :"_s);
     Data2.setRecordSource(u"Select * from eventos where usuario = "_s + dao::quoted(nombre) + condicion +
                           u" order by fecha, hora"_s);
@@ -167,6 +171,15 @@ void panUsuarios::suspender()
 void panUsuarios::filtrar()
 {
     mostrarEventos(u" and "_s + dao::period(u"Fecha"_s, dt1.value(), dt2.value()));
+}
+
+/// Of the account in sight, or of all.
+void panUsuarios::imprimir()
+{
+    QString seleccion = reports::period(u"Eventos.Fecha"_s, dt1.value(), dt2.value());
+    if (!Check1.isChecked())
+        seleccion.prepend(u"{Eventos.Usuario} = %1 and "_s.arg(reports::literal(usuarioEnVista())));
+    informes::muestra(u"eventos.rpt"_s, seleccion);
 }
 
 #include "moc_panUsuarios.cpp"

@@ -21,11 +21,13 @@ private:
 
     void bloquear(bool supervisor);
     void mostrarNivel();
+    QString usuarioEnVista();
     void mostrarEventos(const QString &condicion = {});
     void escribir(const QString &campo, const basic::Value &valor);
     void agregar();
     void suspender();
     void filtrar();
+    void imprimir();
 
     forms::SSTab SSTab1{QStringLiteral("SSTab1")};
     forms::TextBox Text1{QStringLiteral("Text1"), 50};

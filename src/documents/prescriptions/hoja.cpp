@@ -17,8 +17,7 @@ namespace
 
 const QString seccion = u"Configuracion"_s;
 const QString clave = u"Papel de la receta"_s;
-/// Left of the items behind which others stand.
-constexpr double delante = 1;
+constexpr double delante = 1; ///< the elements lie upon the picture
 
 QString nombreDeElemento(int numero)
 {

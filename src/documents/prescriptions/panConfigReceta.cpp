@@ -70,6 +70,13 @@ void traerALaHoja(CanvasItem &item, const Papel &papel)
     item.setPos(qBound(0.0, item.x(), lugar.width()), qBound(0.0, item.y(), lugar.height()));
 }
 
+/// The element that the keyboard is on, or that was pressed last.
+std::optional<int> elegido(const recetario::Hoja &hoja)
+{
+    const CanvasItem *item = hoja.focused();
+    return item ? hoja.numeroDe(item->name()) : std::nullopt;
+}
+
 /// A picture beside the program is found by every workstation, wherever the folder is for it.
 QString rutaParaGuardar(const QString &archivo)
 {
@@ -257,17 +264,6 @@ void panConfigReceta::abrirMenu(const QString &item, QPoint pantalla)
     menuEd1.exec(pantalla);
 }
 
-namespace
-{
-
-std::optional<int> elegido(const recetario::Hoja &hoja)
-{
-    const CanvasItem *item = hoja.focused();
-    return item ? hoja.numeroDe(item->name()) : std::nullopt;
-}
-
-} // namespace
-
 void panConfigReceta::propiedades()
 {
     const std::optional<int> numero = elegido(Picture2);
@@ -356,7 +352,8 @@ void panConfigReceta::guardar()
 
 bool panConfigReceta::queryUnload()
 {
-    return diseno() == guardado_ || MODULE11::PreguntaSiBorra(u"Cierra sin guardar los cambios de la hoja"_s);
+    const bool guardada = diseno() == guardado_ && Picture2.papel().nombre == recetario::papelEnUso().nombre;
+    return guardada || MODULE11::PreguntaSiBorra(u"Cierra sin guardar los cambios de la hoja"_s);
 }
 
 #include "moc_panConfigReceta.cpp"

@@ -106,11 +106,10 @@ void winReceta::repetir()
     textReceta.setFocus();
 }
 
-/// The key that closes a window by mistake must not take a prescription with it.
-void winReceta::escape()
+/// Esc and the frame close by mistake too, and must not take a prescription with them.
+bool winReceta::queryUnload()
 {
-    if (texto() == alAbrir_ || MODULE11::PreguntaSiBorra(u"Cierra la receta sin guardarla"_s))
-        answer(u"CERRAR"_s);
+    return texto() == alAbrir_ || MODULE11::PreguntaSiBorra(u"Cierra la receta sin guardarla"_s);
 }
 
 std::optional<QString> EmiteReceta(qint64 paciente, const QString &textoInicial)

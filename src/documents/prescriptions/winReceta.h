@@ -16,7 +16,7 @@ public:
 
 protected:
     void activate() override;
-    void escape() override;
+    bool queryUnload() override;
 
 private:
     void dibujar();

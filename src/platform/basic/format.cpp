@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cmath>
+#include <optional>
 
 namespace basic
 {
@@ -66,6 +67,19 @@ QString dateToken(QChar letter, qsizetype length, Date date, bool twelveHours)
     }
 }
 
+/// A literal of a pattern: a sign behind a backslash, or text between double quotes. Goes to its last sign.
+std::optional<QString> literalAt(QStringView pattern, qsizetype &i)
+{
+    if (pattern[i] == u'\\' && i + 1 < pattern.size())
+        return QString(pattern[++i]);
+    if (pattern[i] != u'"')
+        return std::nullopt;
+    QString literal;
+    while (++i < pattern.size() && pattern[i] != u'"')
+        literal += pattern[i];
+    return literal;
+}
+
 /// An "m" means minutes right after hours ("HH:MM", "HHMMSS"), months everywhere else.
 QString formatDate(Date date, QStringView pattern)
 {
@@ -76,6 +90,11 @@ QString formatDate(Date date, QStringView pattern)
         if (pattern.mid(i).startsWith(u"am/pm", Qt::CaseInsensitive)) {
             out += date.time().hour() < 12 ? u"a.m." : u"p.m.";
             i += 5;
+            continue;
+        }
+        if (const auto literal = literalAt(pattern, i)) {
+            out += *literal;
+            ++i;
             continue;
         }
         const QChar letter = pattern[i].toLower();
@@ -126,11 +145,8 @@ NumberPattern readNumberPattern(QStringView pattern)
             p.point = true;
         } else if (c == u',' && p.digits && !p.point) {
             p.thousands = true;
-        } else if (c == u'\\' && i + 1 < pattern.size()) {
-            literal += pattern[++i];
-        } else if (c == u'"') {
-            while (++i < pattern.size() && pattern[i] != u'"')
-                literal += pattern[i];
+        } else if (const auto written = literalAt(pattern, i)) {
+            literal += *written;
         } else {
             p.percent = p.percent || c == u'%';
             literal += c;

@@ -180,14 +180,15 @@ struct ColumnLayout::Shape {
     struct Place {
         double left, width;
         Qt::Alignment alignment;
-        bool bold;
+        bool bold, totalled;
     };
     double width;
     Measured normal, strong;
     std::vector<Place> places;
 };
 
-/// A line of the list. The lines of its cells are of one height, so that it can be cut below any of them.
+/// A line of the list. The lines of its cells are of one height, so that it can be cut below any of them. The
+/// caption of a line of totals has the room as far as the first of them.
 class LineBlock : public Block
 {
 public:
@@ -198,9 +199,16 @@ public:
         qsizetype most = 1;
         for (std::size_t i = 0; i < shape_->places.size(); ++i) {
             const QString text = texts.value(static_cast<qsizetype>(i));
-            cells_.push_back(text.isEmpty() ? QStringList()
-                                            : font(i).wrapped(text, shape_->places[i].width - 2 * cellSide));
-            most = qMax(most, cells_.back().size());
+            Place place = shape_->places[i];
+            if (line == ColumnLayout::Line::Total && !place.totalled) {
+                place.alignment = Qt::AlignLeft;
+                for (std::size_t next = i + 1; next < shape_->places.size() && !shape_->places[next].totalled;
+                     ++next)
+                    place.width += shape_->places[next].width;
+            }
+            cells_.push_back(
+                {text.isEmpty() ? QStringList() : font(i).wrapped(text, place.width - 2 * cellSide), place});
+            most = qMax(most, cells_.back().lines.size());
         }
         lines_ = most;
     }
@@ -236,12 +244,17 @@ public:
     QString text() const override
     {
         QStringList texts;
-        for (const QStringList &cell : cells_)
-            texts += cell.join(u' ');
+        for (const Cell &cell : cells_)
+            texts += cell.lines.join(u' ');
         return texts.join(u'\t');
     }
 
 private:
+    using Place = ColumnLayout::Shape::Place;
+    struct Cell {
+        QStringList lines;
+        Place place;
+    };
     double lineHeight() const { return shape_->normal.lineHeight(); }
     const Measured &font(std::size_t column) const
     {
@@ -252,10 +265,10 @@ private:
     void drawCell(QPainter &painter, std::size_t column, QPointF at, double from, double height) const
     {
         const Measured &measured = font(column);
-        const ColumnLayout::Shape::Place &place = shape_->places[column];
+        const Place &place = cells_[column].place;
         painter.setFont(measured.font());
         double top = cellAbove - from;
-        for (const QString &line : cells_[column]) {
+        for (const QString &line : cells_[column].lines) {
             if (top > -1 && top + lineHeight() < height + 1) {
                 const double spare =
                     place.alignment & Qt::AlignLeft ? 0 : place.width - 2 * cellSide - measured.width(line);
@@ -269,7 +282,7 @@ private:
 
     std::shared_ptr<const ColumnLayout::Shape> shape_;
     ColumnLayout::Line line_;
-    std::vector<QStringList> cells_;
+    std::vector<Cell> cells_;
     qsizetype lines_ = 1;
 };
 
@@ -295,7 +308,7 @@ ColumnLayout::ColumnLayout(const ReportFile &file, double width)
     double left = 0;
     for (const Column &column : file.columns) {
         const double own = column.width == 0 ? share : dots(column.width) * scale;
-        shape->places.push_back({left, own, column.alignment, column.bold});
+        shape->places.push_back({left, own, column.alignment, column.bold, column.total != Total::None});
         left += own;
     }
     shape_ = std::move(shape);

@@ -74,8 +74,6 @@ void Report::bindTexts(const Parameters &parameters)
         text->bind([&](const QString &name) { return resolve(name, parameters); });
         tellsPageCount_ = tellsPageCount_ || text->uses(Expression::Source::PageCount);
     }
-    hasTotals_ = std::any_of(file_.columns.begin(), file_.columns.end(),
-                             [](const Column &column) { return column.total != Total::None; });
     for (Column &column : file_.columns)
         if (const auto ordinal = column.text.fieldOrdinal(); column.total != Total::None) {
             if (!ordinal)
@@ -292,7 +290,7 @@ BlockPtr Report::line(const Place &place) const
 /// The caption stands in the first column that has no total.
 BlockPtr Report::totalLine(const Text &caption, const Place &place, std::size_t level) const
 {
-    if (!hasTotals_ || caption.isEmpty())
+    if (caption.isEmpty())
         return nullptr;
     QString toSay = caption.render(scopeAt(place.row - 1, place, level, 0));
     QStringList texts;

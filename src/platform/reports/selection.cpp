@@ -356,4 +356,9 @@ QString literal(basic::Date day)
     return u"date(%1,%2,%3)"_s.arg(date.year()).arg(date.month()).arg(date.day());
 }
 
+QString period(const QString &field, basic::Date from, basic::Date to)
+{
+    return u"{%1} >= %2 and {%1} <= %3"_s.arg(field, literal(from), literal(to));
+}
+
 } // namespace reports

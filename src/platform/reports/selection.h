@@ -22,5 +22,8 @@ QString toDialect(const QString &formula);
 QString literal(const QString &text);
 /// A day as a literal of a formula: date(2024,3,15).
 QString literal(basic::Date day);
+/// The rows whose field lies between the two days, both included: of "Turnos.Fecha",
+/// {Turnos.Fecha} >= date(2024,3,1) and {Turnos.Fecha} <= date(2024,3,31).
+QString period(const QString &field, basic::Date from, basic::Date to);
 
 } // namespace reports

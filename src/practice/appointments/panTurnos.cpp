@@ -1,5 +1,6 @@
 #include "practice/appointments/panTurnos.h"
 
+#include "core/reports/exportaHtml.h"
 #include "core/services/listas.h"
 #include "core/services/services.h"
 #include "core/session/login.h"
@@ -20,6 +21,7 @@ namespace
 {
 
 const QString porUsuario = u"Por Usuario"_s;
+constexpr int anchoDelListado = 800;
 constexpr QStringView horarios[] = {u"desde1", u"hasta1", u"desde2", u"hasta2"};
 
 /// The first entry of each filter stands for all.
@@ -50,7 +52,6 @@ qint64 cuenta(const QString &sql)
 panTurnos::panTurnos() : Form(u"panTurnos"_s)
 {
     setWindowTitle(u"Pantalla de Turnos o Citas"_s);
-    Command5.setEnabled(false); // needs the listings
     for (int i = 0; i < 4; ++i)
         Label3.add(i, u"no"_s);
     for (int i = 0; i < 2; ++i) {
@@ -176,6 +177,7 @@ void panTurnos::mostrarCuentas()
 {
     const bool hay = enLugar();
     Command3.setEnabled(hay);
+    Command5.setEnabled(hay);
     Command6.setEnabled(hay);
     Command1.setEnabled(hay && screens::has("panInfTurnos"));
     if (!hay) {
@@ -253,6 +255,11 @@ void panTurnos::borrar()
     const qint64 idTurno = turnoActual();
     turnos::liberar(Data1.recordset());
     volverA(idTurno);
+}
+
+void panTurnos::exportar()
+{
+    informes::exportaHtml(Data1.recordSource(), u"TURNOS"_s, anchoDelListado);
 }
 
 void panTurnos::cambiarEstado()

@@ -35,6 +35,7 @@ private:
     void editar();
     void borrar();
     void cambiarEstado();
+    void exportar();
 
     forms::MonthView calendar1{QStringLiteral("calendar1")};
     forms::ComboBox Combo1{QStringLiteral("Combo1"), {QStringLiteral("<Todas>")}};
@@ -57,8 +58,9 @@ private:
     forms::CommandButton &Command6 =
         records::comando(*this, QStringLiteral("Command6"), QStringLiteral("Cambiar &estado..."),
                          QStringLiteral("editar"), [this] { cambiarEstado(); });
-    forms::CommandButton &Command5 = records::comando(
-        *this, QStringLiteral("Command5"), QStringLiteral("Imprimi&r"), QStringLiteral("imprimir"), {});
+    forms::CommandButton &Command5 =
+        records::comando(*this, QStringLiteral("Command5"), QStringLiteral("Imprimi&r"),
+                         QStringLiteral("imprimir"), [this] { exportar(); });
     forms::CommandButton &Command1 = records::comando(
         *this, QStringLiteral("Command1"), QStringLiteral("I&nforme..."), QStringLiteral("informes"),
         [] { screens::showModal("panInfTurnos"); }, {.gate = QStringLiteral("IngresarAInformes")});

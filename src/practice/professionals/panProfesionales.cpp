@@ -1,9 +1,9 @@
 #include "practice/professionals/panProfesionales.h"
 
+#include "core/reports/informes.h"
 #include "core/services/services.h"
 #include "core/session/session.h"
 #include "platform/basic/runtime.h"
-#include "practice/professionals/listado.h"
 #include "practice/professionals/panNueProfesional.h"
 #include "practice/professionals/usuariosMedicos.h"
 
@@ -196,7 +196,7 @@ void panProfesionales::buscar()
 void panProfesionales::imprimir()
 {
     Data1.updateRecord();
-    practice::imprimeProfesionales();
+    informes::muestra(u"profesionales.rpt"_s, {});
 }
 
 #include "moc_panProfesionales.cpp"

@@ -147,6 +147,19 @@ TEST_F(ReportTest, anEmptySelectionSaysSoBelowItsTitles)
     EXPECT_EQ(pages(report), QStringList(u"Cabeza / Número\tNombre\tImporte / Sin datos"_s));
 }
 
+TEST_F(ReportTest, theCaptionOfTotalsHasTheRoomBeforeThem)
+{
+    fill(3);
+    Report report = made("<columnas total='Total de las ventas: {{cantidad(Numero)}}'>"
+                         "<columna ancho='10' alinea='derecha'>{{Numero}}</columna>"
+                         "<columna>{{Nombre}}</columna>"
+                         "<columna ancho='20' total='suma'>{{Importe|0.0}}</columna></columnas>");
+    const std::vector<Report::Reading> read = report.read(0);
+    const Report::Reading &row = read[read.size() - 2], &totals = read.back();
+    EXPECT_EQ(totals.text, u"Total de las ventas: 3\t\t0,3"_s);
+    EXPECT_EQ(totals.place.height(), row.place.height());
+}
+
 TEST_F(ReportTest, whatIsHigherThanItsPageGoesOnOnTheNext)
 {
     fill(2, u"palabras "_s.repeated(25));

@@ -1,0 +1,101 @@
+#include "core/reports/informes.h"
+#include "delivered.h"
+#include "documents/listings/selecciones.h"
+#include "platform/reports/report.h"
+
+#include <QDir>
+
+#include <map>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// The report files that the installation delivers, over its base with a row for each.
+class ArchivosTest : public DeliveredBase
+{
+protected:
+    void SetUp() override
+    {
+        DeliveredBase::SetUp();
+        run({"INSERT INTO Profesionales (idProfesional, Nombre) VALUES (1, 'Dra. O''Higgins')",
+             "INSERT INTO Pacientes (Numero, [Apellido y Nombres], idProfesional) VALUES (1, 'D''Angelo', 1)",
+             "INSERT INTO Consulta (Paciente, [nombre del paciente], Fecha, Hora, [Diagnostico 4], Dr, Monto) "
+             "VALUES (1, 'D''Angelo', cdate('15/03/2024'), cdate('10:30:00'), 'Crup d''emblée', "
+             "'Dra. O''Higgins', 1234.5)",
+             "INSERT INTO Turnos (Fecha, Hora, Paciente, Dr) VALUES (cdate('15/03/2024'), '08:00', 'D''Angelo', "
+             "'Dra. O''Higgins')",
+             "INSERT INTO Eventos (Proceso, Usuario, Fecha, Hora, Suceso) VALUES ('IngresarATurnos', "
+             "'D''Angelo', cdate('15/03/2024'), '08:20', 'INGRESO CORRECTO')",
+             "INSERT INTO Recetario (idPaciente, Paciente, fecha, Receta, Dr) VALUES (1, 'D''Angelo', "
+             "cdate('15/03/2024'), 'Amoxicilina <500> & reposo', 'Dra. O''Higgins')"});
+    }
+
+    static reports::Report report(const QString &file, const QString &formula)
+    {
+        return {reports::readReportFile(QStringLiteral(REPORT_FILES "/") + file), MODULE11::BaseDatos,
+                formula, informes::datosDeLaSesion()};
+    }
+
+    static QString textOf(reports::Report report)
+    {
+        report.layOut([](int) { return true; });
+        QStringList texts;
+        for (int page = 0; report.hasPage(page); ++page)
+            for (const reports::Report::Reading &reading : report.read(page))
+                texts += reading.text;
+        return texts.join(u'\n');
+    }
+};
+
+struct Expected {
+    QString formula, reads;
+};
+
+std::map<QString, Expected> files()
+{
+    const seleccion::Periodo march{basic::Date(QDate(2024, 3, 1)), basic::Date(QDate(2024, 3, 31))};
+    return {
+        {u"CONS.RPT"_s, {seleccion::deAtenciones(march, {.paciente = u"D'Angelo"_s}), u"\t1.234,50"_s}},
+        {u"cie10.rpt"_s, {u"{Diagnosticos.idDiagnostico} <> ''"_s, u"Total de diagnósticos: 10594"_s}},
+        {u"consultorio.rpt"_s, {seleccion::deConsultas(march), u"viernes 15 de marzo de 2024"_s}},
+        {u"eventos.rpt"_s, {u"{Eventos.Usuario} = 'D''Angelo'"_s, u"IngresarATurnos\tINGRESO CORRECTO"_s}},
+        {u"pacientes.rpt"_s, {seleccion::dePacientes(1), u"Total de pacientes: 1"_s}},
+        {u"patologia.rpt"_s, {seleccion::dePatologia(march, u"Crup d'emblée"_s), u"Crup d'emblée"_s}},
+        {u"profesionales.rpt"_s, {QString(), u"Dra. O'Higgins"_s}},
+        {u"receta.rpt"_s, {u"{recetario.idReceta} = 1"_s, u"Amoxicilina <500> & reposo"_s}},
+        {u"turnos.rpt"_s, {seleccion::deTurnos(march, {}), u"Turnos de Dra. O'Higgins: 1"_s}},
+    };
+}
+
+} // namespace
+
+TEST_F(ArchivosTest, eachIsLaidOutWithItsSelection)
+{
+    const auto known = files();
+    for (const QString &file : QDir(QStringLiteral(REPORT_FILES)).entryList(QDir::Files)) {
+        SCOPED_TRACE(file.toStdString());
+        const auto found = known.find(file);
+        ASSERT_NE(found, known.end()) << "a report file without a selection to try it with";
+        const QString text = textOf(report(file, found->second.formula));
+        EXPECT_TRUE(text.contains(found->second.reads)) << text.right(600).toStdString();
+    }
+}
+
+TEST_F(ArchivosTest, theManualsExampleIsAReport)
+{
+    QFile manual(QStringLiteral(MANUAL "/15-informes.md"));
+    ASSERT_TRUE(manual.open(QIODevice::ReadOnly));
+    const QString example = QString::fromUtf8(manual.readAll()).section(u"```\n"_s, 1, 1);
+    const QString text = textOf(reports::Report(reports::parseReportFile(example, u"ejemplo.rpt"_s),
+                                                MODULE11::BaseDatos, seleccion::dePacientes({}), {}));
+    EXPECT_TRUE(text.contains(u"Sin obra social\nD'Angelo"_s)) << text.toStdString();
+    EXPECT_TRUE(text.contains(u"Son 1"_s)) << text.toStdString();
+}
+
+TEST_F(ArchivosTest, eachSaysThatItHasNoData)
+{
+    for (const auto &[file, expected] : files())
+        EXPECT_TRUE(textOf(report(file, u"FALSE"_s)).contains(u"Sin datos")) << file.toStdString();
+}
