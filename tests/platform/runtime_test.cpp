@@ -36,6 +36,8 @@ TEST(Format, datesAndTheTwoMeaningsOfM)
     EXPECT_EQ(format(moment, u"d/mm/yyyy"), "5/03/2024");
     EXPECT_EQ(format(moment, u"dd mmm yyyy"), "05 mar 2024");
     EXPECT_EQ(format(moment, u"dddd d  mmmm, yyyy"), "martes 5  marzo, 2024");
+    EXPECT_EQ(format(moment, u"d \"de\" mmmm \\de yyyy"), "5 de marzo de 2024");
+    EXPECT_EQ(format(moment, u"d \"sin cerrar"), "5 sin cerrar");
     EXPECT_EQ(format(moment, u"HH:MM"), "09:07");
     EXPECT_EQ(format(moment, u"HH:MM:SS"), "09:07:03");
     EXPECT_EQ(format(moment, u"HHMMSS"), "090703");

@@ -66,6 +66,22 @@ QString dateToken(QChar letter, qsizetype length, Date date, bool twelveHours)
     }
 }
 
+/// What stands between quotes, or behind a backslash, is shown as it is.
+bool isLiteral(QStringView pattern, qsizetype at)
+{
+    return pattern[at] == u'"' || (pattern[at] == u'\\' && at + 1 < pattern.size());
+}
+
+/// Leaves `at` on the literal's last sign.
+QStringView takeLiteral(QStringView pattern, qsizetype &at)
+{
+    const qsizetype start = at + 1;
+    const qsizetype close = pattern[at] == u'"' ? pattern.indexOf(u'"', start) : start + 1;
+    const qsizetype end = close < 0 ? pattern.size() : close;
+    at = pattern[at] == u'"' ? end : start;
+    return pattern.sliced(start, end - start);
+}
+
 /// An "m" means minutes right after hours ("HH:MM", "HHMMSS"), months everywhere else.
 QString formatDate(Date date, QStringView pattern)
 {
@@ -76,6 +92,11 @@ QString formatDate(Date date, QStringView pattern)
         if (pattern.mid(i).startsWith(u"am/pm", Qt::CaseInsensitive)) {
             out += date.time().hour() < 12 ? u"a.m." : u"p.m.";
             i += 5;
+            continue;
+        }
+        if (isLiteral(pattern, i)) {
+            out += takeLiteral(pattern, i);
+            ++i;
             continue;
         }
         const QChar letter = pattern[i].toLower();
@@ -126,11 +147,8 @@ NumberPattern readNumberPattern(QStringView pattern)
             p.point = true;
         } else if (c == u',' && p.digits && !p.point) {
             p.thousands = true;
-        } else if (c == u'\\' && i + 1 < pattern.size()) {
-            literal += pattern[++i];
-        } else if (c == u'"') {
-            while (++i < pattern.size() && pattern[i] != u'"')
-                literal += pattern[i];
+        } else if (isLiteral(pattern, i)) {
+            literal += takeLiteral(pattern, i);
         } else {
             p.percent = p.percent || c == u'%';
             literal += c;
