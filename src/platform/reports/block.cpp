@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTextFrame>
 #include <QTextLayout>
 
 #include <array>
@@ -58,7 +59,11 @@ public:
             QUrl::fromLocalFile(QFileInfo(file.path).absolutePath() + u'/').toString());
         document_.setHtml(html);
         document_.setTextWidth(width);
-        height_ = document_.size().height();
+        // The document leaves out the margins above its first and below its last paragraph.
+        const QTextFrame *root = document_.rootFrame();
+        above_ = inPaper(root->begin().currentBlock().blockFormat().topMargin());
+        height_ = above_ + document_.size().height() +
+                  inPaper((--root->end()).currentBlock().blockFormat().bottomMargin());
     }
 
     double height() const override { return height_; }
@@ -83,10 +88,10 @@ public:
     void draw(QPainter &painter, QPointF at, double from, double height) const override
     {
         painter.save();
-        painter.translate(at.x(), at.y() - from);
+        painter.translate(at.x(), at.y() + above_ - from);
         QAbstractTextDocumentLayout::PaintContext context;
         context.palette.setColor(QPalette::Text, Qt::black);
-        context.clip = QRectF(0, from, document_.textWidth(), height);
+        context.clip = QRectF(0, from - above_, document_.textWidth(), height);
         painter.setClipRect(context.clip, Qt::IntersectClip);
         document_.documentLayout()->draw(&painter, context);
         painter.restore();
@@ -95,13 +100,16 @@ public:
     QString text() const override { return document_.toPlainText(); }
 
 private:
+    /// A margin without a unit is in the screen's dots.
+    static double inPaper(double screenDots) { return screenDots * dotsPerInch / 96; }
+
     using Span = std::pair<double, double>;
     const std::vector<Span> &lines() const
     {
         if (!lines_.empty())
             return lines_;
         for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
-            const double top = document_.documentLayout()->blockBoundingRect(block).top();
+            const double top = above_ + document_.documentLayout()->blockBoundingRect(block).top();
             for (int i = 0; i < block.layout()->lineCount(); ++i) {
                 const QRectF line = block.layout()->lineAt(i).rect();
                 lines_.emplace_back(top + line.top(), top + line.bottom());
@@ -111,6 +119,7 @@ private:
     }
 
     QTextDocument document_;
+    double above_ = 0; ///< the first paragraph's margin
     double height_ = 0;
     mutable std::vector<Span> lines_;
 };
@@ -195,14 +204,17 @@ public:
               ColumnLayout::Line line)
         : shape_(std::move(shape)), line_(line)
     {
-        qsizetype most = 1;
         for (std::size_t i = 0; i < shape_->places.size(); ++i) {
             const QString text = texts.value(static_cast<qsizetype>(i));
-            cells_.push_back(text.isEmpty() ? QStringList()
-                                            : font(i).wrapped(text, shape_->places[i].width - 2 * cellSide));
-            most = qMax(most, cells_.back().size());
+            if (text.isEmpty())
+                continue;
+            Cell cell{i, shape_->places[i], {}};
+            if (line == ColumnLayout::Line::Total)
+                spread(cell, texts);
+            cell.lines = font(i).wrapped(text, cell.place.width - 2 * cellSide);
+            lines_ = qMax(lines_, cell.lines.size());
+            cells_.push_back(std::move(cell));
         }
-        lines_ = most;
     }
 
     double height() const override
@@ -224,8 +236,8 @@ public:
         if (line_ == ColumnLayout::Line::Striped)
             painter.fillRect(whole, stripeColour);
         painter.setPen(Qt::black);
-        for (std::size_t i = 0; i < cells_.size(); ++i)
-            drawCell(painter, i, at, from, height);
+        for (const Cell &cell : cells_)
+            drawCell(painter, cell, at, from, height);
         painter.setPen(QPen(ruleColour, ruleWidth));
         if (line_ == ColumnLayout::Line::Heading)
             painter.drawLine(whole.bottomLeft(), whole.bottomRight());
@@ -235,13 +247,30 @@ public:
 
     QString text() const override
     {
-        QStringList texts;
-        for (const QStringList &cell : cells_)
-            texts += cell.join(u' ');
+        QStringList texts(static_cast<qsizetype>(shape_->places.size()));
+        for (const Cell &cell : cells_)
+            texts[static_cast<qsizetype>(cell.column)] = cell.lines.join(u' ');
         return texts.join(u'\t');
     }
 
 private:
+    struct Cell {
+        std::size_t column;
+        ColumnLayout::Shape::Place place;
+        QStringList lines;
+    };
+
+    /// A text that has empty columns at its right goes on over them.
+    void spread(Cell &cell, const QStringList &texts) const
+    {
+        for (std::size_t i = cell.column + 1; i < shape_->places.size(); ++i) {
+            if (!texts.value(static_cast<qsizetype>(i)).isEmpty())
+                return;
+            cell.place.width += shape_->places[i].width;
+            cell.place.alignment = Qt::AlignLeft;
+        }
+    }
+
     double lineHeight() const { return shape_->normal.lineHeight(); }
     const Measured &font(std::size_t column) const
     {
@@ -249,13 +278,13 @@ private:
         return strong || shape_->places[column].bold ? shape_->strong : shape_->normal;
     }
 
-    void drawCell(QPainter &painter, std::size_t column, QPointF at, double from, double height) const
+    void drawCell(QPainter &painter, const Cell &cell, QPointF at, double from, double height) const
     {
-        const Measured &measured = font(column);
-        const ColumnLayout::Shape::Place &place = shape_->places[column];
+        const Measured &measured = font(cell.column);
+        const ColumnLayout::Shape::Place &place = cell.place;
         painter.setFont(measured.font());
         double top = cellAbove - from;
-        for (const QString &line : cells_[column]) {
+        for (const QString &line : cell.lines) {
             if (top > -1 && top + lineHeight() < height + 1) {
                 const double spare =
                     place.alignment & Qt::AlignLeft ? 0 : place.width - 2 * cellSide - measured.width(line);
@@ -269,7 +298,7 @@ private:
 
     std::shared_ptr<const ColumnLayout::Shape> shape_;
     ColumnLayout::Line line_;
-    std::vector<QStringList> cells_;
+    std::vector<Cell> cells_; ///< those with a text
     qsizetype lines_ = 1;
 };
 

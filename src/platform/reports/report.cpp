@@ -74,8 +74,6 @@ void Report::bindTexts(const Parameters &parameters)
         text->bind([&](const QString &name) { return resolve(name, parameters); });
         tellsPageCount_ = tellsPageCount_ || text->uses(Expression::Source::PageCount);
     }
-    hasTotals_ = std::any_of(file_.columns.begin(), file_.columns.end(),
-                             [](const Column &column) { return column.total != Total::None; });
     for (Column &column : file_.columns)
         if (const auto ordinal = column.text.fieldOrdinal(); column.total != Total::None) {
             if (!ordinal)
@@ -292,7 +290,7 @@ BlockPtr Report::line(const Place &place) const
 /// The caption stands in the first column that has no total.
 BlockPtr Report::totalLine(const Text &caption, const Place &place, std::size_t level) const
 {
-    if (!hasTotals_ || caption.isEmpty())
+    if (file_.columns.empty() || caption.isEmpty())
         return nullptr;
     QString toSay = caption.render(scopeAt(place.row - 1, place, level, 0));
     QStringList texts;
@@ -315,8 +313,9 @@ BlockPtr Report::layOutPiece(const Piece &piece, const Place &place, int page) c
     case Piece::Opening:
         return band(file_.opening, scopeAt(place.row, place, 0, page));
     case Piece::Empty:
-        return file_.empty.isEmpty() ? htmlBlock(u"<p>Sin datos</p>"_s, file_, width())
-                                     : band(file_.empty, scopeAt(-1, place, 0, page));
+        return file_.empty.isEmpty()
+                   ? htmlBlock(u"<p style=\"margin-top:8px\">Sin datos</p>"_s, file_, width())
+                   : band(file_.empty, scopeAt(-1, place, 0, page));
     case Piece::Head:
         return band(file_.groups[piece.group].head, scopeAt(place.row, place, piece.group + 1, page));
     case Piece::Foot:
@@ -359,7 +358,8 @@ bool Report::staysWithNext(const Piece &piece, Place place, int page, double roo
     return true;
 }
 
-/// The page's head, the heads of the groups that go on, and the columns' titles.
+/// The page's head, the heads of the groups that go on, and the columns' titles where the first page has
+/// them.
 void Report::putTop(Page &built, const Place &begin, const Piece &first, int page, double &top) const
 {
     const auto put = [&](const BlockPtr &block) {
@@ -372,6 +372,10 @@ void Report::putTop(Page &built, const Place &begin, const Piece &first, int pag
     if (page == 0)
         return;
     const bool inside = first.kind == Piece::Line || first.kind == Piece::Detail;
+    const bool list =
+        first.kind != Piece::Opening && first.kind != Piece::Headings && first.kind != Piece::Summary;
+    if (!file_.headingsInGroup && list)
+        put(headings());
     for (std::size_t group = 0; group < file_.groups.size(); ++group) {
         const bool goesOn = inside || (first.kind == Piece::Head && group < first.group);
         if (!file_.groups[group].repeated || !goesOn)
@@ -380,9 +384,7 @@ void Report::putTop(Page &built, const Place &begin, const Piece &first, int pag
         scope.continued = true;
         put(band(file_.groups[group].head, scope));
     }
-    const bool list =
-        first.kind != Piece::Opening && first.kind != Piece::Headings && first.kind != Piece::Summary;
-    if (file_.headingsInGroup ? inside : list)
+    if (file_.headingsInGroup && inside)
         put(headings());
 }
 

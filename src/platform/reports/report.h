@@ -115,7 +115,6 @@ private:
     dao::Recordset rows_;       ///< closed for a report without a query, which shows its detail once
     std::vector<int> totalled_; ///< ordinals
     ColumnLayout columns_;
-    bool hasTotals_ = false; ///< of columns
     std::vector<Place> begins_;
     bool complete_ = false;
     bool tellsPageCount_ = false;
