@@ -19,6 +19,8 @@ namespace
 
 constexpr double leastBelowHead = dots(6); ///< a head is followed by that much of its list on the same page
 
+constexpr qsizetype bandsKept = 32;
+
 struct Aggregate {
     const char16_t *name;
     Total total;
@@ -264,7 +266,14 @@ std::optional<Report::Piece> Report::pieceAt(Place &place) const
 
 BlockPtr Report::band(const Band &text, const Scope &scope) const
 {
-    return text.isEmpty() ? nullptr : htmlBlock(text.render(scope), file_, width());
+    if (text.isEmpty())
+        return nullptr;
+    const QString html = text.render(scope);
+    if (const auto known = bands_.constFind(html); known != bands_.constEnd())
+        return *known;
+    if (bands_.size() == bandsKept)
+        bands_.clear();
+    return *bands_.insert(html, htmlBlock(html, file_, width()));
 }
 
 BlockPtr Report::headings() const
