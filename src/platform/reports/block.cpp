@@ -139,39 +139,70 @@ public:
     double ascent() const { return metrics_.ascent(); }
     double width(const QString &text) const { return metrics_.horizontalAdvance(text); }
 
-    /// Told without shaping the text, which most cells spare.
-    bool surelyFits(const QString &text, double room) const
-    {
-        double sum = 0;
-        for (const QChar c : text) {
-            if (c.unicode() >= widths_.size() || c == u'\n')
-                return false;
-            sum += widths_[c.unicode()];
-        }
-        return sum * 1.01 <= room;
-    }
-
     QStringList wrapped(const QString &text, double room) const
     {
-        if (surelyFits(text, room))
-            return {text};
         QStringList lines;
-        for (const QString &paragraph : text.split(u'\n')) {
-            QTextLayout layout(paragraph, font_);
-            QTextOption option;
-            option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-            layout.setTextOption(option);
-            layout.beginLayout();
-            for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-                line.setLineWidth(qMax(room, 1.0));
-                lines += paragraph.sliced(line.textStart(), line.textLength()).trimmed();
-            }
-            layout.endLayout();
-        }
+        for (const QString &paragraph : text.split(u'\n'))
+            if (!wrapByLetters(paragraph, room, lines))
+                wrapShaped(paragraph, room, lines);
         return lines;
     }
 
 private:
+    /// No less than the width, told without shaping the text; nothing for a letter that was not measured.
+    std::optional<double> atMost(QStringView text) const
+    {
+        double sum = 0;
+        for (const QChar c : text) {
+            if (c < u' ' || c.unicode() >= widths_.size())
+                return std::nullopt;
+            sum += widths_[c.unicode()];
+        }
+        return sum * 1.01;
+    }
+
+    /// As most cells can be, quickly; false where a word needs more.
+    bool wrapByLetters(const QString &paragraph, double room, QStringList &lines) const
+    {
+        const std::optional<double> whole = atMost(paragraph);
+        if (!whole)
+            return false;
+        if (*whole <= room) {
+            lines += paragraph;
+            return true;
+        }
+        QStringList own(1);
+        double used = 0;
+        for (const QString &word : paragraph.split(u' ', Qt::SkipEmptyParts)) {
+            const double width = *atMost(word), blank = own.last().isEmpty() ? 0 : *atMost(u" ");
+            if (width > room)
+                return false;
+            if (used + blank + width > room) {
+                own += word;
+                used = width;
+                continue;
+            }
+            own.last() += blank > 0 ? u' ' + word : word;
+            used += blank + width;
+        }
+        lines += own;
+        return true;
+    }
+
+    void wrapShaped(const QString &paragraph, double room, QStringList &lines) const
+    {
+        QTextLayout layout(paragraph, font_);
+        QTextOption option;
+        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+            line.setLineWidth(qMax(room, 1.0));
+            lines += paragraph.sliced(line.textStart(), line.textLength()).trimmed();
+        }
+        layout.endLayout();
+    }
+
     QFont font_;
     QFontMetricsF metrics_;
     std::array<double, 256> widths_{};
