@@ -19,6 +19,7 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <ctime>
 
 using namespace Qt::StringLiterals;
 
@@ -68,13 +69,16 @@ void watched(const std::string &work, double limit, double memory, Work &&run)
 {
     const double before = bench::resident();
     double most = before;
+    const std::clock_t began = std::clock();
     const double taken = bench::elapsed([&] {
         run([&](qint64) {
             most = std::max(most, bench::resident());
             return true;
         });
     });
+    const double processor = static_cast<double>(std::clock() - began) / CLOCKS_PER_SEC;
     limits.time(work, taken, limit);
+    std::cout << "     of that the processor worked " << processor << " s\n";
     limits.check(work + ", memory it took", most - before, " MB", memory);
 }
 
