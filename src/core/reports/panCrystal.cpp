@@ -20,6 +20,8 @@ namespace
 {
 
 constexpr int sliceMs = 15; ///< of the work on the pages to come, so that the window answers
+constexpr int restMs =
+    150; ///< before that work, which may read a million keys at once: the first page is seen first
 
 struct Zoom {
     const char *caption;
@@ -103,7 +105,7 @@ panCrystal::panCrystal(reports::Report report) : Form(u"panCrystal"_s), informe(
     connect(&Timer1, &QTimer::timeout, this, &panCrystal::laminar);
     informe.hasPage(1);
     mostrarLugar();
-    Timer1.start(0);
+    Timer1.start(restMs);
 }
 
 /// The pages turn by their keys wherever the focus is, but in a field that takes the key for itself.
