@@ -58,4 +58,19 @@ inline void modally(const std::function<void()> &open, const std::function<void(
         std::rethrow_exception(failure);
 }
 
+/// Milliseconds until the first paint of a modal window has reached its picture.
+inline double untilPainted(forms::Form &form)
+{
+    QElapsedTimer timer;
+    timer.start();
+    double painted = 0;
+    modally([&] { form.showModal(); },
+            [&](forms::Form &) {
+                form.grab();
+                painted = milliseconds(timer);
+                form.unload();
+            });
+    return painted;
+}
+
 } // namespace bench

@@ -2,6 +2,8 @@
 //   bench_program FOLDER
 // Ends non-zero when something was over its limit.
 #include "appointments.h"
+#include "limits.h"
+#include "measure.h"
 #include "prescriptions.h"
 #include "subsystems.h"
 #include "visits.h"
@@ -17,9 +19,7 @@
 #include "platform/forms/application.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 
-#include <functional>
 #include <iostream>
 
 using namespace Qt::StringLiterals;
@@ -27,45 +27,11 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-bool everythingWithin = true;
-
-void check(const char *work, double value, const char *unit, double limit)
-{
-    const bool within = value <= limit;
-    everythingWithin = everythingWithin && within;
-    std::cout << (within ? "ok   " : "OVER ") << work << ": " << value << unit << " (at most " << limit
-              << ")\n";
-}
+bench::Limits limits;
 
 void report(const char *work, double milliseconds, double limit)
 {
-    check(work, milliseconds, " ms", limit);
-}
-
-/// Milliseconds until the first paint of a modal window has reached its picture.
-double untilPainted(forms::Form &form)
-{
-    QElapsedTimer timer;
-    timer.start();
-    double painted = 0;
-    bench::modally([&] { form.showModal(); },
-                   [&](forms::Form &) {
-                       form.grab();
-                       painted = bench::milliseconds(timer);
-                       form.unload();
-                   });
-    return painted;
-}
-
-double resident()
-{
-    QFile status(u"/proc/self/status"_s);
-    if (!status.open(QIODevice::ReadOnly))
-        return 0;
-    for (const QByteArray &line : status.readAll().split('\n'))
-        if (line.startsWith("VmRSS:"))
-            return line.mid(6).trimmed().split(' ').first().toDouble() / 1024;
-    return 0;
+    limits.time(work, milliseconds, limit);
 }
 
 void measure()
@@ -84,12 +50,12 @@ void measure()
     for (const char *which : {"first", "again"}) {
         panSelPaciente register_;
         report((std::string("panSelPaciente, open to first paint, ") + which).c_str(),
-               untilPainted(register_), 150);
+               bench::untilPainted(register_), 150);
     }
     panPercentil chart(*charts::classicalChart(u"panPercenPeso"));
     chart.setTag(u"<TODOS>"_s);
-    report("all patients' measures on a chart", untilPainted(chart), 2000);
-    check("resident memory", resident(), " MB", 200);
+    report("all patients' measures on a chart", bench::untilPainted(chart), 2000);
+    limits.check("resident memory", bench::resident(), " MB", 200);
     // Only a practice made with a year of places can be booked without a box in the way.
     if (!MODULE11::BaseDatos.openRecordset(u"DisTurnos"_s).eof())
         bench::appointments(report);
@@ -113,7 +79,7 @@ int main(int argc, char **argv)
     app::prepare();
     try {
         measure();
-        return everythingWithin ? 0 : 1;
+        return limits.allWithin() ? 0 : 1;
     } catch (const std::exception &error) {
         std::cerr << error.what() << '\n';
         return 1;

@@ -47,5 +47,5 @@ function(sanirell_tests name)
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} test_main GTest::gtest sanirell_warnings)
     target_compile_definitions(${name} PRIVATE TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}")
     gtest_discover_tests(${name} TEST_PREFIX ${name}. DISCOVERY_MODE PRE_TEST
-        PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=/tmp" TIMEOUT 120)
+        PROPERTIES TIMEOUT 60)
 endfunction()

@@ -9,8 +9,10 @@ int main(int argc, char **argv)
     testing::InitGoogleTest(&argc, argv);
     if (testing::GTEST_FLAG(list_tests))
         return RUN_ALL_TESTS();
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    for (const auto &[name, value] :
+         {std::pair("QT_QPA_PLATFORM", "offscreen"), std::pair("XDG_RUNTIME_DIR", "/tmp")})
+        if (!qEnvironmentVariableIsSet(name))
+            qputenv(name, value);
     QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

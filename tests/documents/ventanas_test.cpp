@@ -69,7 +69,7 @@ TEST_F(ListadosTest, ofVisitsTheReportIsNarrowedByServiceAndState)
         control<forms::DTPicker>(form, u"dt1"_s).setDate(QDate(2024, 3, 1));
         onceOpen([](forms::Form &preview) {
             EXPECT_EQ(control<forms::Label>(preview, u"lblPagina"_s).caption(), u"página 1 de 1"_s);
-            control<forms::TextBox>(preview, u"Text1"_s).setText(u"Consultas: 1"_s);
+            control<forms::TextBox>(preview, u"Text1"_s).setText(u"Total: 1"_s);
             control<forms::CommandButton>(preview, u"Command6"_s).click(); // a box, were it not found
             preview.unload();
         });

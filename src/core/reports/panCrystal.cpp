@@ -6,8 +6,12 @@
 #include "platform/forms/layout.h"
 #include "platform/forms/progress.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
+#include <QKeyEvent>
 #include <QShortcut>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using namespace forms;
@@ -16,6 +20,8 @@ namespace
 {
 
 constexpr int sliceMs = 15; ///< of the work on the pages to come, so that the window answers
+constexpr int restMs =
+    150; ///< before that work, which may read a million keys at once: the first page is seen first
 
 struct Zoom {
     const char *caption;
@@ -99,7 +105,17 @@ panCrystal::panCrystal(reports::Report report) : Form(u"panCrystal"_s), informe(
     connect(&Timer1, &QTimer::timeout, this, &panCrystal::laminar);
     informe.hasPage(1);
     mostrarLugar();
-    Timer1.start(0);
+    Timer1.start(restMs);
+}
+
+/// The pages turn by their keys wherever the focus is, but in a field that takes the key for itself.
+void panCrystal::keyPressEvent(QKeyEvent *event)
+{
+    constexpr int dePagina[] = {Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
+    if (std::ranges::find(dePagina, event->key()) != std::end(dePagina))
+        QApplication::sendEvent(&cr1, event);
+    else
+        Form::keyPressEvent(event);
 }
 
 /// The pages to come are laid out while nobody does anything, so that their number can be told.

@@ -11,6 +11,9 @@ class panCrystal : public forms::Form
 public:
     explicit panCrystal(reports::Report report);
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     void laminar();
     void mostrarLugar();

@@ -47,6 +47,14 @@ QString nextDocument(const QString &folder)
     return file;
 }
 
+QString notPrinting(const QString &printer)
+{
+    return QStringLiteral(
+               "Error de impresora: «%1» no está disponible. Verifique que esté encendida y conectada, "
+               "o elija otra.")
+        .arg(printer);
+}
+
 QString askForPdf(const QString &name)
 {
     QString proposal = name.isEmpty() ? QStringLiteral("documento") : name;
@@ -114,6 +122,20 @@ struct Job::Private {
 
     QPrinter *printer() const { return file ? nullptr : static_cast<QPrinter *>(device.get()); }
 
+    /// The print system drops a job silently when its queue has gone since it was chosen.
+    bool printerTook() const
+    {
+        return printer()->printerState() != QPrinter::Error &&
+               !QPrinterInfo::printerInfo(printer()->printerName()).isNull();
+    }
+
+    [[noreturn]] void fail() const
+    {
+        throw basic::Error(printerError, file ? QStringLiteral("No se pudo guardar el archivo %1: %2")
+                                                    .arg(file->fileName(), file->errorString())
+                                              : notPrinting(printer()->printerName()));
+    }
+
     void openFile(const QString &path, const QString &name)
     {
         file = std::make_unique<QSaveFile>(path);
@@ -135,7 +157,7 @@ struct Job::Private {
         printer->setCreator(QStringLiteral("Sanirell!"));
         printer->setPrinterName(choice.printer);
         if (!printer->isValid())
-            throw basic::Error(printerError, QStringLiteral("Error de impresora."));
+            throw basic::Error(printerError, notPrinting(choice.printer));
         printer->setCopyCount(choice.copies);
         printer->setFullPage(true);
         device = std::move(printer);
@@ -171,7 +193,7 @@ QPainter &Job::painter()
 {
     if (!d_->painter.isActive()) {
         if (!d_->painter.begin(d_->device.get()))
-            throw basic::Error(printerError, QStringLiteral("Error de impresora."));
+            d_->fail();
         d_->painter.setRenderHint(QPainter::SmoothPixmapTransform);
     }
     return d_->painter;
@@ -191,7 +213,7 @@ void Job::newPage()
 {
     painter();
     if (!d_->device->newPage())
-        throw basic::Error(printerError, QStringLiteral("Error de impresora."));
+        d_->fail();
 }
 
 void Job::finish()
@@ -199,11 +221,9 @@ void Job::finish()
     if (!begun())
         return;
     const bool ended = d_->painter.end();
-    const bool taken = d_->file ? d_->file->commit() : d_->printer()->printerState() != QPrinter::Error;
+    const bool taken = d_->file ? d_->file->commit() : d_->printerTook();
     if (!ended || !taken)
-        throw basic::Error(printerError, d_->file ? QStringLiteral("No se pudo guardar el archivo %1: %2")
-                                                        .arg(d_->file->fileName(), d_->file->errorString())
-                                                  : QStringLiteral("Error de impresora."));
+        d_->fail();
 }
 
 struct Document::Private {

@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTextFrame>
 #include <QTextLayout>
 
 #include <array>
@@ -58,7 +59,11 @@ public:
             QUrl::fromLocalFile(QFileInfo(file.path).absolutePath() + u'/').toString());
         document_.setHtml(html);
         document_.setTextWidth(width);
-        height_ = document_.size().height();
+        // The document leaves out the margins above its first and below its last paragraph.
+        const QTextFrame *root = document_.rootFrame();
+        above_ = inPaper(root->begin().currentBlock().blockFormat().topMargin());
+        height_ = above_ + document_.size().height() +
+                  inPaper((--root->end()).currentBlock().blockFormat().bottomMargin());
     }
 
     double height() const override { return height_; }
@@ -83,10 +88,10 @@ public:
     void draw(QPainter &painter, QPointF at, double from, double height) const override
     {
         painter.save();
-        painter.translate(at.x(), at.y() - from);
+        painter.translate(at.x(), at.y() + above_ - from);
         QAbstractTextDocumentLayout::PaintContext context;
         context.palette.setColor(QPalette::Text, Qt::black);
-        context.clip = QRectF(0, from, document_.textWidth(), height);
+        context.clip = QRectF(0, from - above_, document_.textWidth(), height);
         painter.setClipRect(context.clip, Qt::IntersectClip);
         document_.documentLayout()->draw(&painter, context);
         painter.restore();
@@ -95,13 +100,16 @@ public:
     QString text() const override { return document_.toPlainText(); }
 
 private:
+    /// A margin without a unit is in the screen's dots.
+    static double inPaper(double screenDots) { return screenDots * dotsPerInch / 96; }
+
     using Span = std::pair<double, double>;
     const std::vector<Span> &lines() const
     {
         if (!lines_.empty())
             return lines_;
         for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
-            const double top = document_.documentLayout()->blockBoundingRect(block).top();
+            const double top = above_ + document_.documentLayout()->blockBoundingRect(block).top();
             for (int i = 0; i < block.layout()->lineCount(); ++i) {
                 const QRectF line = block.layout()->lineAt(i).rect();
                 lines_.emplace_back(top + line.top(), top + line.bottom());
@@ -111,6 +119,7 @@ private:
     }
 
     QTextDocument document_;
+    double above_ = 0; ///< the first paragraph's margin
     double height_ = 0;
     mutable std::vector<Span> lines_;
 };
@@ -130,39 +139,70 @@ public:
     double ascent() const { return metrics_.ascent(); }
     double width(const QString &text) const { return metrics_.horizontalAdvance(text); }
 
-    /// Told without shaping the text, which most cells spare.
-    bool surelyFits(const QString &text, double room) const
-    {
-        double sum = 0;
-        for (const QChar c : text) {
-            if (c.unicode() >= widths_.size() || c == u'\n')
-                return false;
-            sum += widths_[c.unicode()];
-        }
-        return sum * 1.01 <= room;
-    }
-
     QStringList wrapped(const QString &text, double room) const
     {
-        if (surelyFits(text, room))
-            return {text};
         QStringList lines;
-        for (const QString &paragraph : text.split(u'\n')) {
-            QTextLayout layout(paragraph, font_);
-            QTextOption option;
-            option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-            layout.setTextOption(option);
-            layout.beginLayout();
-            for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-                line.setLineWidth(qMax(room, 1.0));
-                lines += paragraph.sliced(line.textStart(), line.textLength()).trimmed();
-            }
-            layout.endLayout();
-        }
+        for (const QString &paragraph : text.split(u'\n'))
+            if (!wrapByLetters(paragraph, room, lines))
+                wrapShaped(paragraph, room, lines);
         return lines;
     }
 
 private:
+    /// No less than the width, told without shaping the text; nothing for a letter that was not measured.
+    std::optional<double> atMost(QStringView text) const
+    {
+        double sum = 0;
+        for (const QChar c : text) {
+            if (c < u' ' || c.unicode() >= widths_.size())
+                return std::nullopt;
+            sum += widths_[c.unicode()];
+        }
+        return sum * 1.01;
+    }
+
+    /// As most cells can be, quickly; false where a word needs more.
+    bool wrapByLetters(const QString &paragraph, double room, QStringList &lines) const
+    {
+        const std::optional<double> whole = atMost(paragraph);
+        if (!whole)
+            return false;
+        if (*whole <= room) {
+            lines += paragraph;
+            return true;
+        }
+        QStringList own(1);
+        double used = 0;
+        for (const QString &word : paragraph.split(u' ', Qt::SkipEmptyParts)) {
+            const double width = *atMost(word), blank = own.last().isEmpty() ? 0 : *atMost(u" ");
+            if (width > room)
+                return false;
+            if (used + blank + width > room) {
+                own += word;
+                used = width;
+                continue;
+            }
+            own.last() += blank > 0 ? u' ' + word : word;
+            used += blank + width;
+        }
+        lines += own;
+        return true;
+    }
+
+    void wrapShaped(const QString &paragraph, double room, QStringList &lines) const
+    {
+        QTextLayout layout(paragraph, font_);
+        QTextOption option;
+        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+            line.setLineWidth(qMax(room, 1.0));
+            lines += paragraph.sliced(line.textStart(), line.textLength()).trimmed();
+        }
+        layout.endLayout();
+    }
+
     QFont font_;
     QFontMetricsF metrics_;
     std::array<double, 256> widths_{};
@@ -180,15 +220,14 @@ struct ColumnLayout::Shape {
     struct Place {
         double left, width;
         Qt::Alignment alignment;
-        bool bold, totalled;
+        bool bold;
     };
     double width;
     Measured normal, strong;
     std::vector<Place> places;
 };
 
-/// A line of the list. The lines of its cells are of one height, so that it can be cut below any of them. The
-/// caption of a line of totals has the room as far as the first of them.
+/// A line of the list. The lines of its cells are of one height, so that it can be cut below any of them.
 class LineBlock : public Block
 {
 public:
@@ -196,21 +235,17 @@ public:
               ColumnLayout::Line line)
         : shape_(std::move(shape)), line_(line)
     {
-        qsizetype most = 1;
         for (std::size_t i = 0; i < shape_->places.size(); ++i) {
             const QString text = texts.value(static_cast<qsizetype>(i));
-            Place place = shape_->places[i];
-            if (line == ColumnLayout::Line::Total && !place.totalled) {
-                place.alignment = Qt::AlignLeft;
-                for (std::size_t next = i + 1; next < shape_->places.size() && !shape_->places[next].totalled;
-                     ++next)
-                    place.width += shape_->places[next].width;
-            }
-            cells_.push_back(
-                {text.isEmpty() ? QStringList() : font(i).wrapped(text, place.width - 2 * cellSide), place});
-            most = qMax(most, cells_.back().lines.size());
+            if (text.isEmpty())
+                continue;
+            Cell cell{i, shape_->places[i], {}};
+            if (line == ColumnLayout::Line::Total)
+                spread(cell, texts);
+            cell.lines = font(i).wrapped(text, cell.place.width - 2 * cellSide);
+            lines_ = qMax(lines_, cell.lines.size());
+            cells_.push_back(std::move(cell));
         }
-        lines_ = most;
     }
 
     double height() const override
@@ -232,8 +267,8 @@ public:
         if (line_ == ColumnLayout::Line::Striped)
             painter.fillRect(whole, stripeColour);
         painter.setPen(Qt::black);
-        for (std::size_t i = 0; i < cells_.size(); ++i)
-            drawCell(painter, i, at, from, height);
+        for (const Cell &cell : cells_)
+            drawCell(painter, cell, at, from, height);
         painter.setPen(QPen(ruleColour, ruleWidth));
         if (line_ == ColumnLayout::Line::Heading)
             painter.drawLine(whole.bottomLeft(), whole.bottomRight());
@@ -243,18 +278,30 @@ public:
 
     QString text() const override
     {
-        QStringList texts;
+        QStringList texts(static_cast<qsizetype>(shape_->places.size()));
         for (const Cell &cell : cells_)
-            texts += cell.lines.join(u' ');
+            texts[static_cast<qsizetype>(cell.column)] = cell.lines.join(u' ');
         return texts.join(u'\t');
     }
 
 private:
-    using Place = ColumnLayout::Shape::Place;
     struct Cell {
+        std::size_t column;
+        ColumnLayout::Shape::Place place;
         QStringList lines;
-        Place place;
     };
+
+    /// A text that has empty columns at its right goes on over them.
+    void spread(Cell &cell, const QStringList &texts) const
+    {
+        for (std::size_t i = cell.column + 1; i < shape_->places.size(); ++i) {
+            if (!texts.value(static_cast<qsizetype>(i)).isEmpty())
+                return;
+            cell.place.width += shape_->places[i].width;
+            cell.place.alignment = Qt::AlignLeft;
+        }
+    }
+
     double lineHeight() const { return shape_->normal.lineHeight(); }
     const Measured &font(std::size_t column) const
     {
@@ -262,13 +309,13 @@ private:
         return strong || shape_->places[column].bold ? shape_->strong : shape_->normal;
     }
 
-    void drawCell(QPainter &painter, std::size_t column, QPointF at, double from, double height) const
+    void drawCell(QPainter &painter, const Cell &cell, QPointF at, double from, double height) const
     {
-        const Measured &measured = font(column);
-        const Place &place = cells_[column].place;
+        const Measured &measured = font(cell.column);
+        const ColumnLayout::Shape::Place &place = cell.place;
         painter.setFont(measured.font());
         double top = cellAbove - from;
-        for (const QString &line : cells_[column].lines) {
+        for (const QString &line : cell.lines) {
             if (top > -1 && top + lineHeight() < height + 1) {
                 const double spare =
                     place.alignment & Qt::AlignLeft ? 0 : place.width - 2 * cellSide - measured.width(line);
@@ -282,7 +329,7 @@ private:
 
     std::shared_ptr<const ColumnLayout::Shape> shape_;
     ColumnLayout::Line line_;
-    std::vector<Cell> cells_;
+    std::vector<Cell> cells_; ///< those with a text
     qsizetype lines_ = 1;
 };
 
@@ -308,7 +355,7 @@ ColumnLayout::ColumnLayout(const ReportFile &file, double width)
     double left = 0;
     for (const Column &column : file.columns) {
         const double own = column.width == 0 ? share : dots(column.width) * scale;
-        shape->places.push_back({left, own, column.alignment, column.bold, column.total != Total::None});
+        shape->places.push_back({left, own, column.alignment, column.bold});
         left += own;
     }
     shape_ = std::move(shape);

@@ -45,7 +45,8 @@ public:
     ColumnLayout(const ReportFile &file, double width);
 
     enum class Line { Heading, Row, Striped, Total };
-    /// One line of the list with a text for each column; texts that are too long go on below.
+    /// One line of the list with a text for each column; texts that are too long go on below, those of a
+    /// line of totals first over the empty columns at their right.
     BlockPtr block(const QStringList &texts, Line line) const;
 
     struct Shape;

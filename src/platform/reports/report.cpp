@@ -19,6 +19,8 @@ namespace
 
 constexpr double leastBelowHead = dots(6); ///< a head is followed by that much of its list on the same page
 
+constexpr qsizetype bandsKept = 32;
+
 struct Aggregate {
     const char16_t *name;
     Total total;
@@ -264,7 +266,14 @@ std::optional<Report::Piece> Report::pieceAt(Place &place) const
 
 BlockPtr Report::band(const Band &text, const Scope &scope) const
 {
-    return text.isEmpty() ? nullptr : htmlBlock(text.render(scope), file_, width());
+    if (text.isEmpty())
+        return nullptr;
+    const QString html = text.render(scope);
+    if (const auto known = bands_.constFind(html); known != bands_.constEnd())
+        return *known;
+    if (bands_.size() == bandsKept)
+        bands_.clear();
+    return *bands_.insert(html, htmlBlock(html, file_, width()));
 }
 
 BlockPtr Report::headings() const
@@ -290,7 +299,7 @@ BlockPtr Report::line(const Place &place) const
 /// The caption stands in the first column that has no total.
 BlockPtr Report::totalLine(const Text &caption, const Place &place, std::size_t level) const
 {
-    if (caption.isEmpty())
+    if (file_.columns.empty() || caption.isEmpty())
         return nullptr;
     QString toSay = caption.render(scopeAt(place.row - 1, place, level, 0));
     QStringList texts;
@@ -313,8 +322,9 @@ BlockPtr Report::layOutPiece(const Piece &piece, const Place &place, int page) c
     case Piece::Opening:
         return band(file_.opening, scopeAt(place.row, place, 0, page));
     case Piece::Empty:
-        return file_.empty.isEmpty() ? htmlBlock(u"<p>Sin datos</p>"_s, file_, width())
-                                     : band(file_.empty, scopeAt(-1, place, 0, page));
+        return file_.empty.isEmpty()
+                   ? htmlBlock(u"<p style=\"margin-top:8px\">Sin datos</p>"_s, file_, width())
+                   : band(file_.empty, scopeAt(-1, place, 0, page));
     case Piece::Head:
         return band(file_.groups[piece.group].head, scopeAt(place.row, place, piece.group + 1, page));
     case Piece::Foot:
@@ -357,7 +367,8 @@ bool Report::staysWithNext(const Piece &piece, Place place, int page, double roo
     return true;
 }
 
-/// The page's head, the heads of the groups that go on, and the columns' titles.
+/// The page's head, the heads of the groups that go on, and the columns' titles where the first page has
+/// them.
 void Report::putTop(Page &built, const Place &begin, const Piece &first, int page, double &top) const
 {
     const auto put = [&](const BlockPtr &block) {
@@ -370,6 +381,10 @@ void Report::putTop(Page &built, const Place &begin, const Piece &first, int pag
     if (page == 0)
         return;
     const bool inside = first.kind == Piece::Line || first.kind == Piece::Detail;
+    const bool list =
+        first.kind != Piece::Opening && first.kind != Piece::Headings && first.kind != Piece::Summary;
+    if (!file_.headingsInGroup && list)
+        put(headings());
     for (std::size_t group = 0; group < file_.groups.size(); ++group) {
         const bool goesOn = inside || (first.kind == Piece::Head && group < first.group);
         if (!file_.groups[group].repeated || !goesOn)
@@ -378,9 +393,7 @@ void Report::putTop(Page &built, const Place &begin, const Piece &first, int pag
         scope.continued = true;
         put(band(file_.groups[group].head, scope));
     }
-    const bool list =
-        first.kind != Piece::Opening && first.kind != Piece::Headings && first.kind != Piece::Summary;
-    if (file_.headingsInGroup ? inside : list)
+    if (file_.headingsInGroup && inside)
         put(headings());
 }
 

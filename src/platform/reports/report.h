@@ -4,6 +4,8 @@
 #include "platform/reports/block.h"
 #include "platform/reports/reportfile.h"
 
+#include <QHash>
+
 #include <functional>
 #include <optional>
 #include <vector>
@@ -115,6 +117,8 @@ private:
     dao::Recordset rows_;       ///< closed for a report without a query, which shows its detail once
     std::vector<int> totalled_; ///< ordinals
     ColumnLayout columns_;
+    /// Bands laid out last, by their HTML: heads and feet are measured first and stand on page after page.
+    mutable QHash<QString, BlockPtr> bands_;
     std::vector<Place> begins_;
     bool complete_ = false;
     bool tellsPageCount_ = false;

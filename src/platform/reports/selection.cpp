@@ -279,21 +279,22 @@ private:
     /// {Tabla.campo}; either name may stand in brackets.
     QString field(const Token &token) const
     {
-        QStringList names;
-        QString rest = token.text.trimmed();
-        const qsizetype dot = rest.startsWith(u'[') ? rest.indexOf(u"]."_s) + 1 : rest.indexOf(u'.');
-        if (dot > 0)
-            names = {rest.first(dot), rest.sliced(dot + 1)};
-        for (QString &name : names) {
-            name = name.trimmed();
-            if (name.startsWith(u'[') && name.endsWith(u']') && name.size() > 1)
-                name = name.sliced(1, name.size() - 2);
-            if (name.isEmpty() || name.contains(u'[') || name.contains(u']'))
-                names.clear();
-        }
-        if (names.size() != 2)
+        const QString both = token.text.trimmed();
+        const qsizetype dot = both.startsWith(u'[') ? both.indexOf(u"]."_s) + 1 : both.indexOf(u'.');
+        const QString table = dot > 0 ? plainName(both.first(dot)) : QString();
+        const QString column = dot > 0 ? plainName(both.sliced(dot + 1)) : QString();
+        if (table.isEmpty() || column.isEmpty())
             fail(formula_, token.at, u"un campo se escribe {Tabla.campo}"_s);
-        return u"[%1].[%2]"_s.arg(names[0], names[1]);
+        return u"[%1].[%2]"_s.arg(table, column);
+    }
+
+    /// A name without its brackets; nothing where there are others within.
+    static QString plainName(const QString &written)
+    {
+        QString name = written.trimmed();
+        if (name.startsWith(u'[') && name.endsWith(u']') && name.size() > 1)
+            name = name.sliced(1, name.size() - 2);
+        return name.contains(u'[') || name.contains(u']') ? QString() : name;
     }
 
     int wholeNumber()

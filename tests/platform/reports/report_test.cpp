@@ -188,6 +188,81 @@ TEST_F(ReportTest, aBlankFormNeedsNoQuery)
     EXPECT_EQ(pages(report), QStringList(u"Nombre: ____ ayer"_s));
 }
 
+TEST_F(ReportTest, aBillHasItsHeadItsLinesAndItsTotalOnPagesOfItsOwn)
+{
+    fill(120); // three bills of 40 lines, more than a page of this size holds
+    Report report =
+        made("<encabezado>Consultorio</encabezado>"
+             "<grupo por='Grupo' salto='si' repite='si' total='Total de la factura {{Grupo}}: "
+             "{{cantidad(Numero)}} prestaciones'><cabeza><table width='100%' border='1'><tr>"
+             "<td>Factura {{Grupo}}{{#continua}} (sigue){{/continua}}</td><td>{{cliente}}</td></tr></table>"
+             "</cabeza><pie><p style='margin-top:40px'>Firma {{suma(Importe)|0.00}}</p></pie></grupo>"
+             "<columnas titulos='grupo' total='Todas'>"
+             "<columna titulo='Nº' ancho='12' alinea='derecha'>{{Numero}}</columna>"
+             "<columna titulo='Prestación'>{{Nombre}}</columna>"
+             "<columna titulo='Importe' ancho='20' alinea='derecha' total='suma'>{{Importe|0.00}}</columna>"
+             "</columnas>",
+             {}, {{u"cliente"_s, u"Mutual & Cía"_s}});
+    const QStringList all = pages(report);
+    ASSERT_EQ(all.size(), 6);
+    for (int bill = 0; bill < 3; ++bill) {
+        const QString letter(QChar(u'A' + bill)), end = u"\tNombre\t0,10"_s;
+        const QString first = all[2 * bill], second = all[2 * bill + 1];
+        EXPECT_TRUE(first.startsWith(
+            u"Consultorio / \nFactura %1\nMutual & Cía\n / Nº\tPrestación\tImporte / %2\t"_s.arg(letter).arg(
+                40 * bill)))
+            << first.toStdString();
+        EXPECT_TRUE(second.startsWith(u"Consultorio / \nFactura %1 (sigue)\n"_s.arg(letter)))
+            << second.toStdString();
+        EXPECT_EQ(first.count(end) + second.count(end), 40);
+        EXPECT_TRUE(
+            second.contains(u" / Total de la factura %1: 40 prestaciones\t\t4,00 / Firma 4,00"_s.arg(letter)))
+            << second.toStdString();
+    }
+    EXPECT_TRUE(all.last().endsWith(u"Todas\t\t12,00"_s)) << all.last().toStdString();
+}
+
+TEST_F(ReportTest, theTitlesStandAboveTheHeadsThatGoOn)
+{
+    fill(120);
+    Report report =
+        made(QByteArray("<grupo por='Grupo' repite='si'><cabeza>Grupo {{Grupo}}</cabeza></grupo>") + columns);
+    const QStringList all = pages(report);
+    for (int page = 0; page < 2; ++page)
+        EXPECT_TRUE(all[page].startsWith(u"Número\tNombre\tImporte / Grupo A / "_s))
+            << all[page].toStdString();
+}
+
+TEST_F(ReportTest, boxesOfABlankFormAreDrawn)
+{
+    Report report(parseReportFile(u"<informe titulo='Ficha' papel='A5' margenes='10'><detalle><h1>Ficha</h1>"
+                                  "<table width='100%' border='1' cellspacing='0'>"
+                                  "<tr><td width='60%'>Nombre</td><td>Fecha</td></tr>"
+                                  "<tr><td colspan='2'>Observaciones<br/><br/><br/><br/></td></tr></table>"
+                                  "</detalle></informe>"_s,
+                                  {}),
+                  db, {}, {});
+    const QSize size = (report.pageSize() / 10).toSize();
+    QImage page(size, QImage::Format_Grayscale8);
+    page.fill(Qt::white);
+    QPainter painter(&page);
+    painter.scale(0.1, 0.1);
+    report.paint(painter, 0);
+    painter.end();
+    const auto darkAlong = [&](int y) {
+        int dark = 0;
+        for (int x = 0; x < size.width(); ++x)
+            dark += qGray(page.pixel(x, y)) < 200;
+        return dark;
+    };
+    std::vector<int> rules; // rows of dots that a line crosses from margin to margin
+    for (int y = 0; y < size.height(); ++y)
+        if (darkAlong(y) > size.width() * 3 / 4 && (rules.empty() || y > rules.back() + 3))
+            rules.push_back(y);
+    ASSERT_GE(rules.size(), 3u);
+    EXPECT_GT(rules.back() - rules.front(), 40); // the lines left blank for a hand
+}
+
 TEST_F(ReportTest, aDamagedFileTellsLineAndColumn)
 {
     EXPECT_TRUE(failure("<informe>\n  <detalle>uno</detal>\n</informe>")

@@ -62,6 +62,7 @@ TEST(SelectionTest, aFormulaThatIsNotUnderstoodTellsWhere)
         {"{a.b} = date(2024,13,1)", "lugar 9"},
         {"{a.b} = 1; delete * from Pacientes", "lugar 10"},
         {"{a.[b] or 1=1 --]} = 1", "lugar 1"},
+        {"{a]b.[c]} = 1", "lugar 1"},
         {"{a.b} like 'x'", "lugar 7"},
         {"'x'", "lugar 4"},
         {"{a.b} = format({a.b})", "lugar 9"},
