@@ -11,6 +11,7 @@ namespace
 // clang-format off
 constexpr Comando todos[] = {
     {"Command90", "Registrar Dosis", Lugar::Pediatria, "panPlanVacunas"},
+    {"Command88", "Administrar plan de vacunación", Lugar::Pediatria, ""},
     {"command15", "Alimentación", Lugar::Pediatria, "panAlimentacion"},
     {"command9", "Mad.Neurológica", Lugar::Pediatria, "panMadNeurol"},
     {"SsCommand4", "Agudeza Visual", Lugar::Pediatria, "panVisual"},
@@ -18,7 +19,11 @@ constexpr Comando todos[] = {
     {"command21", "Adolescencia", Lugar::Pediatria, "panAdole"},
     {"sscommand3", "Desarrollo y valores...", Lugar::Alergia, "hc"},
     {"label22", "Consultas...", Lugar::Oftalmologia, "panOft", "", "Consultas de "},
+    {"label30", "Fondo de ojos", Lugar::Oftalmologia, ""},
+    {"label31", "Biomicroscopia", Lugar::Oftalmologia, ""},
+    {"label84", "Lectura", Lugar::Oftalmologia, ""},
     {"label29", "Odontograma", Lugar::Odontologia, "tooth"},
+    {"label32", "Presupuestación...", Lugar::Odontologia, ""},
     {"Label23", "Antecedentes", Lugar::Ginecologia, "panAnteGineco", "", "", false, "alarmaAntecGineco", "GinecoAntecedentes"},
     {"Label54", "Exámenes...", Lugar::Ginecologia, "panGinecoExamen", "", "", false, "alarmaExGineco", "GinecoExamen"},
     {"Label55", "Gestación...", Lugar::Ginecologia, "panGinecoGestas", "", "", false, "alarmaGestacion", "GinecoGestacion"},
@@ -43,15 +48,17 @@ constexpr Comando todos[] = {
     {"label39", "Antropometría", Lugar::Barra, "panCrecimiento", "", "", false, "Picture16", "Antropometria"},
     {"sscommand1", "Tensión Arterial", Lugar::Barra, "panTension", "", "Percentilación de la tensión arterial de ", false, "Picture24", "ElectroCardioGrama"},
     {"sscommand5", "Control de salud...", Lugar::Barra, "panControlSano"},
+    {"label58", "Apuntes multimedia", Lugar::Barra, "panEHC", "", "", true},
+    {"Command4", "Informes especiales", Lugar::Barra, ""},
     {"Command55", "Vademecum", Lugar::Barra, "panTratamientos"},
     {"Command_5", "Recursos de post-consulta", Lugar::Barra, "panAlgorritmos", "IngresarABibliotecaRecursos"},
 };
 
 constexpr Especialidad especialidades[] = {
-    {"Pediatría", 0, 0, "paciente"},     {"Alergia", 1, 1, "alerta"},
-    {"Oftalmología", 2, 2, "ver"},       {"Cardiología", 3, 3, "estadisticas"},
-    {"Obstetricia", 4, 6, "familia"},    {"Odontología", 5, 5, "consultorio"},
-    {"Ginecología", 6, 6, "usuario"},    {"Neonatología", 7, 0, "nuevo"},
+    {"Pediatría", 0, 0},     {"Alergia", 1, 1},
+    {"Oftalmología", 2, 2},       {"Cardiología", 3, 3},
+    {"Obstetricia", 4, 6},    {"Odontología", 5, 5},
+    {"Ginecología", 6, 6},    {"Neonatología", 7, 0},
 };
 // clang-format on
 

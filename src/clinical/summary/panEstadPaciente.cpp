@@ -5,6 +5,7 @@
 #include "clinical/patients/filaDePaciente.h"
 #include "clinical/summary/antecedentes.h"
 #include "clinical/summary/foto.h"
+#include "clinical/summary/tablasDelResumen.h"
 #include "clinical/summary/vacunasDelPlan.h"
 #include "clinical/visits/nuevaConsulta.h"
 #include "core/security/alarmas.h"
@@ -36,49 +37,10 @@ using clinical::Lugar;
 namespace
 {
 
-constexpr int verde = 65280, rojo = 255; // as the rules give a colour
-constexpr QSize ladoDeLaFoto(96, 96);
 constexpr int mayorLadoGuardado = 480;
 constexpr qint64 diasDeEscolar = 1460, diasDeAdolescente = 4380;
-constexpr int casillasDeVacunas = 16;
 const QString sinNota = u"Ayuda Memoria..."_s;
 const QString seccion = u"Miscelaneas"_s, clave = u"Ultimo módulo visitado"_s;
-
-/// A box of personal data and what it shows of the register.
-struct Dato {
-    const char *control, *rotulo;
-    const char16_t *campo;
-};
-constexpr Dato datosDelRegistro[] = {
-    {"Text12", "Sexo :", u"Sexo"},
-    {"Text13", "Grupo y Factor :", u"grupo sanguineo"},
-    {"Text20", "Obra Social :", u"Obra social"},
-    {"Text27", "Nº de Afiliado :", u"Numero de Afiliado"},
-};
-
-/// A panel that is green or red, the command it stands beside, and who says which.
-struct Semaforo {
-    const char *control, *comando;
-    clinical::Estado (*estado)(const clinical::Persona &);
-};
-constexpr Semaforo semaforos[] = {
-    {"Picture2", "sscommand1", clinical::estadoDePresion},
-    {"Picture4", "Label26", clinical::estadoDePresion},
-    {"SSPanel3", "command15", clinical::estadoDeAlimentacion},
-    {"SSPanel1", "command9", clinical::estadoDeMaduracion},
-    {"sspanel7", "sscommand3", clinical::estadoDeAlergias},
-    {"sspanel8", "SsCommand4", clinical::estadoVisual},
-    {"SSPanel2", "command13", clinical::estadoEscolar},
-    {"Picture5", "command21", clinical::estadoDeAdolescencia},
-    {"Picture3", "Label87",
-     [](const clinical::Persona &persona) {
-         std::optional<clinical::Normal> normal;
-         if (const auto imc =
-                 ports::imcNormal ? ports::imcNormal(persona.sexo, persona.edad.diasDeVida) : std::nullopt)
-             normal = clinical::Normal{imc->first, imc->second};
-         return clinical::estadoCardiologicoYPeso(persona, normal);
-     }},
-};
 
 QString ruta(qint64 numero)
 {
@@ -106,227 +68,6 @@ panEstadPaciente::panEstadPaciente() : Form(u"panEstadPaciente"_s)
     agregarEspecialidades();
     disponer();
     conectar();
-}
-
-// --- what stands where ---
-
-void panEstadPaciente::agregarIdentidad()
-{
-    for (const char *nombre :
-         {"Text7", "Text8", "Text9", "Text10", "Text11", "Text12", "Text13", "Text20", "Text27"}) {
-        auto dato = std::make_unique<Label>(QString::fromLatin1(nombre));
-        dato->setTextFormat(Qt::PlainText);
-        dato->setCursor(Qt::PointingHandCursor);
-        connect(dato.get(), &Label::clicked, this, &panEstadPaciente::editarPaciente);
-        datos_[nombre] = std::move(dato);
-    }
-    QFont destacada = font();
-    destacada.setBold(true);
-    destacada.setPointSizeF(destacada.pointSizeF() * 1.15);
-    datos_["Text10"]->setFont(destacada);
-    datos_["Text10"]->setWordWrap(true);
-    imgFoto.setFixedSize(ladoDeLaFoto);
-    imgFoto.setAlignment(Qt::AlignCenter);
-    imgFoto.setFrameShape(QFrame::StyledPanel);
-    imgFoto.setCursor(Qt::PointingHandCursor);
-    imgFoto.setToolTip(u"click p/obtener"_s);
-    Label61.setCursor(Qt::PointingHandCursor);
-    Text14.setFixedHeight(Text14.fontMetrics().height() * 4);
-    Text1.setReadOnly(true);
-    Text21.setReadOnly(true);
-    Text1.setMaximumWidth(60);
-    Text21.setMaximumWidth(60);
-    Text14.installEventFilter(this);
-    RT1.setReadOnly(true);
-    mConRP.setReadOnly(true);
-}
-
-void panEstadPaciente::agregarComandos()
-{
-    for (const Comando &comando : clinical::comandos()) {
-        const auto ventana = screens::Window::find(QString::fromLatin1(comando.ventana));
-        auto boton = std::make_unique<CommandButton>(QString::fromLatin1(comando.control),
-                                                     QString::fromUtf8(comando.caption));
-        boton->setEnabled(ventana && screens::has(*ventana));
-        connect(boton.get(), &QPushButton::clicked, this, [this, &comando] { abrirComando(comando); });
-        comandos_[comando.control] = std::move(boton);
-        if (!*comando.alarma)
-            continue;
-        auto alarma = std::make_unique<Label>(QString::fromLatin1(comando.alarma));
-        forms::setTag(alarma.get(), u"ALARMA"_s);
-        alarma->setFixedSize(14, 14);
-        alarma->setFrameShape(QFrame::StyledPanel);
-        alarma->setCursor(Qt::PointingHandCursor);
-        alarma->setToolTip(u"Alarma: %1"_s.arg(QString::fromUtf8(comando.tema)));
-        connect(alarma.get(), &Label::clicked, this, [this, &comando] { marcarAlarma(comando); });
-        alarmas_[comando.alarma] = std::move(alarma);
-    }
-}
-
-void panEstadPaciente::agregarSemaforos()
-{
-    for (const Semaforo &semaforo : semaforos) {
-        auto panel = std::make_unique<Label>(QString::fromLatin1(semaforo.control));
-        panel->setFixedSize(10, 22);
-        panel->setCursor(Qt::PointingHandCursor);
-        setBackColor(*panel, fromColourValue(verde));
-        connect(panel.get(), &Label::clicked, &boton(semaforo.comando), &QPushButton::click);
-        semaforos_[semaforo.comando] = std::move(panel);
-    }
-}
-
-void panEstadPaciente::agregarEspecialidades()
-{
-    for (const Especialidad &especialidad : clinical::especialidadesDelResumen()) {
-        CommandButton &icono = icoesp.add(especialidad.icono, QString::fromUtf8(especialidad.nombre),
-                                          QString::fromLatin1(especialidad.dibujo));
-        icono.setCheckable(true);
-        icono.setAutoDefault(false);
-        forms::setTag(&icono, QString::fromUtf8(especialidad.nombre));
-        connect(&icono, &QPushButton::clicked, this,
-                [this, &especialidad] { elegirEspecialidad(especialidad); });
-    }
-    for (int i = 0; i < casillasDeVacunas; ++i) {
-        CheckBox &casilla = Check1.add(i, QString());
-        connect(&casilla, &QCheckBox::clicked, this, [this] {
-            mostrarVacunas(); // what is given is noted in the plan, not here
-            if (boton("Command90").isEnabled())
-                boton("Command90").click();
-        });
-    }
-    for (int i = 0; i < 8; ++i)
-        Labelff.add(i);
-}
-
-Item panEstadPaciente::comandosDe(Lugar lugar)
-{
-    std::vector<Item> columnas;
-    for (const Comando &comando : clinical::comandos()) {
-        if (comando.lugar != lugar)
-            continue;
-        std::vector<Item> fila;
-        if (const auto semaforo = semaforos_.find(comando.control); semaforo != semaforos_.end())
-            fila.emplace_back(*semaforo->second);
-        fila.push_back(Expanding(boton(comando.control)));
-        if (*comando.alarma)
-            fila.emplace_back(*alarmas_.at(comando.alarma));
-        columnas.push_back(Row(fila));
-    }
-    return Grid(lugar == Lugar::Barra ? 7 : 3, columnas);
-}
-
-Item panEstadPaciente::panel(int indice)
-{
-    switch (indice) {
-    case 0: {
-        std::vector<Item> vacunas;
-        for (auto &[i, casilla] : Check1)
-            vacunas.emplace_back(*casilla);
-        return Column{comandosDe(Lugar::Pediatria), Group(u"Vacunas del plan"_s, Grid(4, vacunas)),
-                      Stretch()};
-    }
-    case 1:
-        return Column{comandosDe(Lugar::Alergia), Stretch()};
-    case 2:
-        return Column{comandosDe(Lugar::Oftalmologia),
-                      Row{Group(u"Agudeza Visual"_s, Fields{{u"O.D. c/c :"_s, Labelff(0)},
-                                                            {u"O.I. c/c :"_s, Labelff(1)},
-                                                            {u"O.D. s/c :"_s, Labelff(2)},
-                                                            {u"O.I. s/c :"_s, Labelff(3)}}),
-                          Group(u"Anteojos Recetados"_s, Fields{{u"Cerca O.I. :"_s, Labelff(4)},
-                                                                {u"Cerca O.D. :"_s, Labelff(5)},
-                                                                {u"Lejos O.I. :"_s, Labelff(6)},
-                                                                {u"Lejos O.D. :"_s, Labelff(7)}}),
-                          Group(u"Lectura"_s, lblLectura), Expanding(Group(u"Ultima receta"_s, mConRP))}};
-    case 3:
-        return Column{comandosDe(Lugar::Cardiologia), Stretch()};
-    case 5:
-        return Column{comandosDe(Lugar::Odontologia),
-                      Expanding(Group(u"Prácticas odontológicas realizadas :"_s, List7))};
-    default:
-        return Column{comandosDe(Lugar::Ginecologia), Group(u"Resumen ginecológico"_s, gineco_.disposicion()),
-                      Stretch()};
-    }
-}
-
-Item panEstadPaciente::especialidades()
-{
-    std::vector<Item> iconos;
-    for (auto &[i, icono] : icoesp)
-        iconos.emplace_back(*icono);
-    for (const int indice : {0, 1, 2, 3, 5, 6}) {
-        auto *contenido = new QWidget;
-        contenido->setObjectName(u"panelEspecialidad(%1)"_s.arg(indice));
-        setContents(contenido, panel(indice));
-        paneles_.addWidget(contenido);
-        panelDe_[indice] = contenido;
-    }
-    QFont destacada = lblEspec.font();
-    destacada.setBold(true);
-    lblEspec.setFont(destacada);
-    return Column{Grid(4, iconos), lblEspec, paneles_};
-}
-
-Item panEstadPaciente::identidad()
-{
-    std::vector<FieldRow> filas;
-    for (const Dato &dato : datosDelRegistro)
-        filas.emplace_back(QString::fromUtf8(dato.rotulo), *datos_.at(dato.control));
-    filas.emplace_back(Label12, *datos_.at("Text11"));
-    filas.emplace_back(u"Ultima antitetánica :"_s, Label61);
-    const auto edad = [this](const char *control, const QString &unidad) {
-        return Row{*datos_.at(control), new QLabel(unidad)};
-    };
-    return Group(Frame1, Column{Row{imgFoto, Expanding(Column{*datos_.at("Text10"),
-                                                              Row{Label7, edad("Text7", u"años."_s),
-                                                                  edad("Text8", u"meses."_s),
-                                                                  edad("Text9", u"días."_s), Stretch()},
-                                                              Row{Stretch(), Command_525}})},
-                                Fields(filas), Text14});
-}
-
-Item panEstadPaciente::antecedentes()
-{
-    return Column{
-        Expanding(Group(u"Antecedentes Patológicos Familiares"_s,
-                        Column{Expanding(List8), Row{Stretch(), Command3}})),
-        Expanding(Group(u"Antecedentes Personales"_s,
-                        Column{Expanding(List3), Row{Stretch(), Command1, Command2}})),
-        Expanding(Group(u"Perinatales"_s, Column{Expanding(List2), Row{Stretch(), Command7}})),
-    };
-}
-
-Item panEstadPaciente::registroDeConsultas()
-{
-    return Group(u"Registro de Consultas"_s,
-                 Column{Row{label6, label15, Stretch(), Fields{{u"Consultas totales :"_s, Text1}},
-                            Fields{{u"Registros :"_s, Text21}}},
-                        Row{barra_, Stretch(), Check2}, Expanding(DBGrid1)});
-}
-
-Item panEstadPaciente::barra()
-{
-    return Column{comandosDe(Lugar::Barra), Row{Command14, Stretch(), cmdSalir}};
-}
-
-void panEstadPaciente::disponer()
-{
-    for (ListBox *lista : {&List2, &List3, &List8})
-        lista->setMinimumHeight(48);
-    DBGrid1.setMinimumHeight(90);
-    RT1.setMinimumHeight(90);
-    setContents(this,
-                Column{
-                    Expanding(Row{
-                        Expanding(Column{identidad(), Expanding(antecedentes())}, 3),
-                        Expanding(Column{especialidades(),
-                                         Splitter(Qt::Vertical, {{registroDeConsultas(), 3},
-                                                                 {Group(u"Historia clínica"_s, RT1), 2}})},
-                                  7),
-                    }),
-                    barra(),
-                });
-    resize(1180, 640);
 }
 
 void panEstadPaciente::conectar()
@@ -431,7 +172,7 @@ void panEstadPaciente::mostrarFoto()
     if (foto.isNull())
         imgFoto.setText(u"click p/obtener"_s);
     else
-        imgFoto.setPixmap(foto.scaled(ladoDeLaFoto, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        imgFoto.setPixmap(foto.scaled(resumen::ladoDeLaFoto, Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }
 
 void panEstadPaciente::mostrarConsultas(const QString &sql)
@@ -452,7 +193,7 @@ void panEstadPaciente::mostrarPaciente()
     setWindowTitle(nombre);
     Frame1.setTitle(u"HC %1 - Datos Personales"_s.arg(numero()));
     datos_["Text10"]->setCaption(nombre);
-    for (const Dato &dato : datosDelRegistro)
+    for (const resumen::Dato &dato : resumen::datosDelRegistro)
         datos_.at(dato.control)->setCaption(o((*fila)[dato.campo], u"?"_s));
     notaGuardada_ = o((*fila)[u"ayuda memoria"], sinNota);
     Text14.setPlainText(notaGuardada_);
@@ -539,11 +280,11 @@ void panEstadPaciente::mostrarAntecedentes()
 /// Green is set first: a state that cannot be read is no finding.
 void panEstadPaciente::mostrarSemaforos()
 {
-    for (const Semaforo &semaforo : semaforos) {
+    for (const resumen::Semaforo &semaforo : resumen::semaforos()) {
         Label &panel = *semaforos_.at(semaforo.comando);
         clinical::Estado estado;
         paso([&] { estado = semaforo.estado(persona_); });
-        setBackColor(panel, fromColourValue(estado ? rojo : verde));
+        setBackColor(panel, fromColourValue(estado ? resumen::rojo : resumen::verde));
         panel.setToolTip(estado.value_or(QString()));
     }
 }
@@ -614,6 +355,10 @@ void panEstadPaciente::pintarAlarmas()
 void panEstadPaciente::traerAlFrente(const Especialidad &especialidad)
 {
     lblEspec.setCaption(QString::fromUtf8(especialidad.nombre));
+    for (const auto &[indice, panel] :
+         panelDe_) // the page in front takes its own height, not the highest one's
+        panel->setSizePolicy(QSizePolicy::Preferred,
+                             indice == especialidad.panel ? QSizePolicy::Preferred : QSizePolicy::Ignored);
     paneles_.setCurrentWidget(panelDe_.at(especialidad.panel));
     for (auto &[i, icono] : icoesp)
         icono->setChecked(i == especialidad.icono);
@@ -671,7 +416,7 @@ void panEstadPaciente::marcarAlarma(const Comando &comando)
         return;
     const auto mismo = std::ranges::find_if(
         clinical::comandos(), [&](const Comando &otro) { return QByteArrayView(otro.tema) == comando.tema; });
-    const bool deTodos = comando.lugar == Lugar::Barra && comando.hija;
+    const bool deTodos = *comando.nivel != 0; // laboratory and studies are asked of all specialities
     MODULE11::AsignaAlarma(numero(), deTodos ? u"TODOS"_s : lblEspec.caption(),
                            QString::fromUtf8(comando.tema), *alarmas_.at(mismo->alarma));
     pintarAlarmas();
@@ -712,9 +457,10 @@ void panEstadPaciente::agregarAntecedente()
 
 void panEstadPaciente::quitarAntecedente()
 {
-    if (!List3.currentItem())
+    const QList<QListWidgetItem *> elegidos = List3.selectedItems(); // the focus alone chooses nothing
+    if (elegidos.isEmpty())
         return;
-    delete List3.takeItem(List3.currentRow());
+    qDeleteAll(elegidos);
     guardarAntecedentes();
 }
 

@@ -40,8 +40,8 @@ private:
     forms::Item antecedentes();
     forms::Item especialidades();
     forms::Item panel(int indice);
-    forms::Item comandosDe(clinical::Lugar lugar);
-    forms::Item barra();
+    std::vector<forms::Item> comandosDe(clinical::Lugar lugar);
+    std::pair<forms::Item, forms::Item> barra();
 
     // what is read
     void llenar();
@@ -78,6 +78,7 @@ private:
     qint64 numero() const { return persona_.numero; }
     forms::CommandButton &boton(const char *control) { return *comandos_.at(control); }
 
+    QStackedWidget paneles_; ///< first, so that it ends after the controls that stand in it
     forms::Data Data1{QStringLiteral("Data1")};
     forms::DataBar barra_{Data1};
     forms::DBGrid DBGrid1{QStringLiteral("DBGrid1")};
@@ -122,7 +123,6 @@ private:
     std::map<std::string, std::unique_ptr<forms::CommandButton>> comandos_;    ///< by name
     std::map<std::string, std::unique_ptr<forms::Label>> alarmas_, semaforos_; ///< by name
     clinical::PanelGineco gineco_;
-    QStackedWidget paneles_;
     std::map<int, QWidget *> panelDe_;
 
     clinical::Persona persona_;
