@@ -128,6 +128,22 @@ TEST_F(CanvasTest, arrowsLeadToTheNearestItemInTheirDirection)
     EXPECT_EQ(told, (QStringList{"click b", "click c", "click c", "click a"}));
 }
 
+TEST_F(CanvasTest, tellsWhatMouseAndKeyboardPointAt)
+{
+    box(u"a"_s, {300, 300});
+    box(u"b"_s, {1500, 300});
+    box(u"adorno"_s, {1500, 300}).setInert();
+    QObject::connect(&canvas, &forms::Canvas::pointedAt, [this](const QString &name) { told += name; });
+    mouse(QEvent::MouseMove, {30, 30});
+    mouse(QEvent::MouseMove, {110, 30});
+    mouse(QEvent::MouseMove, {200, 150});
+    canvas.item(u"a"_s)->setFocus();
+    mouse(QEvent::MouseMove, {110, 30});
+    mouse(QEvent::MouseMove, {200, 150});
+    told.removeDuplicates();
+    EXPECT_EQ(told, (QStringList{u"a"_s, u"b"_s, u""_s}));
+}
+
 TEST_F(CanvasTest, aHandlerMayTakeAwayWhatWasClicked)
 {
     box(u"a"_s, {300, 300});
