@@ -12,13 +12,13 @@ namespace
 {
 
 // Twips. Each branch has two rows of two boxes: the grandparents and their children.
-constexpr QSizeF medida{13200, 7800};
-constexpr QSizeF caja{2700, 1500}, rama{6000, 4800};
+constexpr QSizeF medida{13800, 7800};
+constexpr QSizeF caja{2850, 1500}, rama{6300, 4800};
 constexpr double margen = 150, figura = 1080, redondez = 120;
-constexpr double paterna = 300, materna = 6900, alto = 300; ///< where the branches are
-constexpr double primera = 150, segunda = 3150;             ///< a branch's columns
+constexpr double paterna = 300, materna = 7200, alto = 300; ///< where the branches are
+constexpr double primera = 150, segunda = 3300;             ///< a branch's columns
 constexpr double abuelos = 900, padres = 3300, hijos = 6000;
-constexpr QRectF delPaciente{4800, hijos, 3600, 1500};
+constexpr QRectF delPaciente{5100, hijos, 3600, 1500};
 constexpr QPointF lugares[] = {
     {paterna + primera, abuelos}, {materna + primera, abuelos}, // grandfathers
     {paterna + segunda, abuelos}, {materna + segunda, abuelos}, // grandmothers
@@ -82,7 +82,7 @@ QPainterPath descendencia(QPointF pareja, const QList<QPointF> &nacidos)
 QString cuenta(const Antecedentes &antecedentes)
 {
     const qsizetype cuantos = enPalabras(antecedentes).size();
-    return cuantos == 0   ? u"Sin antecedentes"_s
+    return cuantos == 0   ? u"Sin datos"_s
            : cuantos == 1 ? u"1 antecedente"_s
                           : u"%1 antecedentes"_s.arg(cuantos);
 }
