@@ -5,6 +5,7 @@
 #include "clinical/catalogues/panDiagnosticos.h"
 #include "clinical/catalogues/panSintomas.h"
 #include "clinical/catalogues/panTratamientos.h"
+#include "clinical/family/panArbol.h"
 #include "clinical/history/panEditHC.h"
 #include "clinical/patients/buscaPaciente.h"
 #include "clinical/patients/eligePaciente.h"
@@ -32,6 +33,7 @@ void clinical::registerScreens()
 {
     screens::add<panEditHC>("panEditHC");
     screens::add<hc>("hc");
+    screens::add<panArbol>("panArbol");
     screens::add<panVisitas>("panVisitas");
     screens::add<panSintomas>("panSintomas");
     screens::add<panDiagnosticos>("panDiagnosticos");

@@ -19,7 +19,6 @@ const std::set<std::string> notBuiltYet{
     "panAlgorritmos",
     "panAlimentacion",
     "panAnalisis",
-    "panArbol",
     "panArticulos",
     "panCaja",
     "panCalRiesgoGesta",

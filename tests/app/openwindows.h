@@ -1,5 +1,7 @@
 #pragma once
 
+#include "clinical/family/panResFliares.h"
+#include "clinical/family/panSelAnteFliar.h"
 #include "clinical/patients/panComFliar.h"
 #include "clinical/patients/panNuePaciente.h"
 #include "clinical/patients/panSelPaciente.h"
@@ -52,6 +54,9 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panCambiaEstadoTurno"), opening<panCambiaEstadoTurno>()},
         {QStringLiteral("panDispTurnos"), [] { return std::make_unique<panDispTurnos>(basic::today(), 1); }},
         {QStringLiteral("panNueTurno"), opening<panNueTurno>()},
+        {QStringLiteral("panSelAnteFliar"),
+         [] { return std::make_unique<panSelAnteFliar>(1, QStringLiteral("Papa")); }},
+        {QStringLiteral("panResFliares"), [] { return std::make_unique<panResFliares>(QStringList()); }},
         {QStringLiteral("panNueProfesional"), opening<panNueProfesional>()},
     };
     for (const std::string_view name : screens::windows) {
