@@ -2,6 +2,7 @@
 //   bench_program FOLDER
 // Ends non-zero when something was over its limit.
 #include "appointments.h"
+#include "laboratory.h"
 #include "prescriptions.h"
 #include "subsystems.h"
 #include "visits.h"
@@ -95,6 +96,7 @@ void measure()
         bench::appointments(report);
     bench::visits(report);
     bench::prescriptions(report);
+    bench::laboratory(report);
     window.hide();
 }
 
