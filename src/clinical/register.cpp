@@ -7,6 +7,8 @@
 #include "clinical/catalogues/panTratamientos.h"
 #include "clinical/family/panArbol.h"
 #include "clinical/history/panEditHC.h"
+#include "clinical/laboratory/panAnalisis.h"
+#include "clinical/laboratory/panEstudios.h"
 #include "clinical/patients/buscaPaciente.h"
 #include "clinical/patients/eligePaciente.h"
 #include "clinical/patients/fichas.h"
@@ -35,6 +37,8 @@ void clinical::registerScreens()
     screens::add<hc>("hc");
     screens::add<panArbol>("panArbol");
     screens::add<panVisitas>("panVisitas");
+    screens::add<panAnalisis>("panAnalisis");
+    screens::add<panEstudios>("panEstudios");
     screens::add<panSintomas>("panSintomas");
     screens::add<panDiagnosticos>("panDiagnosticos");
     screens::add<panTratamientos>("panTratamientos");
