@@ -2,6 +2,7 @@
 //   bench_program FOLDER
 // Ends non-zero when something was over its limit.
 #include "appointments.h"
+#include "laboratory.h"
 #include "limits.h"
 #include "measure.h"
 #include "prescriptions.h"
@@ -61,6 +62,7 @@ void measure()
         bench::appointments(report);
     bench::visits(report);
     bench::prescriptions(report);
+    bench::laboratory(report);
     window.hide();
 }
 

@@ -30,24 +30,24 @@ CREATE INDEX paciente ON Alimentacion (paciente);
 CREATE INDEX PacAlimenta ON Alimentacion (paciente, Alimento);
 
 CREATE TABLE Analisis (paciente LONG, Fecha DATE, Hora DATE, Bioquimico TEXT(100), Descripcion TEXT(100),
-    Hemoglobina TEXT(50), Hematocrito TEXT(50), [Glóbulos rojos] TEXT(50), [Glóbulos blancos] TEXT(50),
-    [Neutrófilos] TEXT(50), Linfocitos TEXT(50), [Eosinófilos] TEXT(50), Plaquetas TEXT(50),
-    Reticulocitos TEXT(50), [Eritrosedimentación] TEXT(50), [Proteína C reactiva] TEXT(50),
-    [Grupo sanguíneo y factor Rh] TEXT(50), [Coombs directa] TEXT(50), [Tiempo de protrombina] TEXT(50),
-    KPTT TEXT(50), Ferremia TEXT(50), Ferritina TEXT(50), [Vitamina B12] TEXT(50), [Ácido fólico] TEXT(50),
-    [Vitamina D] TEXT(50), Glucemia TEXT(50), [Hemoglobina glicosilada] TEXT(50), Uremia TEXT(50),
-    Creatinina TEXT(50), [Ácido úrico] TEXT(50), Sodio TEXT(50), Potasio TEXT(50), Calcio TEXT(50),
-    [Fósforo] TEXT(50), [pH venoso] TEXT(50), Bicarbonato TEXT(50), [Bilirrubina total] TEXT(50),
-    [Bilirrubina directa] TEXT(50), TGO TEXT(50), TGP TEXT(50), [Fosfatasa alcalina] TEXT(50),
-    [Gamma GT] TEXT(50), CPK TEXT(50), [Proteínas totales] TEXT(50), [Albúmina] TEXT(50),
-    [Colesterol total] TEXT(50), [Triglicéridos] TEXT(50), TSH TEXT(50), [T4 libre] TEXT(50),
-    [Anticuerpos antitransglutaminasa IgA] TEXT(50), IgA TEXT(50), [IgE total] TEXT(50),
-    [Complemento C3] TEXT(50), ASTO TEXT(50), VDRL TEXT(50), HIV TEXT(50),
-    [Hepatitis B antígeno de superficie] TEXT(50), [Toxoplasmosis IgG] TEXT(50), Chagas TEXT(50),
-    Monotest TEXT(50), [Orina completa] TEXT(50), Urocultivo TEXT(50), [Proteinuria de 24 horas] TEXT(50),
-    Coprocultivo TEXT(50), [Parasitológico de materia fecal] TEXT(50),
-    [Sangre oculta en materia fecal] TEXT(50), [Test de Graham] TEXT(50), [Hisopado de fauces] TEXT(50),
-    [Panel viral respiratorio] TEXT(50), [Pesquisa neonatal] TEXT(50), Plombemia TEXT(50));
+    Hemoglobina TEXT(255), Hematocrito TEXT(255), [Glóbulos rojos] TEXT(255), [Glóbulos blancos] TEXT(255),
+    [Neutrófilos] TEXT(255), Linfocitos TEXT(255), [Eosinófilos] TEXT(255), Plaquetas TEXT(255),
+    Reticulocitos TEXT(255), [Eritrosedimentación] TEXT(255), [Proteína C reactiva] TEXT(255),
+    [Grupo sanguíneo y factor Rh] TEXT(255), [Coombs directa] TEXT(255), [Tiempo de protrombina] TEXT(255),
+    KPTT TEXT(255), Ferremia TEXT(255), Ferritina TEXT(255), [Vitamina B12] TEXT(255),
+    [Ácido fólico] TEXT(255), [Vitamina D] TEXT(255), Glucemia TEXT(255), [Hemoglobina glicosilada] TEXT(255),
+    Uremia TEXT(255), Creatinina TEXT(255), [Ácido úrico] TEXT(255), Sodio TEXT(255), Potasio TEXT(255),
+    Calcio TEXT(255), [Fósforo] TEXT(255), [pH venoso] TEXT(255), Bicarbonato TEXT(255),
+    [Bilirrubina total] TEXT(255), [Bilirrubina directa] TEXT(255), TGO TEXT(255), TGP TEXT(255),
+    [Fosfatasa alcalina] TEXT(255), [Gamma GT] TEXT(255), CPK TEXT(255), [Proteínas totales] TEXT(255),
+    [Albúmina] TEXT(255), [Colesterol total] TEXT(255), [Triglicéridos] TEXT(255), TSH TEXT(255),
+    [T4 libre] TEXT(255), [Anticuerpos antitransglutaminasa IgA] TEXT(255), IgA TEXT(255),
+    [IgE total] TEXT(255), [Complemento C3] TEXT(255), ASTO TEXT(255), VDRL TEXT(255), HIV TEXT(255),
+    [Hepatitis B antígeno de superficie] TEXT(255), [Toxoplasmosis IgG] TEXT(255), Chagas TEXT(255),
+    Monotest TEXT(255), [Orina completa] TEXT(255), Urocultivo TEXT(255), [Proteinuria de 24 horas] TEXT(255),
+    Coprocultivo TEXT(255), [Parasitológico de materia fecal] TEXT(255),
+    [Sangre oculta en materia fecal] TEXT(255), [Test de Graham] TEXT(255), [Hisopado de fauces] TEXT(255),
+    [Panel viral respiratorio] TEXT(255), [Pesquisa neonatal] TEXT(255), Plombemia TEXT(255));
 CREATE INDEX paciente ON Analisis (paciente);
 CREATE INDEX PacFecha ON Analisis (paciente, Fecha);
 

@@ -5,7 +5,10 @@
 #include "clinical/catalogues/panDiagnosticos.h"
 #include "clinical/catalogues/panSintomas.h"
 #include "clinical/catalogues/panTratamientos.h"
+#include "clinical/family/panArbol.h"
 #include "clinical/history/panEditHC.h"
+#include "clinical/laboratory/panAnalisis.h"
+#include "clinical/laboratory/panEstudios.h"
 #include "clinical/patients/buscaPaciente.h"
 #include "clinical/patients/eligePaciente.h"
 #include "clinical/patients/fichas.h"
@@ -33,8 +36,11 @@ void clinical::registerScreens()
 {
     screens::add<panEditHC>("panEditHC");
     screens::add<hc>("hc");
+    screens::add<panArbol>("panArbol");
     screens::add<panVisitas>("panVisitas");
     screens::add<panEstadPaciente>("panEstadPaciente");
+    screens::add<panAnalisis>("panAnalisis");
+    screens::add<panEstudios>("panEstudios");
     screens::add<panSintomas>("panSintomas");
     screens::add<panDiagnosticos>("panDiagnosticos");
     screens::add<panTratamientos>("panTratamientos");

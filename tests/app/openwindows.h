@@ -1,5 +1,12 @@
 #pragma once
 
+#include "clinical/family/panResFliares.h"
+#include "clinical/family/panSelAnteFliar.h"
+#include "clinical/laboratory/panComparaAnalisis.h"
+#include "clinical/laboratory/panInAn.h"
+#include "clinical/laboratory/panNueAg.h"
+#include "clinical/laboratory/panNueAnalisis.h"
+#include "clinical/laboratory/panNueEstudio.h"
 #include "clinical/patients/panComFliar.h"
 #include "clinical/patients/panNuePaciente.h"
 #include "clinical/patients/panSelPaciente.h"
@@ -45,6 +52,11 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panComFliar"), opening<panComFliar>()},
         {QStringLiteral("panSelPaciente"), opening<panSelPaciente>()},
         {QStringLiteral("panNueConsulta"), opening<panNueConsulta>()},
+        {QStringLiteral("panComparaAnalisis"), opening<panComparaAnalisis>()},
+        {QStringLiteral("panInAn"), opening<panInAn>()},
+        {QStringLiteral("panNueAg"), opening<panNueAg>()},
+        {QStringLiteral("panNueAnalisis"), opening<panNueAnalisis>()},
+        {QStringLiteral("panNueEstudio"), opening<panNueEstudio>()},
         {QStringLiteral("panNueUsuario"), opening<panNueUsuario>()},
         {QStringLiteral("panIngresoUsuario"), opening<panIngresoUsuario>()},
         {QStringLiteral("panSelProf"), opening<panSelProf>()},
@@ -52,6 +64,9 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panCambiaEstadoTurno"), opening<panCambiaEstadoTurno>()},
         {QStringLiteral("panDispTurnos"), [] { return std::make_unique<panDispTurnos>(basic::today(), 1); }},
         {QStringLiteral("panNueTurno"), opening<panNueTurno>()},
+        {QStringLiteral("panSelAnteFliar"),
+         [] { return std::make_unique<panSelAnteFliar>(1, QStringLiteral("Papa")); }},
+        {QStringLiteral("panResFliares"), [] { return std::make_unique<panResFliares>(QStringList()); }},
         {QStringLiteral("panNueProfesional"), opening<panNueProfesional>()},
     };
     for (const std::string_view name : screens::windows) {

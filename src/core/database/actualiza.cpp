@@ -172,6 +172,7 @@ constexpr std::initializer_list<int> yaHecho = {
     dao::Error::DuplicateKey,  dao::Error::IndexNotFound};
 
 constexpr int largoDeClave = 60;
+constexpr int largoDeResultado = 255;
 
 void ejecuta(const QString &sentencia)
 {
@@ -195,6 +196,16 @@ void alargaCampoDeTurnos(const QString &campo, int tamano)
     if (columna && columna->size == tamano)
         ejecuta(u"ALTER TABLE Turnos DROP COLUMN "_s + campo);
     ejecuta(agregar);
+}
+
+/// A test whose result is told in words needs room for them. The tests are the columns of the table, whatever
+/// they are.
+void alargaResultados()
+{
+    const dao::TableDef analisis = BaseDatos.tableDef(u"Analisis");
+    for (const dao::FieldDef &columna : analisis.fields())
+        if (columna.type == dao::FieldType::Text && columna.size < largoDeResultado)
+            BaseDatos.widenText(u"Analisis"_s, columna.name, largoDeResultado);
 }
 
 /// Accounts of older versions have no type; they count as doctors.
@@ -226,6 +237,7 @@ void ActualizaBase()
     ejecuta(columnasDelResumen);
     reparaTipoDeUsuarios();
     basic::ignoring(yaHecho, [] { BaseDatos.widenText(u"Usuarios"_s, u"Clave"_s, largoDeClave); });
+    basic::ignoring(yaHecho, alargaResultados);
     lista.commit();
 }
 

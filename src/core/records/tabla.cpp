@@ -27,6 +27,17 @@ void Tabla::load()
     refresh();
 }
 
+void Tabla::reread()
+{
+    Data1.change([had = Data1.hasRow()](dao::Recordset &rows) {
+        const dao::Recordset::Bookmark place = had ? rows.bookmark() : dao::Recordset::Bookmark();
+        rows.requery();
+        if (had)
+            basic::ignoring({dao::Error::NoCurrentRecord, dao::Error::RecordDeleted},
+                            [&] { rows.setBookmark(place); });
+    });
+}
+
 bool Tabla::queryUnload()
 {
     Data1.updateRecord();
@@ -76,6 +87,23 @@ void Tabla::addRow(const std::function<void(dao::Recordset &)> &fill)
     });
 }
 
+void Tabla::capture(forms::Form &dialogue, const std::function<void(dao::Recordset &)> &fill)
+{
+    Data1.updateRecord(); // a text that is refused is put right before, not once the new row is typed
+    for (;;) {
+        dialogue.setTag(tag());
+        dialogue.showModal();
+        if (dialogue.tag() != u"SI")
+            return;
+        try {
+            addRow(fill);
+            return;
+        } catch (const dao::Error &error) {
+            MODULE11::MuestraError(error.description());
+        }
+    }
+}
+
 void Tabla::deleteRow()
 {
     Data1.deleteRow();
@@ -99,6 +127,10 @@ void ListaDelPaciente::activate()
     const auto numero = pacienteDe(*this);
     if (!numero)
         return;
+    if (*numero == paciente_ && Data1.hasRecordset()) {
+        reread();
+        return;
+    }
     paciente_ = *numero;
     setSource(source_.arg(paciente_));
     refresh();

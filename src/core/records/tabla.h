@@ -25,6 +25,8 @@ protected:
     void setSource(const QString &sql);
     /// Reads the rows again and stands on the first.
     void refresh() { Data1.refresh(); }
+    /// Reads the rows again and stays on the current one; on the first when it is gone.
+    void reread();
 
     /// The commands, for the layout. `name` is the button's name.
     forms::CommandButton &command(const QString &name, const QString &caption, const QString &icon,
@@ -37,6 +39,9 @@ protected:
 
     /// Adds a row with what `fill` sets, and stands on it.
     void addRow(const std::function<void(dao::Recordset &)> &fill);
+    /// Shows a dialogue that takes a row in, and adds the row when it answers "SI". One that cannot be stored
+    /// is told, and the dialogue comes again with what was typed.
+    void capture(forms::Form &dialogue, const std::function<void(dao::Recordset &)> &fill);
     /// Deletes the current row, after the gate and the question; what was typed goes with it.
     virtual void deleteRow();
 
@@ -56,7 +61,8 @@ private:
     std::vector<forms::CommandButton *> ofTheRow_;
 };
 
-/// The dated records of the patient whose number is the window's tag, read anew at each activation.
+/// The dated records of the patient whose number is the window's tag, read anew at each activation; the
+/// current one stays so.
 class ListaDelPaciente : public Tabla
 {
     Q_OBJECT

@@ -63,6 +63,8 @@ signals:
     void clicked(const QString &item);
     void doubleClicked(const QString &item);
     void contextMenu(const QString &item, QPoint screen);
+    /// The mouse or the keyboard came to this item; empty when the mouse left and the keyboard is at none.
+    void pointedAt(const QString &item);
     /// By hand, to this position.
     void moved(const QString &item, QPointF place);
     /// Where there is no item.

@@ -130,6 +130,7 @@ CanvasItem::CanvasItem(Canvas &canvas, const QString &name, QPointF place, Look 
 {
     setObjectName(name);
     setFlag(ItemIsFocusable);
+    setAcceptHoverEvents(true);
     setPos(place);
     measure();
 }
@@ -162,6 +163,7 @@ void CanvasItem::setText(const QString &text)
 void CanvasItem::setInert()
 {
     setFlag(ItemIsFocusable, false);
+    setAcceptHoverEvents(false);
     setAcceptedMouseButtons(Qt::NoButton);
 }
 
@@ -234,6 +236,18 @@ void CanvasItem::focusInEvent(QFocusEvent *event)
     QGraphicsObject::focusInEvent(event);
     QAccessibleEvent told(this, QAccessible::Focus);
     QAccessible::updateAccessibility(&told);
+    emit canvas_.pointedAt(name());
+}
+
+void CanvasItem::hoverEnterEvent(QGraphicsSceneHoverEvent *)
+{
+    emit canvas_.pointedAt(name());
+}
+
+void CanvasItem::hoverLeaveEvent(QGraphicsSceneHoverEvent *)
+{
+    const CanvasItem *focused = canvas_.focused();
+    emit canvas_.pointedAt(focused ? focused->name() : QString());
 }
 
 void CanvasItem::mousePressEvent(QGraphicsSceneMouseEvent *event)

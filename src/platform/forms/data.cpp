@@ -110,7 +110,7 @@ basic::Value shownValue(QWidget &control, FieldType type)
 
 } // namespace
 
-Data::Data(const QString &name)
+Data::Data(const QString &name, dao::Recordset::Kind kind) : kind_(kind)
 {
     setObjectName(name);
 }
@@ -125,7 +125,7 @@ void Data::refresh(const QString &criterion)
     if (!database_)
         throw dao::Error(dao::Error::Closed, QStringLiteral("No hay una base de datos abierta."));
     try {
-        recordset_ = database_->openRecordset(source_, dao::Recordset::Kind::Dynaset);
+        recordset_ = database_->openRecordset(source_, kind_);
         if (!criterion.isEmpty() && !recordset_.eof()) {
             recordset_.findFirst(criterion);
             noneChosen_ = recordset_.noMatch();

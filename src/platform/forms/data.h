@@ -18,7 +18,8 @@ class Data : public QObject
 {
     Q_OBJECT
 public:
-    explicit Data(const QString &name);
+    /// A snapshot shows the rows as they were when they were read, whatever other stations do to them.
+    explicit Data(const QString &name, dao::Recordset::Kind kind = dao::Recordset::Kind::Dynaset);
     ~Data() override;
 
     /// The database of every Data that is given no other; the session's.
@@ -79,6 +80,7 @@ private:
 
     static inline dao::Database *defaultDatabase_ = nullptr;
     dao::Database *database_ = defaultDatabase_;
+    const dao::Recordset::Kind kind_;
     QString source_;
     dao::Recordset recordset_;
     std::vector<Binding> bindings_;

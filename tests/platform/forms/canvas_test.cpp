@@ -128,6 +128,30 @@ TEST_F(CanvasTest, arrowsLeadToTheNearestItemInTheirDirection)
     EXPECT_EQ(told, (QStringList{"click b", "click c", "click c", "click a"}));
 }
 
+TEST_F(CanvasTest, tellsWhatTheMousePointsAt)
+{
+    box(u"a"_s, {300, 300});
+    box(u"b"_s, {1500, 300});
+    box(u"adorno"_s, {1500, 300}).setInert();
+    QObject::connect(&canvas, &forms::Canvas::pointedAt, [this](const QString &name) { told += name; });
+    const auto hover = [this](QPoint pixel) {
+        QMouseEvent event(QEvent::MouseMove, pixel, canvas.viewport()->mapToGlobal(pixel), Qt::NoButton, {},
+                          {});
+        QApplication::sendEvent(canvas.viewport(), &event);
+    };
+    EXPECT_TRUE(canvas.viewport()->hasMouseTracking());
+    hover({30, 30});
+    hover({110, 30});
+    hover({200, 150});
+    EXPECT_EQ(told.join(u' '), u"a  b "_s); // from one to the next the mouse leaves the first
+    QFocusEvent byTab(QEvent::FocusIn, Qt::TabFocusReason);
+    QApplication::sendEvent(&canvas, &byTab);
+    told.clear();
+    hover({110, 30});
+    hover({200, 150});
+    EXPECT_EQ(told, (QStringList{u"b"_s, u"a"_s})); // off all of them it is where the keyboard is
+}
+
 TEST_F(CanvasTest, aHandlerMayTakeAwayWhatWasClicked)
 {
     box(u"a"_s, {300, 300});

@@ -138,21 +138,22 @@ QStringList Database::tableNames() const
     return d_->catalogue().tableNames();
 }
 
+/// As the table is now: a column that another station has added counts.
 TableDef Database::tableDef(QStringView name)
 {
-    return d_->withFreshCatalogue([&] {
-        const TablePtr table = d_->catalogue().table(name);
-        if (!table)
-            throw Error(Error::ItemNotFound,
-                        QStringLiteral("No se encontró el elemento '%1' en esta colección.").arg(name));
-        TableDef def;
-        def.database_ = this;
-        def.name_ = table->name;
-        def.fields_ = table->columns;
-        def.indexes_ = table->indexes;
-        def.updatable_ = !d_->engine().readOnly();
-        return def;
-    });
+    const bool updatable = !d_->engine().readOnly();
+    d_->catalogue().refresh();
+    const TablePtr table = d_->catalogue().table(name);
+    if (!table)
+        throw Error(Error::ItemNotFound,
+                    QStringLiteral("No se encontró el elemento '%1' en esta colección.").arg(name));
+    TableDef def;
+    def.database_ = this;
+    def.name_ = table->name;
+    def.fields_ = table->columns;
+    def.indexes_ = table->indexes;
+    def.updatable_ = updatable;
+    return def;
 }
 
 void Database::createQuery(const QString &name, const QString &select)
