@@ -178,12 +178,11 @@ Item panEstadPaciente::identidad()
     };
     return Group(
         Frame1, Column{Row{imgFoto,
-                           Expanding(Column{*datos_.at("Text10"),
+                           Expanding(Column{Row{Expanding(*datos_.at("Text10")), Command_525},
                                             Row{Label7, edad("Text7", u"años."_s), edad("Text8", u"meses."_s),
                                                 edad("Text9", u"días."_s), Stretch()},
                                             Row{Fields{{u"Sexo :"_s, *datos_.at("Text12")}},
-                                                Fields{{u"Grupo y Factor :"_s, *datos_.at("Text13")}},
-                                                Stretch(), Command_525}})},
+                                                Fields{{u"Grupo :"_s, *datos_.at("Text13")}}, Stretch()}})},
                        Fields(filas), Text14});
 }
 
