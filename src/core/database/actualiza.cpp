@@ -153,6 +153,7 @@ constexpr const char *trasLosTamanos[] = {
 constexpr const char *indicesDeVelocidad[] = {
     "CREATE INDEX PacFecha ON ExFisico (idPaciente, Fecha)",
     "CREATE INDEX idConsulta ON ExFisico (idConsulta)",
+    "CREATE INDEX fechaPaciente ON Recetario (fecha, Paciente)",
     "CREATE INDEX FechaHora ON Consulta (Fecha, Hora)",
 };
 
