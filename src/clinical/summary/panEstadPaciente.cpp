@@ -88,7 +88,7 @@ void panEstadPaciente::conectar()
     connect(&cmdSalir, &QPushButton::clicked, this, &panEstadPaciente::unload);
     connect(&Label61, &Label::clicked, this, &panEstadPaciente::elegirAntitetanica);
     connect(&imgFoto, &Label::clicked, this, [this] {
-        if (clinical::cambiaFoto(ruta(numero()), mayorLadoGuardado))
+        if (numero() != 0 && clinical::cambiaFoto(ruta(numero()), mayorLadoGuardado))
             mostrarFoto();
     });
     connect(&List2, &QListWidget::itemClicked, this,
@@ -136,6 +136,7 @@ void panEstadPaciente::llenar()
     const QScopeGuard lleno([this] { llenando_ = false; });
     MODULE11::RelojEspera();
     const QScopeGuard reloj([] { MODULE11::RelojNormal(); });
+    guardarNota(); // what is typed is not covered by what is read
     persona_.numero = *paciente;
     mostrarFoto();
     paso([this] { pintarAlarmas(); });
@@ -446,6 +447,8 @@ void panEstadPaciente::abrirConsultas()
 
 void panEstadPaciente::agregarAntecedente()
 {
+    if (numero() == 0)
+        return;
     const auto elegido = settings::getSetting(u"Configuracion"_s, u"Clasificador patologico"_s) == u"PERSONAL"
                              ? catalogos::eligeDeLosPropios(u"<Todos>"_s)
                              : catalogos::eligeEnCIE10();
@@ -511,6 +514,8 @@ void panEstadPaciente::elegirAntitetanica()
 
 void panEstadPaciente::recetar()
 {
+    if (numero() == 0)
+        return;
     const auto receta = ports::emiteReceta(numero(), {});
     if (!receta)
         return;
