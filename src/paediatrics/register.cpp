@@ -4,6 +4,7 @@
 #include "core/session/screens.h"
 #include "paediatrics/anthropometry/imcNormal.h"
 #include "paediatrics/anthropometry/medidas.h"
+#include "paediatrics/anthropometry/ultimasMedidas.h"
 #include "paediatrics/anthropometry/panCrecimiento.h"
 #include "paediatrics/charts/chartcatalogue.h"
 #include "paediatrics/charts/panCurvasOMS.h"
@@ -16,6 +17,7 @@ void paediatrics::registerScreens()
 {
     ports::tomarMedidas.provide(TomarMedidas);
     ports::imcNormal.provide(imcNormal);
+    ports::ultimasMedidas.provide(ultimasMedidas);
     screens::add<panCrecimiento>("panCrecimiento");
     screens::add<panMuesCurvas>("panMuesCurvas");
     screens::add<panCurvasOMS>("panCurvasOMS");

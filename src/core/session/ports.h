@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 /// What one subsystem asks of another with arguments and an answer. The subsystem that has it provides it at
 /// start; a port that nobody provides is false, and what would call it is disabled.
@@ -44,6 +45,13 @@ inline Port<void(std::optional<qint64> paciente)> otorgaTurno;
 inline Port<bool(qint64 paciente)> tomarMedidas;
 /// From and to what the body-mass index is normal at that age; nothing where there are no figures.
 inline Port<std::optional<std::pair<double, double>>(const QString &sexo, qint64 diasDeVida)> imcNormal;
+/// The last weight, height, head circumference and body-mass index of a patient that were taken, each with its
+/// place among children of the age in words ("P63, z +0,3, adecuado para la edad"), empty without figures.
+struct MedidaEnPalabras {
+    QString rotulo, valor, lugar;
+};
+inline Port<std::vector<MedidaEnPalabras>(qint64 paciente, const QString &sexo, const basic::Date &nacimiento)>
+    ultimasMedidas;
 /// Shows the prescription sheet of a patient with a text to begin with: the prescription to keep, without the
 /// point that ends it in the file; nothing when it was closed.
 inline Port<std::optional<QString>(qint64 paciente, const QString &textoInicial)> emiteReceta;
