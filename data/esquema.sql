@@ -414,30 +414,30 @@ CREATE TABLE Pediatria (numero LONG, [Nombre de la Madre] TEXT(100), [Nombre del
     [Salud segundo trimestre] TEXT(255), [Salud tercer trimestre] TEXT(255));
 CREATE UNIQUE INDEX PrimaryKey ON Pediatria (numero) WITH PRIMARY;
 
-CREATE TABLE Perinatal (IdPaciente LONG, [Nombre de la Madre] TEXT(100), [Edad de la madre al nacer] DOUBLE,
-    [Talla de la Madre al Nacer] DOUBLE, [Peso anterior de la Madre] DOUBLE,
-    [peso al nacer de la madre] DOUBLE, [Gestas de la madre] DOUBLE, Paridad TEXT(30),
+CREATE TABLE Perinatal (IdPaciente LONG, [Nombre de la Madre] TEXT(100), [Edad de la madre al nacer] TEXT(30),
+    [Talla de la Madre al Nacer] TEXT(30), [Peso anterior de la Madre] TEXT(30),
+    [peso al nacer de la madre] TEXT(30), [Gestas de la madre] TEXT(30), Paridad TEXT(30),
     [Grupo sanguineo Madre] TEXT(30), [Tiempo rotura membrana] TEXT(30), [Edad Gestacional madre] TEXT(30),
     [Patologias de la madre] TEXT(255), [sensibilización] BIT, [control Prenatal] BIT, [HIV Madre] BIT,
     [Chagas Madre] BIT, [Toxoplasmosis Madre] BIT, VDRL BIT, [Salud primer trimestre] TEXT(255),
-    [Salud segundo trimestre] TEXT(255), [Salud tercer trimestre] TEXT(255),
-    [nombre drogas parto] TEXT(255), [Tiempo drogas anteparto] TEXT(100), [Comienzo Parto] TEXT(100),
-    [Terminacion Parto] TEXT(100), [Presentacion Parto] TEXT(100), [Causa de Intervencion Parto] TEXT(100),
-    [Tipo liquido amniotico] TEXT(60), [Tipo de liquido amniotico] TEXT(60), [sufrimiento fetal] TEXT(60),
-    [Parto efectuado por] TEXT(60), [Parto atendido en] TEXT(60), Nacimiento TEXT(60),
-    [Ligadura cordon] TEXT(60), [Cordon presento anomalias] BIT, [Analisis cordon Grupo sanguineo] TEXT(30),
+    [Salud segundo trimestre] TEXT(255), [Salud tercer trimestre] TEXT(255), [nombre drogas parto] TEXT(255),
+    [Tiempo drogas anteparto] TEXT(100), [Comienzo Parto] TEXT(100), [Terminacion Parto] TEXT(100),
+    [Presentacion Parto] TEXT(100), [Causa de Intervencion Parto] TEXT(100), [Tipo liquido amniotico] TEXT(60),
+    [Tipo de liquido amniotico] TEXT(60), [sufrimiento fetal] TEXT(60), [Parto efectuado por] TEXT(60),
+    [Parto atendido en] TEXT(60), Nacimiento TEXT(60), [Ligadura cordon] TEXT(60),
+    [Cordon presento anomalias] BIT, [Analisis cordon Grupo sanguineo] TEXT(30),
     [Analisis cordon Coombs] TEXT(30), [Analisis cordon bilirrubina] TEXT(30),
     [Analisis cordon hemoglobina] TEXT(30), [Maniobras de Rutina secado] BIT,
     [Maniobras de Rutina aspirNaso] BIT, [Maniobras de Rutina aspirGastro] BIT,
     [Maniobras especiales estimulo ext] BIT, [maniobras especiales cardiacas] TEXT(60),
     [maniobras especiales metabolicas] TEXT(60), [maniobras especiales respiracion] TEXT(60),
     [maniobras especiales de respiración] TEXT(60), [maniobras especiales otras] TEXT(60),
-    [Apgar Latidos 1 min] LONG, [Apgar Latidos 5 min] LONG, [Apgar Respiracion 1 min] LONG,
-    [Apgar Respiracion 5 min] LONG, [Apgar tono 1 min] LONG, [Apgar tono 5 min] LONG,
-    [Apgar reflejos 1 min] LONG, [Apgar reflejos 5 min] LONG, [Apgar color 1 min] LONG,
-    [Apgar color 5 min] LONG, [Apgar total 1 min] LONG, [Apgar total 5 min] LONG,
-    [Tiempo de vida al examen] TEXT(30), [Peso al nacer] DOUBLE, [Talla al nacer] DOUBLE,
-    [Perimetro cefalico al nacer] DOUBLE, [Edad gestacional por examen fisico] DOUBLE,
+    [Apgar Latidos 1 min] TEXT(30), [Apgar Latidos 5 min] TEXT(30), [Apgar Respiracion 1 min] TEXT(30),
+    [Apgar Respiracion 5 min] TEXT(30), [Apgar tono 1 min] TEXT(30), [Apgar tono 5 min] TEXT(30),
+    [Apgar reflejos 1 min] TEXT(30), [Apgar reflejos 5 min] TEXT(30), [Apgar color 1 min] TEXT(30),
+    [Apgar color 5 min] TEXT(30), [Apgar total 1 min] TEXT(30), [Apgar total 5 min] TEXT(30),
+    [Tiempo de vida al examen] TEXT(30), [Peso al nacer] TEXT(30), [Talla al nacer] TEXT(30),
+    [Perimetro cefalico al nacer] TEXT(30), [Edad gestacional por examen fisico] TEXT(30),
     [Malformaciones destacadas] TEXT(255), [Diagnóstico] TEXT(255), [Presenta malformaciones] BIT,
     [Color de la piel ictericia] BIT, [Color de la piel palida] BIT, [Color de la piel sianosis] BIT,
     [Neurologico normal] BIT, [Neurologico deprimido] BIT, [Neurologico excitado] BIT,
@@ -461,7 +461,7 @@ CREATE INDEX PrimaryKey ON POSRECETARIOMEDIA (Elemento);
 CREATE TABLE Practicos (idpractico COUNTER, detalle TEXT(100), precio CURRENCY);
 
 CREATE TABLE Presion (tipo TEXT(2), Edad LONG, P_5 DOUBLE, P_25 DOUBLE, P_50 DOUBLE, P_75 DOUBLE,
-    P_95 DOUBLE, Maxima LONG, Minima LONG, Fecha DATE);
+    P_95 DOUBLE);
 CREATE INDEX tipo ON Presion (tipo, Edad);
 
 CREATE TABLE Presupuestos (idpresupuesto COUNTER, codpaciente LONG, fecha DATE, Descripcion TEXT(255));
@@ -494,7 +494,7 @@ CREATE INDEX Dr ON TablaTempHC (Dr);
 
 CREATE TABLE tmpAnalisis (Estudio TEXT(64), Resultado TEXT(255));
 
-CREATE TABLE TomaPresion (paciente LONG, fecha DATE, minima LONG, maxima LONG);
+CREATE TABLE TomaPresion (paciente LONG, fecha DATE, minima DOUBLE, maxima DOUBLE);
 CREATE INDEX paciente ON TomaPresion (paciente);
 CREATE INDEX PacFecha ON TomaPresion (paciente, fecha);
 

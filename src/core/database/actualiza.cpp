@@ -166,6 +166,13 @@ constexpr const char *antecedentesDeVariasFilas[] = {
 
 constexpr const char *columnasDelResumen[] = {"ALTER TABLE Gineco ADD COLUMN Paridad TEXT(30)"};
 
+// The reference of pressures once had the columns of a measuring.
+constexpr const char *columnasAjenasDePresion[] = {
+    "ALTER TABLE Presion DROP COLUMN Maxima",
+    "ALTER TABLE Presion DROP COLUMN Minima",
+    "ALTER TABLE Presion DROP COLUMN Fecha",
+};
+
 /// A statement that has taken effect fails, and so does one that names a column that never was.
 constexpr std::initializer_list<int> yaHecho = {
     dao::Error::TableExists,   dao::Error::IndexExists,  dao::Error::FieldExists,   dao::Error::FieldNotFound,
@@ -209,6 +216,46 @@ void alargaResultados()
             BaseDatos.widenText(u"Analisis"_s, columna.name, largoDeResultado);
 }
 
+/// Gives a column another type; what it holds stays, read by `valor`, where %1 is the column.
+void cambiaTipo(const QString &tabla, const QString &campo, const QString &tipo, const QString &valor)
+{
+    const QString paso = u"enCambio"_s;
+    const auto agregar = [&](const QString &nombre) {
+        BaseDatos.execute(u"ALTER TABLE %1 ADD COLUMN [%2] %3"_s.arg(tabla, nombre, tipo));
+    };
+    const auto pasar = [&](const QString &de, const QString &a, const QString &leido) {
+        BaseDatos.execute(u"UPDATE %1 SET [%2] = %3 WHERE [%4] IS NOT NULL"_s.arg(tabla, a, leido, de));
+        BaseDatos.execute(u"ALTER TABLE %1 DROP COLUMN [%2]"_s.arg(tabla, de));
+    };
+    agregar(paso);
+    pasar(campo, paso, valor.arg(campo));
+    agregar(campo);
+    pasar(paso, campo, paso);
+}
+
+bool esNumero(const dao::FieldDef &columna)
+{
+    return columna.type == dao::FieldType::Double || columna.type == dao::FieldType::Long;
+}
+
+/// The birth record takes what is written, number or not; the patient's number alone is one.
+void liberaFichaPerinatal()
+{
+    const dao::TableDef perinatal = BaseDatos.tableDef(u"Perinatal");
+    for (const dao::FieldDef &columna : perinatal.fields())
+        if (esNumero(columna) && columna.name.compare(u"IdPaciente", Qt::CaseInsensitive) != 0)
+            cambiaTipo(u"Perinatal"_s, columna.name, u"TEXT(30)"_s, u"[%1] & ''"_s);
+}
+
+/// A pressure may be the mean of several takings.
+void fraccionaPresiones()
+{
+    const dao::TableDef tomas = BaseDatos.tableDef(u"TomaPresion");
+    for (const QString &campo : {u"minima"_s, u"maxima"_s})
+        if (const dao::FieldDef *columna = tomas.field(campo); columna && columna->type == dao::FieldType::Long)
+            cambiaTipo(u"TomaPresion"_s, campo, u"DOUBLE"_s, u"[%1]"_s);
+}
+
 /// Accounts of older versions have no type; they count as doctors.
 void reparaTipoDeUsuarios()
 {
@@ -236,6 +283,9 @@ void ActualizaBase()
     ejecuta(indicesDeVelocidad);
     ejecuta(antecedentesDeVariasFilas);
     ejecuta(columnasDelResumen);
+    ejecuta(columnasAjenasDePresion);
+    basic::ignoring(yaHecho, liberaFichaPerinatal);
+    basic::ignoring(yaHecho, fraccionaPresiones);
     reparaTipoDeUsuarios();
     basic::ignoring(yaHecho, [] { BaseDatos.widenText(u"Usuarios"_s, u"Clave"_s, largoDeClave); });
     basic::ignoring(yaHecho, alargaResultados);
