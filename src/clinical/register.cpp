@@ -53,4 +53,5 @@ void clinical::registerScreens()
     ports::buscaEnPacientes.provide(BuscaEnPacientes);
     ports::pideNombreDePaciente.provide(PideNombreDePaciente);
     ports::eligeDiagnostico.provide(catalogos::eligeDiagnostico);
+    ports::eligePatologia.provide(catalogos::eligePatologia);
 }

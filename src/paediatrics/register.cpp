@@ -2,16 +2,30 @@
 
 #include "core/session/ports.h"
 #include "core/session/screens.h"
+#include "core/windows/despacho.h"
 #include "paediatrics/anthropometry/imcNormal.h"
 #include "paediatrics/anthropometry/medidas.h"
-#include "paediatrics/anthropometry/ultimasMedidas.h"
 #include "paediatrics/anthropometry/panCrecimiento.h"
+#include "paediatrics/anthropometry/ultimasMedidas.h"
 #include "paediatrics/charts/chartcatalogue.h"
 #include "paediatrics/charts/panCurvasOMS.h"
 #include "paediatrics/charts/panMuesCurvas.h"
 #include "paediatrics/charts/panPercentil.h"
+#include "paediatrics/perinatal/panAntPerinatales.h"
+#include "paediatrics/perinatal/panResPerinat.h"
+#include "paediatrics/perinatal/panfichaPer.h"
 
 using namespace Qt::StringLiterals;
+
+namespace
+{
+
+void AbrePerinatal()
+{
+    screens::showModal("panAntPerinatales", menu::activePatient());
+}
+
+} // namespace
 
 void paediatrics::registerScreens()
 {
@@ -21,6 +35,11 @@ void paediatrics::registerScreens()
     screens::add<panCrecimiento>("panCrecimiento");
     screens::add<panMuesCurvas>("panMuesCurvas");
     screens::add<panCurvasOMS>("panCurvasOMS");
+    screens::add<panAntPerinatales>("panAntPerinatales");
+    screens::add<panResPerinat>("panResPerinat");
+    screens::add<panfichaPer>("panfichaPer");
+    screens::addOperation("AbrePerinatal", AbrePerinatal);
     for (const charts::ClassicalChart &chart : charts::classicalCharts())
-        screens::add(screens::Window::find(chart.form).value(), [&chart] { return std::make_unique<panPercentil>(chart); });
+        screens::add(screens::Window::find(chart.form).value(),
+                     [&chart] { return std::make_unique<panPercentil>(chart); });
 }

@@ -18,6 +18,9 @@
 #include "core/windows/panSelProf.h"
 #include "delivered.h"
 #include "paediatrics/anthropometry/panMedidas.h"
+#include "paediatrics/perinatal/panEvolEmbarazo.h"
+#include "paediatrics/perinatal/panObservaRecien.h"
+#include "paediatrics/perinatal/panOtrosRecien.h"
 #include "platform/forms/application.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/dbgrid.h"
@@ -61,6 +64,9 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panIngresoUsuario"), opening<panIngresoUsuario>()},
         {QStringLiteral("panSelProf"), opening<panSelProf>()},
         {QStringLiteral("panMedidas"), opening<panMedidas>()},
+        {QStringLiteral("panEvolEmbarazo"), opening<panEvolEmbarazo>()},
+        {QStringLiteral("panOtrosRecien"), opening<panOtrosRecien>()},
+        {QStringLiteral("panObservaRecien"), opening<panObservaRecien>()},
         {QStringLiteral("panCambiaEstadoTurno"), opening<panCambiaEstadoTurno>()},
         {QStringLiteral("panDispTurnos"), [] { return std::make_unique<panDispTurnos>(basic::today(), 1); }},
         {QStringLiteral("panNueTurno"), opening<panNueTurno>()},

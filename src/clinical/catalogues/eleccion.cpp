@@ -44,11 +44,13 @@ Renglon catalogos::eligeTratamiento(const QString &paciente)
     return renglonDe(tratamientos);
 }
 
-std::optional<Renglon> catalogos::eligeEnCIE10()
+std::optional<Renglon> catalogos::eligeEnCIE10(int nodo)
 {
     if (!MODULE11::VerificaNivel(u"IngresarACie10"_s))
         return {};
     panCIE10 clasificacion;
+    if (nodo > 0)
+        clasificacion.setTag(QString::number(nodo));
     clasificacion.showModal();
     if (clasificacion.tag() == u"NO")
         return {};
@@ -61,16 +63,33 @@ std::optional<Renglon> catalogos::eligeEnCIE10()
     return Renglon{clasificacion.tag(), static_cast<qint64>(*id)};
 }
 
-std::optional<Renglon> catalogos::eligeDeLosPropios(const QString &clasificacion)
+std::optional<Renglon> catalogos::eligeDeLosPropios(const QString &clasificacion, const QString &titulo)
 {
     panDiagnosticos diagnosticos;
+    if (!titulo.isEmpty())
+        diagnosticos.setWindowTitle(titulo);
     diagnosticos.setTag(clasificacion);
     diagnosticos.showModal();
     return renglonDe(diagnosticos);
 }
 
+namespace
+{
+
+QString clasificador()
+{
+    return settings::getSetting(u"Configuracion"_s, u"Clasificador patologico"_s);
+}
+
+} // namespace
+
 std::optional<Renglon> catalogos::eligeDiagnostico()
 {
-    const bool enCIE10 = settings::getSetting(u"Configuracion"_s, u"Clasificador patologico"_s) == u"CIE10";
-    return enCIE10 ? eligeEnCIE10() : eligeDeLosPropios();
+    return clasificador() == u"CIE10" ? eligeEnCIE10() : eligeDeLosPropios();
+}
+
+/// With nothing set it is the classification here, and the practice's list for a visit's diagnosis.
+std::optional<Renglon> catalogos::eligePatologia(const QString &titulo, int capitulo)
+{
+    return clasificador() == u"PERSONAL" ? eligeDeLosPropios({}, titulo) : eligeEnCIE10(capitulo);
 }

@@ -24,8 +24,11 @@ Renglon eligeTratamiento(const QString &paciente);
 std::optional<Renglon> eligeDiagnostico();
 
 /// The same from the practice's own list, narrowed to a classification.
-std::optional<Renglon> eligeDeLosPropios(const QString &clasificacion = {});
-/// The same from the international classification, behind its right.
-std::optional<Renglon> eligeEnCIE10();
+std::optional<Renglon> eligeDeLosPropios(const QString &clasificacion = {}, const QString &titulo = {});
+/// The same from the international classification, behind its right, open at a node.
+std::optional<Renglon> eligeEnCIE10(int nodo = 0);
+/// From the practice's own list under the title when the setting is "PERSONAL", else from the classification
+/// open at the chapter.
+std::optional<Renglon> eligePatologia(const QString &titulo, int capitulo);
 
 } // namespace catalogos

@@ -149,7 +149,8 @@ constexpr const char *trasLosTamanos[] = {
 // No rule asks for these; speed does. A visit on the screen asks for its examination by patient and day, a
 // visit deleted takes its rows by number, and a practice of years has a million of them: an index over the
 // patient alone leaves all rows of a child of many visits to be read, one over the day those of all children.
-// The reports list the visits by day and hour: unsorted, their first page waits for a million to be put in order.
+// The reports list the visits by day and hour: unsorted, their first page waits for a million to be put in
+// order.
 constexpr const char *indicesDeVelocidad[] = {
     "CREATE INDEX PacFecha ON ExFisico (idPaciente, Fecha)",
     "CREATE INDEX idConsulta ON ExFisico (idConsulta)",
@@ -252,7 +253,8 @@ void fraccionaPresiones()
 {
     const dao::TableDef tomas = BaseDatos.tableDef(u"TomaPresion");
     for (const QString &campo : {u"minima"_s, u"maxima"_s})
-        if (const dao::FieldDef *columna = tomas.field(campo); columna && columna->type == dao::FieldType::Long)
+        if (const dao::FieldDef *columna = tomas.field(campo);
+            columna && columna->type == dao::FieldType::Long)
             cambiaTipo(u"TomaPresion"_s, campo, u"DOUBLE"_s, u"[%1]"_s);
 }
 

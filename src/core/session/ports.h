@@ -57,5 +57,8 @@ inline Port<std::vector<MedidaEnPalabras>(qint64 paciente, const QString &sexo, 
 inline Port<std::optional<QString>(qint64 paciente, const QString &textoInicial)> emiteReceta;
 /// Lets a person choose a diagnosis from the practice's classifier.
 inline Port<std::optional<Renglon>()> eligeDiagnostico;
+/// The same for a record that begins somewhere else: from the practice's own list under a title when the
+/// setting says so, else from the classification open at a chapter.
+inline Port<std::optional<Renglon>(const QString &titulo, int capitulo)> eligePatologia;
 
 } // namespace ports

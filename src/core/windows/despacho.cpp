@@ -39,6 +39,21 @@ void sendKey(int key)
     QApplication::postEvent(receiver, new QKeyEvent(QEvent::KeyRelease, key, Qt::NoModifier));
 }
 
+/// The keys are for the window that an operation opens: they are pressed once it is in front.
+void pressInNextWindow(int key, int times)
+{
+    const auto press = [key, times] {
+        const QWidget *window = QApplication::activeModalWidget();
+        QWidget *receiver = window ? window->focusWidget() : nullptr;
+        for (int i = 0; receiver && i < times; ++i)
+            for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+                QKeyEvent event(type, key, Qt::NoModifier);
+                QCoreApplication::sendEvent(receiver, &event);
+            }
+    };
+    QMetaObject::invokeMethod(qApp, press, Qt::QueuedConnection);
+}
+
 screens::Window windowOf(const Entry &entry)
 {
     return screens::Window::find(text(entry.target)).value();
@@ -91,8 +106,7 @@ void choosePatientBound(const Entry &entry)
         openPatientWindow(entry, patient);
         return;
     }
-    for (int i = 0; i < entry.keysRight; ++i)
-        sendKey(Qt::Key_Right);
+    pressInNextWindow(Qt::Key_Right, entry.keysRight);
     screens::run(commandOf(entry));
 }
 

@@ -1,0 +1,103 @@
+#include "paediatrics/perinatal/panResPerinat.h"
+
+#include "core/records/fichaDelPaciente.h"
+#include "core/services/hallazgosPerinatales.h"
+#include "core/services/paciente.h"
+#include "paediatrics/perinatal/panAntPerinatales.h"
+
+using namespace Qt::StringLiterals;
+using namespace forms;
+
+panResPerinat::panResPerinat() : Form(u"panResPerinat"_s), Combo1(u"Combo1"_s, perinatal::gruposSanguineos)
+{
+    setWindowTitle(u"Ficha resumen perinatal"_s);
+    campos_.ligar(u"Grupo sanguineo Madre"_s, Combo1);
+    List3.setWordWrap(true);
+    List3.setUniformItemSizes(false);
+    setContents(this, Column{
+                          Expanding(Row{Expanding(madre()), Expanding(recienNacido())}),
+                          Expanding(Group(u"Lo que dice la ficha"_s, List3)),
+                          Row{Command3, Stretch(), Command1, Command2},
+                      });
+    resize(1000, 640);
+    connect(&Command1, &QPushButton::clicked, this, &panResPerinat::guardar);
+    connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
+    connect(&Command3, &QPushButton::clicked, this, &panResPerinat::abrirFicha);
+}
+
+Item panResPerinat::madre()
+{
+    const auto casilla = [this](const QString &columna) -> CheckBox & {
+        return campos_.casilla(columna, columna);
+    };
+    return Column{
+        campos_.textos({u"Edad de la Madre al Nacer"_s, u"Gestas de la Madre"_s, u"Paridad"_s,
+                        u"Edad Gestacional madre"_s},
+                       {{u"Grupo sanguineo Madre :"_s, Combo1}}),
+        Group(u"Serología"_s, Grid(3, {campos_.casilla(u"sensibilización"_s, u"Sensibilización"_s),
+                                       casilla(u"VDRL"_s), casilla(u"HIV Madre"_s),
+                                       casilla(u"Chagas Madre"_s), casilla(u"Toxoplasmosis Madre"_s)})),
+        Expanding(Group(u"Patologías perinatales"_s, patologias_.contenido())),
+    };
+}
+
+Item panResPerinat::recienNacido()
+{
+    return Column{
+        campos_.textos(
+            {u"Apgar total 1 min"_s, u"Apgar total 5 min"_s, u"Peso al Nacer"_s, u"Talla al Nacer"_s}),
+        Group(u"Líquido amniótico"_s, campos_.opciones(u"Tipo liquido amniotico"_s, 4)),
+        Group(u"Sufrimiento fetal"_s, campos_.opciones(u"sufrimiento fetal"_s, 4)),
+        Expanding(Group(u"Diagnósticos del recien nacido"_s, diagnosticos_.contenido())),
+    };
+}
+
+void panResPerinat::activate()
+{
+    const auto numero = records::pacienteDe(*this);
+    if (!numero || *numero == paciente_)
+        return;
+    paciente_ = *numero;
+    leer();
+}
+
+/// Of a patient who is not there the page stays empty, and there is nothing to write it for.
+void panResPerinat::leer()
+{
+    auto paciente = services::paciente(paciente_);
+    Command1.setEnabled(paciente.has_value());
+    Command3.setEnabled(paciente.has_value());
+    if (!paciente)
+        return;
+    setWindowTitle(u"Ficha resumen perinatal de "_s + (*paciente)[u"Apellido y Nombres"].text());
+    mostrar();
+}
+
+void panResPerinat::mostrar()
+{
+    const perinatal::Ficha ficha = perinatal::leer(paciente_);
+    campos_.mostrar(ficha.perinatal);
+    patologias_.mostrar(ficha.patologias);
+    diagnosticos_.mostrar(ficha.diagnosticos);
+    List3.clear();
+    List3.addItems(services::hallazgosPerinatales(paciente_));
+}
+
+void panResPerinat::guardar()
+{
+    perinatal::guardar(paciente_, {campos_.valores(), {}, patologias_.lineas(), diagnosticos_.lineas()});
+    answer(u"SI"_s);
+}
+
+/// The whole record begins with what is typed here; what was accepted there is read back.
+void panResPerinat::abrirFicha()
+{
+    panAntPerinatales ficha;
+    ficha.setTag(tag());
+    ficha.comenzarCon({campos_.valores(), {}, patologias_.lineas(), diagnosticos_.lineas()});
+    ficha.showModal();
+    if (ficha.tag() == u"SI")
+        mostrar();
+}
+
+#include "moc_panResPerinat.cpp"
