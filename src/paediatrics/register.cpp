@@ -14,6 +14,8 @@
 #include "paediatrics/perinatal/panAntPerinatales.h"
 #include "paediatrics/perinatal/panResPerinat.h"
 #include "paediatrics/perinatal/panfichaPer.h"
+#include "paediatrics/pressure/panTension.h"
+#include "paediatrics/sight/panVisual.h"
 
 using namespace Qt::StringLiterals;
 
@@ -38,6 +40,8 @@ void paediatrics::registerScreens()
     screens::add<panAntPerinatales>("panAntPerinatales");
     screens::add<panResPerinat>("panResPerinat");
     screens::add<panfichaPer>("panfichaPer");
+    screens::add<panTension>("panTension");
+    screens::add<panVisual>("panVisual");
     screens::addOperation("AbrePerinatal", AbrePerinatal);
     for (const charts::ClassicalChart &chart : charts::classicalCharts())
         screens::add(screens::Window::find(chart.form).value(),

@@ -44,10 +44,8 @@ const std::set<std::string> notBuiltYet{
     "panProtBase",
     "panRiesgoOperatorio",
     "panServices",
-    "panTension",
     "panTestCardio",
     "panVidaSexual",
-    "panVisual",
     "tooth",
 };
 

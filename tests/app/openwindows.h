@@ -21,6 +21,8 @@
 #include "paediatrics/perinatal/panEvolEmbarazo.h"
 #include "paediatrics/perinatal/panObservaRecien.h"
 #include "paediatrics/perinatal/panOtrosRecien.h"
+#include "paediatrics/pressure/panTomaTension.h"
+#include "paediatrics/sight/panNueVisual.h"
 #include "platform/forms/application.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/dbgrid.h"
@@ -67,6 +69,8 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panEvolEmbarazo"), opening<panEvolEmbarazo>()},
         {QStringLiteral("panOtrosRecien"), opening<panOtrosRecien>()},
         {QStringLiteral("panObservaRecien"), opening<panObservaRecien>()},
+        {QStringLiteral("panTomaTension"), opening<panTomaTension>()},
+        {QStringLiteral("panNueVisual"), opening<panNueVisual>()},
         {QStringLiteral("panCambiaEstadoTurno"), opening<panCambiaEstadoTurno>()},
         {QStringLiteral("panDispTurnos"), [] { return std::make_unique<panDispTurnos>(basic::today(), 1); }},
         {QStringLiteral("panNueTurno"), opening<panNueTurno>()},

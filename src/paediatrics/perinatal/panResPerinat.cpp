@@ -1,6 +1,7 @@
 #include "paediatrics/perinatal/panResPerinat.h"
 
 #include "core/records/fichaDelPaciente.h"
+#include "core/reports/papel.h"
 #include "core/services/hallazgosPerinatales.h"
 #include "core/services/paciente.h"
 #include "paediatrics/perinatal/panAntPerinatales.h"
@@ -17,12 +18,13 @@ panResPerinat::panResPerinat() : Form(u"panResPerinat"_s), Combo1(u"Combo1"_s, p
     setContents(this, Column{
                           Expanding(Row{Expanding(madre()), Expanding(recienNacido())}),
                           Expanding(Group(u"Lo que dice la ficha"_s, List3)),
-                          Row{Command3, Stretch(), Command1, Command2},
+                          Row{Command3, Command4, Stretch(), Command1, Command2},
                       });
     resize(1000, 640);
     connect(&Command1, &QPushButton::clicked, this, &panResPerinat::guardar);
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
     connect(&Command3, &QPushButton::clicked, this, &panResPerinat::abrirFicha);
+    connect(&Command4, &QPushButton::clicked, this, &panResPerinat::imprimir);
 }
 
 Item panResPerinat::madre()
@@ -98,6 +100,23 @@ void panResPerinat::abrirFicha()
     ficha.showModal();
     if (ficha.tag() == u"SI")
         mostrar();
+}
+
+/// The sentences are those of the record as it is kept.
+void panResPerinat::imprimir()
+{
+    printing::Choice impresora;
+    if (!printing::defaultChoice(impresora))
+        return;
+    informes::Papel papel(impresora, windowTitle());
+    papel.escribir(windowTitle(), 14, true);
+    for (const auto &[titulo, lineas] : {std::pair{u"Lo que dice la ficha"_s, List3.lines()},
+                                         {u"Patologías perinatales"_s, patologias_.lineas()},
+                                         {u"Diagnósticos del recien nacido"_s, diagnosticos_.lineas()}}) {
+        papel.escribir(u'\n' + titulo, 11, true);
+        papel.escribir(lineas.isEmpty() ? u"-"_s : lineas.join(u'\n'), 10);
+    }
+    papel.terminar();
 }
 
 #include "moc_panResPerinat.cpp"

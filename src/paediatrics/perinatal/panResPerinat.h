@@ -23,6 +23,7 @@ private:
     void mostrar();
     void guardar();
     void abrirFicha();
+    void imprimir();
 
     qint64 paciente_ = 0;
     perinatal::Campos campos_{QStringLiteral("Perinatal")};
@@ -40,4 +41,6 @@ private:
                                   QStringLiteral("cancelar")};
     forms::CommandButton Command3{QStringLiteral("Command3"), QStringLiteral("&Ficha completa..."),
                                   QStringLiteral("abrir")};
+    forms::CommandButton Command4{QStringLiteral("Command4"), QStringLiteral("&Imprimir"),
+                                  QStringLiteral("imprimir")};
 };

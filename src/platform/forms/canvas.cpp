@@ -194,6 +194,7 @@ void Canvas::paint(QPainter &painter, const QRectF &target)
     painter.save();
     painter.translate(target.topLeft());
     painter.scale(target.width() / sizeTwips().width(), target.height() / sizeTwips().height());
+    painter.setClipRect(sceneRect(), Qt::IntersectClip); // what lies beyond the canvas is not in sight either
     background_.paint(painter, sceneRect());
     for (CanvasItem *item : all()) {
         if (!item->isVisible())
