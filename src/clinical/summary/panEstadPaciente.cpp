@@ -164,7 +164,7 @@ void panEstadPaciente::llenar()
     });
     mostrarSemaforos();
     paso([this] { mostrarVacunas(); });
-    RT1.setPlainText(clinical::historiaComoTexto(numero(), false));
+    lector_.mostrar(numero(), clinical::historiaComoTexto(numero(), false));
 }
 
 void panEstadPaciente::mostrarFoto()
@@ -216,6 +216,25 @@ void panEstadPaciente::mostrarPaciente()
                       u" // Semanas de Vida:"_s +
                       basic::format(static_cast<double>(edad.diasDeVida) / 7, u"##,##0.0"));
     mostrarMadreOConyuge(*fila);
+    if (!nacimiento.isNull())
+        mostrarMedidas(nacimiento.date());
+}
+
+void panEstadPaciente::mostrarMedidas(const basic::Date &nacimiento)
+{
+    if (!ports::ultimasMedidas)
+        return;
+    const auto ultimas = ports::ultimasMedidas(numero(), persona_.sexo, nacimiento);
+    for (auto &[i, rotulo] : lblMedida) {
+        const ports::MedidaEnPalabras &medida = ultimas.at(static_cast<std::size_t>(i));
+        rotulo->setCaption(medida.valor.isEmpty()   ? u"No registrado"_s
+                           : medida.lugar.isEmpty() ? medida.valor
+                                                    : medida.valor + u" · "_s + medida.lugar);
+        rotulo->setEnabled(!medida.valor.isEmpty());
+        rotulo->setToolTip(medida.valor.isEmpty()
+                               ? QString()
+                               : u"Medido el "_s + basic::format(medida.fecha, u"dd/mm/yyyy"));
+    }
 }
 
 void panEstadPaciente::mostrarMadreOConyuge(dao::Recordset &paciente)
@@ -357,9 +376,10 @@ void panEstadPaciente::traerAlFrente(const Especialidad &especialidad)
 {
     lblEspec.setCaption(QString::fromUtf8(especialidad.nombre));
     for (const auto &[indice, panel] :
-         panelDe_) // the page in front takes its own height, not the highest one's
-        panel->setSizePolicy(QSizePolicy::Preferred,
-                             indice == especialidad.panel ? QSizePolicy::Preferred : QSizePolicy::Ignored);
+         panelDe_) { // the one in front takes its own room, not the largest one's
+        const auto politica = indice == especialidad.panel ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+        panel->setSizePolicy(politica, politica);
+    }
     paneles_.setCurrentWidget(panelDe_.at(especialidad.panel));
     for (auto &[i, icono] : icoesp)
         icono->setChecked(i == especialidad.icono);
