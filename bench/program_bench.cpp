@@ -7,6 +7,7 @@
 #include "measure.h"
 #include "prescriptions.h"
 #include "subsystems.h"
+#include "summary.h"
 #include "visits.h"
 
 #include "clinical/patients/panSelPaciente.h"
@@ -63,6 +64,7 @@ void measure()
     bench::visits(report);
     bench::prescriptions(report);
     bench::laboratory(report);
+    bench::summary(report);
     window.hide();
 }
 
