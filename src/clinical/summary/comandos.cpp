@@ -55,10 +55,14 @@ constexpr Comando todos[] = {
 };
 
 constexpr Especialidad especialidades[] = {
-    {"Pediatría", 0, 0, "pediatria"},     {"Alergia", 1, 1, "alergia"},
-    {"Oftalmología", 2, 2, "oftalmologia"}, {"Cardiología", 3, 3, "cardiologia"},
-    {"Obstetricia", 4, 6, "obstetricia"}, {"Odontología", 5, 5, "odontologia"},
-    {"Ginecología", 6, 6, "ginecologia"}, {"Neonatología", 7, 0, "neonatologia"},
+    {"Pediatría", 0, 0, "pediatria", "Pediatría"},
+    {"Alergia", 1, 1, "alergia"},
+    {"Oftalmología", 2, 2, "oftalmologia", "Oftalmología"},
+    {"Cardiología", 3, 3, "cardiologia", "Cardiología"},
+    {"Obstetricia", 4, 6, "obstetricia", "Ginecología y Obstetricia"},
+    {"Odontología", 5, 5, "odontologia"},
+    {"Ginecología", 6, 6, "ginecologia", "Ginecología y Obstetricia"},
+    {"Neonatología", 7, 0, "neonatologia", "Pediatría"},
 };
 // clang-format on
 

@@ -26,6 +26,8 @@
 #include "platform/settings/settings.h"
 
 #include <QEvent>
+#include <QIcon>
+#include <QMenu>
 #include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
@@ -87,10 +89,11 @@ void panEstadPaciente::conectar()
     connect(&Command14, &QPushButton::clicked, this, &panEstadPaciente::recetar);
     connect(&cmdSalir, &QPushButton::clicked, this, &panEstadPaciente::unload);
     connect(&Label61, &Label::clicked, this, &panEstadPaciente::elegirAntitetanica);
-    connect(&imgFoto, &Label::clicked, this, [this] {
-        if (numero() != 0 && clinical::cambiaFoto(ruta(numero()), mayorLadoGuardado))
-            mostrarFoto();
-    });
+    for (Label *lugar : {&imgFoto, &Image4, &Label63})
+        connect(lugar, &Label::clicked, this, [this] {
+            if (numero() != 0 && clinical::cambiaFoto(ruta(numero()), mayorLadoGuardado))
+                mostrarFoto();
+        });
     connect(&List2, &QListWidget::itemClicked, this,
             [](QListWidgetItem *renglon) { renglon->setToolTip(renglon->text()); });
     connect(&Command3, &QPushButton::clicked, this, [this] {
@@ -116,6 +119,7 @@ void panEstadPaciente::load()
 
 void panEstadPaciente::activate()
 {
+    ofrecerInformes();
     llenar();
 }
 
@@ -171,7 +175,7 @@ void panEstadPaciente::mostrarFoto()
 {
     const QPixmap foto(ruta(numero()));
     if (foto.isNull())
-        imgFoto.setText(u"click p/obtener"_s);
+        imgFoto.setPixmap(QIcon(u":/icons/paciente.svg"_s).pixmap(resumen::ladoDeLaFoto / 2));
     else
         imgFoto.setPixmap(foto.scaled(resumen::ladoDeLaFoto, Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }
@@ -385,9 +389,19 @@ void panEstadPaciente::traerAlFrente(const Especialidad &especialidad)
         icono->setChecked(i == especialidad.icono);
 }
 
+/// The special reports of a speciality are in its menu of the main window.
+void panEstadPaciente::ofrecerInformes()
+{
+    const QString nombre = QString::fromUtf8(clinical::especialidadDe(lblEspec.caption()).menu);
+    auto *menu = nombre.isEmpty() ? nullptr : window()->findChild<QMenu *>(nombre);
+    boton("Command4").setMenu(menu);
+    boton("Command4").setEnabled(menu);
+}
+
 void panEstadPaciente::elegirEspecialidad(const Especialidad &especialidad)
 {
     traerAlFrente(especialidad);
+    ofrecerInformes();
     settings::saveSetting(seccion, clave, lblEspec.caption());
     if (!services::numeroDePaciente(tag()))
         return;
@@ -511,10 +525,12 @@ void panEstadPaciente::guardarNota()
     const QString nota = Text14.toPlainText();
     if (numero() == 0 || nota == notaGuardada_)
         return;
-    if (auto fila = services::paciente(numero())) {
+    auto fila = services::paciente(numero());
+    notaGuardada_ = nota; // told once, not at every click
+    if (fila)
         fila->edit([&] { (*fila)[u"ayuda memoria"] = nota; });
-        notaGuardada_ = nota;
-    }
+    else
+        MODULE11::MuestraError(u"Paciente no encontrado!"_s);
 }
 
 void panEstadPaciente::elegirAntitetanica()

@@ -67,6 +67,7 @@ private:
     // what a person does
     void elegirEspecialidad(const clinical::Especialidad &especialidad);
     void traerAlFrente(const clinical::Especialidad &especialidad);
+    void ofrecerInformes();
     void abrirComando(const clinical::Comando &comando);
     void marcarAlarma(const clinical::Comando &comando);
     void nuevaConsulta();
@@ -89,6 +90,8 @@ private:
     forms::DBGrid DBGrid1{QStringLiteral("DBGrid1")};
     forms::Frame Frame1{QStringLiteral("Frame1"), QStringLiteral("HC - Datos Personales")};
     forms::Label imgFoto{QStringLiteral("imgFoto")};
+    forms::Label Image4{QStringLiteral("Image4")};
+    forms::Label Label63{QStringLiteral("Label63"), QStringLiteral("click p/obtener")};
     forms::Label Label7{QStringLiteral("Label7"), QStringLiteral("Edad :")};
     forms::Label Label12{QStringLiteral("Label12"), QStringLiteral("Madre del paciente:")};
     forms::Label Label61{QStringLiteral("Label61"), QStringLiteral("<Click>")};

@@ -4,6 +4,7 @@
 #include "core/session/screens.h"
 #include "platform/forms/colour.h"
 
+#include <QIcon>
 #include <QLayout>
 
 using namespace Qt::StringLiterals;
@@ -29,10 +30,12 @@ void panEstadPaciente::agregarIdentidad()
     datos_["Text10"]->setWordWrap(true);
     imgFoto.setFixedSize(resumen::ladoDeLaFoto);
     imgFoto.setAlignment(Qt::AlignCenter);
-    imgFoto.setWordWrap(true);
     imgFoto.setFrameShape(QFrame::StyledPanel);
-    imgFoto.setCursor(Qt::PointingHandCursor);
-    imgFoto.setToolTip(u"click p/obtener"_s);
+    Image4.setPixmap(QIcon(u":/icons/agregar.svg"_s).pixmap(14, 14));
+    for (Label *lugar : {&imgFoto, &Image4, &Label63}) {
+        lugar->setCursor(Qt::PointingHandCursor);
+        lugar->setToolTip(u"La foto del paciente, de un archivo"_s);
+    }
     Label61.setCursor(Qt::PointingHandCursor);
     Text14.setFixedHeight(Text14.fontMetrics().height() * 5 / 2);
     for (int i = 0; i < resumen::medidas; ++i)
@@ -181,14 +184,14 @@ Item panEstadPaciente::identidad()
     const auto edad = [this](const char *control, const QString &unidad) {
         return Row{*datos_.at(control), new QLabel(unidad)};
     };
-    return Group(Frame1,
-                 Column{Row{imgFoto, Expanding(Column{*datos_.at("Text10"),
-                                                      Row{Fields{{u"Sexo :"_s, *datos_.at("Text12")}},
-                                                          Fields{{u"Grupo :"_s, *datos_.at("Text13")}}},
-                                                      Row{Command_525, Stretch()}})},
-                        Row{Label7, edad("Text7", u"años."_s), edad("Text8", u"meses."_s),
-                            edad("Text9", u"días."_s), Stretch()},
-                        Fields(filas), Text14});
+    return Group(Frame1, Column{Row{Column{imgFoto, Row{Image4, Label63}},
+                                    Expanding(Column{*datos_.at("Text10"),
+                                                     Row{Fields{{u"Sexo :"_s, *datos_.at("Text12")}},
+                                                         Fields{{u"Grupo :"_s, *datos_.at("Text13")}}},
+                                                     Row{Command_525, Stretch()}})},
+                                Row{Label7, edad("Text7", u"años."_s), edad("Text8", u"meses."_s),
+                                    edad("Text9", u"días."_s), Stretch()},
+                                Fields(filas), Text14});
 }
 
 Item panEstadPaciente::medidas()
