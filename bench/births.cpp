@@ -73,8 +73,9 @@ void births(const Report &report)
         std::cout << "skipped: births, no patient without a birth record\n";
         return;
     }
-    const QString medidas = u"from Medidas where Paciente = %1 and fecha in (Select [Fecha de Nacimiento] from "
-                            "Pacientes where Numero = %1)"_s.arg(patient);
+    const QString medidas =
+        u"from Medidas where Paciente = %1 and fecha in (Select [Fecha de Nacimiento] from "
+        "Pacientes where Numero = %1)"_s.arg(patient);
     const bool measured = BaseDatos.openRecordset(u"Select count(*) "_s + medidas)[0].integer() > 0;
     for (int i = 0; i < 3; ++i)
         record(patient, report);

@@ -8,6 +8,7 @@
 #include "measure.h"
 #include "prescriptions.h"
 #include "subsystems.h"
+#include "summary.h"
 #include "visits.h"
 
 #include "clinical/patients/panSelPaciente.h"
@@ -65,6 +66,7 @@ void measure()
     bench::prescriptions(report);
     bench::laboratory(report);
     bench::births(report);
+    bench::summary(report);
     window.hide();
 }
 

@@ -35,7 +35,7 @@ protected:
     static reports::Report report(const QString &file, const QString &formula)
     {
         return {reports::readReportFile(QStringLiteral(REPORT_FILES "/") + file), MODULE11::BaseDatos,
-                formula, informes::datosDeLaSesion()};
+                formula, informes::datosDeLaSesion({{u"historia"_s, u"Asma <leve>"_s}})};
     }
 
     static QString textOf(reports::Report report)
@@ -63,6 +63,7 @@ std::map<QString, Expected> files()
         {u"eventos.rpt"_s, {u"{Eventos.Usuario} = 'D''Angelo'"_s, u"IngresarATurnos\tINGRESO CORRECTO"_s}},
         {u"fichap1.rpt"_s, {QString(), u"Institución, ambiente quirúrgico"_s}},
         {u"fichap2.rpt"_s, {QString(), u"Latidos cardíacos"_s}},
+        {u"historia.rpt"_s, {u"{Pacientes.Numero} = 1"_s, u"Asma <leve>"_s}},
         {u"pacientes.rpt"_s, {seleccion::dePacientes(1), u"Total de pacientes: 1"_s}},
         {u"patologia.rpt"_s, {seleccion::dePatologia(march, u"Crup d'emblée"_s), u"Crup d'emblée"_s}},
         {u"profesionales.rpt"_s, {QString(), u"Dra. O'Higgins"_s}},

@@ -56,13 +56,20 @@ Result readRecord(const QString &file)
     return {numbers[0].toInt(), numbers[1].toInt(), numbers[2].trimmed().toInt()};
 }
 
-/// The screen of a desk, for the platform plugin that shows nothing.
+/// The screen of a desk, for the platform plugin that shows nothing. With QT_SCALE_FACTOR it is one of as
+/// many dots more, so that the pictures show the same desk finer.
 QString screen(const QDir &root)
 {
+    bool scaled = false;
+    const double factor = qEnvironmentVariable("QT_SCALE_FACTOR").toDouble(&scaled);
+    const auto dots = [&](int size) { return QString::number(qRound(scaled ? size * factor : size)); };
     QFile file(root.filePath(QStringLiteral("pantalla.json")));
     if (file.open(QIODevice::WriteOnly))
-        file.write(R"({"screens": [{"name": "escritorio", "x": 0, "y": 0, "width": 1366, "height": 768,
-                       "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+        file.write(
+            QStringLiteral(R"({"screens": [{"name": "escritorio", "x": 0, "y": 0, "width": %1, "height": %2,
+                                      "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
+                .arg(dots(1366), dots(768))
+                .toUtf8());
     return QStringLiteral("offscreen:configfile=") + file.fileName();
 }
 

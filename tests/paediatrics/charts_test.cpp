@@ -1,4 +1,6 @@
 #include "paediatrics/charts/chartcatalogue.h"
+#include "paediatrics/charts/marcadores.h"
+#include "paediatrics/charts/palabras.h"
 
 #include <gtest/gtest.h>
 
@@ -197,4 +199,26 @@ TEST(ChartPictures, curvesOfTheWhoChartsLieWhereMeasuresAreDrawn)
         const Picture picture("oms/" + chart.picture.toString() + ".jpg", charts::whoPictureBox);
         EXPECT_GT(compare(picture, chart.frame, five, rows), 40);
     }
+}
+
+TEST(ChartLegend, aPersonReadsTheTipAndTheComment)
+{
+    charts::CapaDeMarcadores layer(nullptr, QPointF(0, 0));
+    layer.poner(QPointF(1500, 1500), QStringLiteral("14/03/2024: 72,5 Cm. "), QStringLiteral("P40"));
+    EXPECT_EQ(layer.drawnItems().front().toolTip, QStringLiteral("14/03/2024: 72,5 Cm. "));
+    EXPECT_EQ(layer.leyendaEn(QPointF(100, 100)), QStringLiteral("14/03/2024: 72,5 Cm. \nP40"));
+    EXPECT_EQ(layer.leyendaEn(QPointF(10, 10)), QString());
+}
+
+TEST(ChartLegend, eachMeasureIsReadInItsOwnReference)
+{
+    const charts::Toma oneYear{365, 9646, 75.7, 46.1};
+    EXPECT_TRUE(
+        charts::enPalabras(Measure::Peso, charts::Sex::Boys, oneYear).startsWith(QStringLiteral("P50")));
+    EXPECT_TRUE(
+        charts::enPalabras(Measure::Talla, charts::Sex::Boys, oneYear).contains(QStringLiteral("adecuada")));
+    EXPECT_TRUE(charts::enPalabras(Measure::PesoParaTalla, charts::Sex::Boys, oneYear)
+                    .endsWith(QStringLiteral("talla")));
+    EXPECT_NE(charts::enPalabras(Measure::Peso, charts::Sex::Girls, oneYear),
+              charts::enPalabras(Measure::Peso, charts::Sex::Boys, oneYear));
 }

@@ -1,5 +1,6 @@
 #include "paediatrics/anthropometry/referencia.h"
 
+#include "paediatrics/anthropometry/edadCorregida.h"
 #include "paediatrics/anthropometry/imcNormal.h"
 #include "paediatrics/anthropometry/tablaLms.h"
 
@@ -86,6 +87,26 @@ TEST(Referencia, inWords)
     EXPECT_EQ(enPalabras(Medida::Talla, u"Varon", 731, 80), u"P1, z -2,3, baja para la edad"_s);
     EXPECT_EQ(enPalabras(Medida::PerimetroCefalico, u"Mujer", 0, 38),
               u"P>99,9, z +3,5, muy grande para la edad"_s);
+}
+
+TEST(Referencia, weightForHeightByHowItWasTaken)
+{
+    // The medians of 80 cm: lying to the 730th day, standing after.
+    const double acostado = TablaLms::de(u"oms_peso_longitud", u"Varon")->en(80)->m;
+    const double parado = TablaLms::de(u"oms_peso_talla", u"Varon")->en(80)->m;
+    ASSERT_GT(parado, acostado);
+    EXPECT_EQ(pesoParaTallaEnPalabras(u"Varon", 730, 80, acostado), u"P50, z 0,0, adecuado para la talla"_s);
+    EXPECT_EQ(pesoParaTallaEnPalabras(u"Varon", 731, 80, parado), u"P50, z 0,0, adecuado para la talla"_s);
+    EXPECT_EQ(pesoParaTallaEnPalabras(u"Varon", 731, 64, parado), QString());
+    EXPECT_EQ(pesoParaTallaEnPalabras(u"Varon", 1900, 100, parado), QString());
+}
+
+TEST(Referencia, ageOfThePretermIsCorrectedUntilTwoYears)
+{
+    EXPECT_EQ(edadCorregida(100, 56), 44);
+    EXPECT_EQ(edadCorregida(0, 56), -56);
+    EXPECT_EQ(edadCorregida(729, 56), 673);
+    EXPECT_EQ(edadCorregida(730, 56), 730);
 }
 
 TEST(Referencia, whereNothingIsPublishedNothingIsSaid)

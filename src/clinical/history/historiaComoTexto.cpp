@@ -351,9 +351,26 @@ std::vector<Suceso> sucesosDe(const Fuente &fuente, qint64 numero, const Conteni
     return sucesos;
 }
 
+/// A page that is woken without news finds the table as it left it.
+bool yaEstanEnLaTabla(const std::vector<Suceso> &sucesos)
+{
+    Recordset fila = MODULE11::BaseDatos.openRecordset(
+        u"Select Fecha, Hora, Detalles from TablaTempHC where Dr = "_s + dao::quoted(MODULE11::DrActual),
+        Recordset::Kind::Snapshot);
+    for (const Suceso &suceso : sucesos) {
+        if (fila.eof() || fila[u"Fecha"].value() != suceso.fecha || fila[u"Hora"].value() != suceso.hora ||
+            fila[u"Detalles"].text() != suceso.detalles)
+            return false;
+        fila.moveNext();
+    }
+    return fila.eof();
+}
+
 /// The rows of other professionals stay as they are.
 void dejarEnLaTabla(const std::vector<Suceso> &sucesos)
 {
+    if (yaEstanEnLaTabla(sucesos))
+        return;
     dao::Batch juntos(MODULE11::BaseDatos);
     MODULE11::BaseDatos.execute(u"Delete * from TablaTempHC where Dr = "_s + dao::quoted(MODULE11::DrActual));
     Recordset tabla = MODULE11::BaseDatos.openRecordset(u"TablaTempHC"_s);

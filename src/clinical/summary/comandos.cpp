@@ -43,22 +43,26 @@ constexpr Comando todos[] = {
     {"Label93", "Prueba de esfuerzo...", Lugar::Cardiologia, "panComplem", "", "", false, "Picture13", "Prueba de esfuerzo"},
     {"Label97", "Coronariografia...", Lugar::Cardiologia, "panComplem", "", "", false, "Picture11", "CoronarioGrafia"},
     {"Label98", "Perfusión Miocárdica", Lugar::Cardiologia, "panComplem", "", "", false, "Picture15", "Perfusión Miocárdica"},
-    {"label36", "Laboratorio", Lugar::Barra, "panAnalisis", "IngresarALaboratorio", "", true, "Picture22", "Laboratorio"},
-    {"label53", "Otros estudios", Lugar::Barra, "panEstudios", "IngresarAEstudios", "", true, "Picture23", "Estudios Complementarios"},
-    {"label39", "Antropometría", Lugar::Barra, "panCrecimiento", "", "", false, "Picture16", "Antropometria"},
-    {"sscommand1", "Tensión Arterial", Lugar::Barra, "panTension", "", "Percentilación de la tensión arterial de ", false, "Picture24", "ElectroCardioGrama"},
-    {"sscommand5", "Control de salud...", Lugar::Barra, "panControlSano"},
-    {"label58", "Apuntes multimedia", Lugar::Barra, "panEHC", "", "", true},
+    {"label36", "Laboratorio", Lugar::Seguimiento, "panAnalisis", "IngresarALaboratorio", "", true, "Picture22", "Laboratorio"},
+    {"label53", "Otros estudios", Lugar::Seguimiento, "panEstudios", "IngresarAEstudios", "", true, "Picture23", "Estudios Complementarios"},
+    {"label39", "Antropometría", Lugar::Seguimiento, "panCrecimiento", "", "", false, "Picture16", "Antropometria"},
+    {"sscommand1", "Tensión Arterial", Lugar::Seguimiento, "panTension", "", "Percentilación de la tensión arterial de ", false, "Picture24", "ElectroCardioGrama"},
+    {"sscommand5", "Control de salud...", Lugar::Seguimiento, "panControlSano"},
+    {"label58", "Apuntes multimedia", Lugar::Seguimiento, "panEHC", "", "", true},
     {"Command4", "Informes especiales", Lugar::Barra, ""},
     {"Command55", "Vademecum", Lugar::Barra, "panTratamientos"},
     {"Command_5", "Recursos de post-consulta", Lugar::Barra, "panAlgorritmos", "IngresarABibliotecaRecursos"},
 };
 
 constexpr Especialidad especialidades[] = {
-    {"Pediatría", 0, 0},     {"Alergia", 1, 1},
-    {"Oftalmología", 2, 2},       {"Cardiología", 3, 3},
-    {"Obstetricia", 4, 6},    {"Odontología", 5, 5},
-    {"Ginecología", 6, 6},    {"Neonatología", 7, 0},
+    {"Pediatría", 0, 0, "pediatria", "Pediatría"},
+    {"Alergia", 1, 1, "alergia"},
+    {"Oftalmología", 2, 2, "oftalmologia", "Oftalmología"},
+    {"Cardiología", 3, 3, "cardiologia", "Cardiología"},
+    {"Obstetricia", 4, 6, "obstetricia", "Ginecología y Obstetricia"},
+    {"Odontología", 5, 5, "odontologia"},
+    {"Ginecología", 6, 6, "ginecologia", "Ginecología y Obstetricia"},
+    {"Neonatología", 7, 0, "neonatologia", "Pediatría"},
 };
 // clang-format on
 

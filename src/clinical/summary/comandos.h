@@ -8,8 +8,18 @@
 namespace clinical
 {
 
-/// Where a command of the patient's page stands: on the panel of a speciality, or on the bar of all.
-enum class Lugar { Pediatria, Alergia, Oftalmologia, Cardiologia, Odontologia, Ginecologia, Barra };
+/// Where a command of the patient's page stands: on the panel of a speciality, among what follows the patient
+/// in all of them, or on the bar.
+enum class Lugar {
+    Pediatria,
+    Alergia,
+    Oftalmologia,
+    Cardiologia,
+    Odontologia,
+    Ginecologia,
+    Seguimiento,
+    Barra
+};
 
 /// A command of the page that opens a window of the patient; one whose window is not there is disabled. The
 /// alarm is the icon beside it that a person colours; two commands of one alarm show the same mark.
@@ -29,6 +39,8 @@ std::span<const Comando> comandos();
 struct Especialidad {
     const char *nombre;
     int icono, panel;
+    const char *dibujo;
+    const char *menu = ""; ///< of the main window, that its special reports open; empty for none
 };
 std::span<const Especialidad> especialidadesDelResumen();
 

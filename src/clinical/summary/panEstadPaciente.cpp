@@ -26,6 +26,8 @@
 #include "platform/settings/settings.h"
 
 #include <QEvent>
+#include <QIcon>
+#include <QMenu>
 #include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
@@ -87,10 +89,11 @@ void panEstadPaciente::conectar()
     connect(&Command14, &QPushButton::clicked, this, &panEstadPaciente::recetar);
     connect(&cmdSalir, &QPushButton::clicked, this, &panEstadPaciente::unload);
     connect(&Label61, &Label::clicked, this, &panEstadPaciente::elegirAntitetanica);
-    connect(&imgFoto, &Label::clicked, this, [this] {
-        if (numero() != 0 && clinical::cambiaFoto(ruta(numero()), mayorLadoGuardado))
-            mostrarFoto();
-    });
+    for (Label *lugar : {&imgFoto, &Image4, &Label63})
+        connect(lugar, &Label::clicked, this, [this] {
+            if (numero() != 0 && clinical::cambiaFoto(ruta(numero()), mayorLadoGuardado))
+                mostrarFoto();
+        });
     connect(&List2, &QListWidget::itemClicked, this,
             [](QListWidgetItem *renglon) { renglon->setToolTip(renglon->text()); });
     connect(&Command3, &QPushButton::clicked, this, [this] {
@@ -116,6 +119,7 @@ void panEstadPaciente::load()
 
 void panEstadPaciente::activate()
 {
+    ofrecerInformes();
     llenar();
 }
 
@@ -164,14 +168,14 @@ void panEstadPaciente::llenar()
     });
     mostrarSemaforos();
     paso([this] { mostrarVacunas(); });
-    RT1.setPlainText(clinical::historiaComoTexto(numero(), false));
+    lector_.mostrar(numero(), clinical::historiaComoTexto(numero(), false));
 }
 
 void panEstadPaciente::mostrarFoto()
 {
     const QPixmap foto(ruta(numero()));
     if (foto.isNull())
-        imgFoto.setText(u"click p/obtener"_s);
+        imgFoto.setPixmap(QIcon(u":/icons/paciente.svg"_s).pixmap(resumen::ladoDeLaFoto / 2));
     else
         imgFoto.setPixmap(foto.scaled(resumen::ladoDeLaFoto, Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }
@@ -216,6 +220,25 @@ void panEstadPaciente::mostrarPaciente()
                       u" // Semanas de Vida:"_s +
                       basic::format(static_cast<double>(edad.diasDeVida) / 7, u"##,##0.0"));
     mostrarMadreOConyuge(*fila);
+    if (!nacimiento.isNull())
+        mostrarMedidas(nacimiento.date());
+}
+
+void panEstadPaciente::mostrarMedidas(const basic::Date &nacimiento)
+{
+    if (!ports::ultimasMedidas)
+        return;
+    const auto ultimas = ports::ultimasMedidas(numero(), persona_.sexo, nacimiento);
+    for (auto &[i, rotulo] : lblMedida) {
+        const ports::MedidaEnPalabras &medida = ultimas.at(static_cast<std::size_t>(i));
+        rotulo->setCaption(medida.valor.isEmpty()   ? u"No registrado"_s
+                           : medida.lugar.isEmpty() ? medida.valor
+                                                    : medida.valor + u" · "_s + medida.lugar);
+        rotulo->setEnabled(!medida.valor.isEmpty());
+        rotulo->setToolTip(medida.valor.isEmpty()
+                               ? QString()
+                               : u"Medido el "_s + basic::format(medida.fecha, u"dd/mm/yyyy"));
+    }
 }
 
 void panEstadPaciente::mostrarMadreOConyuge(dao::Recordset &paciente)
@@ -357,17 +380,28 @@ void panEstadPaciente::traerAlFrente(const Especialidad &especialidad)
 {
     lblEspec.setCaption(QString::fromUtf8(especialidad.nombre));
     for (const auto &[indice, panel] :
-         panelDe_) // the page in front takes its own height, not the highest one's
-        panel->setSizePolicy(QSizePolicy::Preferred,
-                             indice == especialidad.panel ? QSizePolicy::Preferred : QSizePolicy::Ignored);
+         panelDe_) { // the one in front takes its own room, not the largest one's
+        const auto politica = indice == especialidad.panel ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+        panel->setSizePolicy(politica, politica);
+    }
     paneles_.setCurrentWidget(panelDe_.at(especialidad.panel));
     for (auto &[i, icono] : icoesp)
         icono->setChecked(i == especialidad.icono);
 }
 
+/// The special reports of a speciality are in its menu of the main window.
+void panEstadPaciente::ofrecerInformes()
+{
+    const QString nombre = QString::fromUtf8(clinical::especialidadDe(lblEspec.caption()).menu);
+    auto *menu = nombre.isEmpty() ? nullptr : window()->findChild<QMenu *>(nombre);
+    boton("Command4").setMenu(menu);
+    boton("Command4").setEnabled(menu);
+}
+
 void panEstadPaciente::elegirEspecialidad(const Especialidad &especialidad)
 {
     traerAlFrente(especialidad);
+    ofrecerInformes();
     settings::saveSetting(seccion, clave, lblEspec.caption());
     if (!services::numeroDePaciente(tag()))
         return;
@@ -491,10 +525,12 @@ void panEstadPaciente::guardarNota()
     const QString nota = Text14.toPlainText();
     if (numero() == 0 || nota == notaGuardada_)
         return;
-    if (auto fila = services::paciente(numero())) {
+    auto fila = services::paciente(numero());
+    notaGuardada_ = nota; // told once, not at every click
+    if (fila)
         fila->edit([&] { (*fila)[u"ayuda memoria"] = nota; });
-        notaGuardada_ = nota;
-    }
+    else
+        MODULE11::MuestraError(u"Paciente no encontrado!"_s);
 }
 
 void panEstadPaciente::elegirAntitetanica()

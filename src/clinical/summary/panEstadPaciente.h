@@ -1,5 +1,6 @@
 #pragma once
 
+#include "clinical/history/lectorDeHistoria.h"
 #include "clinical/summary/comandos.h"
 #include "clinical/summary/panelGineco.h"
 #include "platform/forms/controlarray.h"
@@ -7,6 +8,7 @@
 #include "platform/forms/dbgrid.h"
 #include "platform/forms/form.h"
 #include "platform/forms/layout.h"
+#include "platform/forms/toolbarbutton.h"
 
 #include <QStackedWidget>
 
@@ -36,12 +38,14 @@ private:
     void disponer();
     void conectar();
     forms::Item identidad();
+    forms::Item medidas();
     forms::Item registroDeConsultas();
     forms::Item antecedentes();
     forms::Item especialidades();
     forms::Item panel(int indice);
     std::vector<forms::Item> comandosDe(clinical::Lugar lugar);
-    std::pair<forms::Item, forms::Item> barra();
+    forms::Item seguimiento();
+    forms::Item barra();
 
     // what is read
     void llenar();
@@ -52,6 +56,7 @@ private:
     void mostrarMadreOConyuge(dao::Recordset &paciente);
     void habilitarPorEdad();
     void asegurarPerinatal();
+    void mostrarMedidas(const basic::Date &nacimiento);
     void mostrarAntecedentes();
     void mostrarSemaforos();
     void mostrarVacunas();
@@ -62,6 +67,7 @@ private:
     // what a person does
     void elegirEspecialidad(const clinical::Especialidad &especialidad);
     void traerAlFrente(const clinical::Especialidad &especialidad);
+    void ofrecerInformes();
     void abrirComando(const clinical::Comando &comando);
     void marcarAlarma(const clinical::Comando &comando);
     void nuevaConsulta();
@@ -84,6 +90,8 @@ private:
     forms::DBGrid DBGrid1{QStringLiteral("DBGrid1")};
     forms::Frame Frame1{QStringLiteral("Frame1"), QStringLiteral("HC - Datos Personales")};
     forms::Label imgFoto{QStringLiteral("imgFoto")};
+    forms::Label Image4{QStringLiteral("Image4")};
+    forms::Label Label63{QStringLiteral("Label63"), QStringLiteral("click p/obtener")};
     forms::Label Label7{QStringLiteral("Label7"), QStringLiteral("Edad :")};
     forms::Label Label12{QStringLiteral("Label12"), QStringLiteral("Madre del paciente:")};
     forms::Label Label61{QStringLiteral("Label61"), QStringLiteral("<Click>")};
@@ -92,16 +100,17 @@ private:
     forms::TextBox Text1{QStringLiteral("Text1")};
     forms::TextBox Text21{QStringLiteral("Text21")};
     forms::MemoBox Text14{QStringLiteral("Text14")};
-    forms::MemoBox RT1{QStringLiteral("RT1")};
     forms::MemoBox mConRP{QStringLiteral("mConRP")};
     forms::CheckBox Check2{QStringLiteral("Check2"),
                            QStringLiteral("Mostrar solo registros de la &especialidad")};
     forms::ControlArray<forms::CheckBox> Check1{QStringLiteral("Check1")};
     forms::ControlArray<forms::Label> Labelff{QStringLiteral("Labelff")};
+    forms::ControlArray<forms::Label> lblMedida{QStringLiteral("lblMedida")};
     forms::Label lblLectura{QStringLiteral("lblLectura")};
+    LectorDeHistoria lector_;
     forms::ListBox List2{QStringLiteral("List2")}, List3{QStringLiteral("List3")},
         List7{QStringLiteral("List7")}, List8{QStringLiteral("List8")};
-    forms::ControlArray<forms::CommandButton> icoesp{QStringLiteral("icoesp")};
+    forms::ControlArray<forms::ToolbarButton> icoesp{QStringLiteral("icoesp")};
     forms::CommandButton label6{QStringLiteral("label6"), QStringLiteral("&Nueva..."),
                                 QStringLiteral("nuevo")};
     forms::CommandButton label15{QStringLiteral("label15"), QStringLiteral("&Abrir..."),

@@ -4,6 +4,9 @@
 #include "core/session/screens.h"
 #include "platform/forms/colour.h"
 
+#include <QIcon>
+#include <QLayout>
+
 using namespace Qt::StringLiterals;
 using namespace forms;
 using clinical::Comando;
@@ -28,16 +31,20 @@ void panEstadPaciente::agregarIdentidad()
     imgFoto.setFixedSize(resumen::ladoDeLaFoto);
     imgFoto.setAlignment(Qt::AlignCenter);
     imgFoto.setFrameShape(QFrame::StyledPanel);
-    imgFoto.setCursor(Qt::PointingHandCursor);
-    imgFoto.setToolTip(u"click p/obtener"_s);
+    Image4.setPixmap(QIcon(u":/icons/agregar.svg"_s).pixmap(14, 14));
+    for (Label *lugar : {&imgFoto, &Image4, &Label63}) {
+        lugar->setCursor(Qt::PointingHandCursor);
+        lugar->setToolTip(u"La foto del paciente, de un archivo"_s);
+    }
     Label61.setCursor(Qt::PointingHandCursor);
-    Text14.setFixedHeight(Text14.fontMetrics().height() * 3);
+    Text14.setFixedHeight(Text14.fontMetrics().height() * 5 / 2);
+    for (int i = 0; i < resumen::medidas; ++i)
+        lblMedida.add(i).setWordWrap(true);
     Text1.setReadOnly(true);
     Text21.setReadOnly(true);
     Text1.setMaximumWidth(60);
     Text21.setMaximumWidth(60);
     Text14.installEventFilter(this);
-    RT1.setReadOnly(true);
     mConRP.setReadOnly(true);
 }
 
@@ -78,11 +85,13 @@ void panEstadPaciente::agregarSemaforos()
 void panEstadPaciente::agregarEspecialidades()
 {
     for (const Especialidad &especialidad : clinical::especialidadesDelResumen()) {
-        CommandButton &icono = icoesp.add(especialidad.icono, QString::fromUtf8(especialidad.nombre));
+        ToolbarButton &icono = icoesp.add(especialidad.icono, QString::fromUtf8(especialidad.nombre),
+                                          QString::fromLatin1(especialidad.dibujo));
         icono.setCheckable(true);
-        icono.setAutoDefault(false);
+        icono.setIconSize({22, 22});
+        icono.setMinimumWidth(0);
         forms::setTag(&icono, QString::fromUtf8(especialidad.nombre));
-        connect(&icono, &QPushButton::clicked, this,
+        connect(&icono, &QToolButton::clicked, this,
                 [this, &especialidad] { elegirEspecialidad(especialidad); });
     }
     for (int i = 0; i < resumen::casillasDeVacunas; ++i) {
@@ -121,48 +130,47 @@ Item panEstadPaciente::panel(int indice)
         std::vector<Item> vacunas;
         for (auto &[i, casilla] : Check1)
             vacunas.emplace_back(*casilla);
-        return Column{Grid(3, comandosDe(Lugar::Pediatria)), Grid(5, vacunas)};
+        return Column{Grid(2, comandosDe(Lugar::Pediatria)), Grid(4, vacunas)};
     }
     case 1:
-        return Column{Grid(3, comandosDe(Lugar::Alergia)), Stretch()};
+        return Column{Grid(2, comandosDe(Lugar::Alergia)), Stretch()};
     case 2:
-        return Column{Grid(3, comandosDe(Lugar::Oftalmologia)),
-                      Row{Group(u"Agudeza Visual"_s, Fields{{u"O.D. c/c :"_s, Labelff(0)},
-                                                            {u"O.I. c/c :"_s, Labelff(1)},
-                                                            {u"O.D. s/c :"_s, Labelff(2)},
-                                                            {u"O.I. s/c :"_s, Labelff(3)}}),
-                          Group(u"Anteojos Recetados"_s, Fields{{u"Cerca O.I. :"_s, Labelff(4)},
-                                                                {u"Cerca O.D. :"_s, Labelff(5)},
-                                                                {u"Lejos O.I. :"_s, Labelff(6)},
-                                                                {u"Lejos O.D. :"_s, Labelff(7)}}),
-                          Group(u"Lectura"_s, lblLectura), Expanding(Group(u"Ultima receta"_s, mConRP))}};
+        return Column{Grid(2, comandosDe(Lugar::Oftalmologia)),
+                      Row{Expanding(Group(u"Agudeza Visual"_s, Fields{{u"O.D. c/c :"_s, Labelff(0)},
+                                                                      {u"O.I. c/c :"_s, Labelff(1)},
+                                                                      {u"O.D. s/c :"_s, Labelff(2)},
+                                                                      {u"O.I. s/c :"_s, Labelff(3)}})),
+                          Expanding(Group(u"Anteojos Recetados"_s, Fields{{u"Cerca O.I. :"_s, Labelff(4)},
+                                                                          {u"Cerca O.D. :"_s, Labelff(5)},
+                                                                          {u"Lejos O.I. :"_s, Labelff(6)},
+                                                                          {u"Lejos O.D. :"_s, Labelff(7)}})),
+                          Group(u"Lectura"_s, lblLectura)},
+                      Expanding(Group(u"Ultima receta"_s, mConRP))};
     case 3:
-        return Column{Grid(3, comandosDe(Lugar::Cardiologia)), Stretch()};
+        return Column{Grid(2, comandosDe(Lugar::Cardiologia)), Stretch()};
     case 5:
-        return Column{Grid(3, comandosDe(Lugar::Odontologia)),
+        return Column{Grid(2, comandosDe(Lugar::Odontologia)),
                       Expanding(Group(u"Prácticas odontológicas realizadas :"_s, List7))};
     default:
-        return Column{Grid(3, comandosDe(Lugar::Ginecologia)),
+        return Column{Grid(2, comandosDe(Lugar::Ginecologia)),
                       Group(u"Resumen ginecológico"_s, gineco_.disposicion()), Stretch()};
     }
 }
 
 Item panEstadPaciente::especialidades()
 {
-    std::vector<Item> iconos;
-    for (auto &[i, icono] : icoesp)
-        iconos.emplace_back(*icono);
     for (const int indice : {0, 1, 2, 3, 5, 6}) {
         auto *contenido = new QWidget;
         contenido->setObjectName(u"panelEspecialidad(%1)"_s.arg(indice));
         setContents(contenido, panel(indice));
+        contenido->layout()->setContentsMargins({});
         paneles_.addWidget(contenido);
         panelDe_[indice] = contenido;
     }
     QFont destacada = lblEspec.font();
     destacada.setBold(true);
     lblEspec.setFont(destacada);
-    return Column{Grid(4, iconos), paneles_};
+    return paneles_;
 }
 
 Item panEstadPaciente::identidad()
@@ -176,14 +184,22 @@ Item panEstadPaciente::identidad()
     const auto edad = [this](const char *control, const QString &unidad) {
         return Row{*datos_.at(control), new QLabel(unidad)};
     };
-    return Group(
-        Frame1, Column{Row{imgFoto,
-                           Expanding(Column{Row{Expanding(*datos_.at("Text10")), Command_525},
-                                            Row{Label7, edad("Text7", u"años."_s), edad("Text8", u"meses."_s),
-                                                edad("Text9", u"días."_s), Stretch()},
-                                            Row{Fields{{u"Sexo :"_s, *datos_.at("Text12")}},
-                                                Fields{{u"Grupo :"_s, *datos_.at("Text13")}}, Stretch()}})},
-                       Fields(filas), Text14});
+    return Group(Frame1, Column{Row{Column{imgFoto, Row{Image4, Label63}},
+                                    Expanding(Column{*datos_.at("Text10"),
+                                                     Row{Fields{{u"Sexo :"_s, *datos_.at("Text12")}},
+                                                         Fields{{u"Grupo :"_s, *datos_.at("Text13")}}},
+                                                     Row{Command_525, Stretch()}})},
+                                Row{Label7, edad("Text7", u"años."_s), edad("Text8", u"meses."_s),
+                                    edad("Text9", u"días."_s), Stretch()},
+                                Fields(filas), Text14});
+}
+
+Item panEstadPaciente::medidas()
+{
+    return Group(u"Ultimas medidas"_s, Fields{{u"Peso :"_s, lblMedida(0)},
+                                              {u"Talla :"_s, lblMedida(1)},
+                                              {u"P.C. :"_s, lblMedida(2)},
+                                              {u"I.M.C. :"_s, lblMedida(3)}});
 }
 
 Item panEstadPaciente::antecedentes()
@@ -201,48 +217,48 @@ Item panEstadPaciente::antecedentes()
 Item panEstadPaciente::registroDeConsultas()
 {
     return Group(u"Registro de Consultas"_s,
-                 Column{Row{label6, label15, lblEspec, Stretch(), Fields{{u"Consultas totales :"_s, Text1}},
-                            Fields{{u"Registros :"_s, Text21}}},
-                        Row{barra_, Stretch(), Check2}, Expanding(DBGrid1)});
+                 Column{Row{label6, label15, Stretch(), Fields{{u"Consultas totales :"_s, Text1}}},
+                        Row{Expanding(barra_), Fields{{u"Registros :"_s, Text21}}},
+                        Row{Check2, Stretch(), lblEspec}, Expanding(DBGrid1)});
 }
 
-/// What opens from every speciality. The last row, with the button that closes, stays in sight.
-std::pair<Item, Item> panEstadPaciente::barra()
+/// What opens from every speciality: what follows the patient beside its data, the rest on the last row,
+/// which stays in sight with the button that closes.
+Item panEstadPaciente::seguimiento()
 {
-    std::vector<Item> arriba = comandosDe(Lugar::Barra);
-    const auto mitad = arriba.begin() + static_cast<std::ptrdiff_t>(arriba.size() / 2 + 1);
-    std::vector<Item> abajo(mitad, arriba.end());
-    arriba.erase(mitad, arriba.end());
-    abajo.insert(abajo.end(), {Command14, Stretch(), cmdSalir});
-    return {Row(arriba), Row(abajo)};
+    return Grid(2, comandosDe(Lugar::Seguimiento));
 }
 
+Item panEstadPaciente::barra()
+{
+    std::vector<Item> comandos = comandosDe(Lugar::Barra);
+    comandos.insert(comandos.end(), {Command14, Stretch(), cmdSalir});
+    return Row(comandos);
+}
+
+/// Three columns: who it is and how big; the speciality with its visits; the history as text and what came
+/// before.
 void panEstadPaciente::disponer()
 {
     // The page is to be seen whole: what scrolls by itself takes the room that is left, not the one it would
     // like.
-    for (const auto &[control, alto] : std::initializer_list<std::pair<QWidget *, int>>{{&List2, 40},
-                                                                                        {&List3, 40},
-                                                                                        {&List8, 40},
-                                                                                        {&List7, 60},
-                                                                                        {&DBGrid1, 84},
-                                                                                        {&RT1, 56},
-                                                                                        {&mConRP, 60}}) {
+    for (const auto &[control, alto] : std::initializer_list<std::pair<QWidget *, int>>{
+             {&List2, 40}, {&List3, 40}, {&List8, 40}, {&List7, 60}, {&DBGrid1, 70}, {&mConRP, 60}}) {
         control->setMinimumHeight(alto);
         control->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     }
     paneles_.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-    const auto [arriba, abajo] = barra();
-    setContents(
-        this, Column{
-                  Expanding(Row{
-                      Expanding(Column{identidad(), Expanding(antecedentes())}, 3),
-                      Expanding(Column{especialidades(),
-                                       Splitter(Qt::Vertical, {{registroDeConsultas(), 3}, {Item(RT1), 2}})},
-                                7),
-                  }),
-                  arriba,
-                  abajo,
-              });
+    std::vector<Item> iconos;
+    for (auto &[i, icono] : icoesp)
+        iconos.emplace_back(*icono);
+    iconos.push_back(Stretch());
+    const Item persona = Column{identidad(), medidas(), seguimiento(), Stretch()};
+    const Item visitas = Column{especialidades(), Expanding(registroDeConsultas())};
+    const Item historia = Column{Expanding(lector_, 2), Expanding(antecedentes(), 3)};
+    const Item clinica = Column{Row(iconos), Expanding(Row{Expanding(visitas, 17), Expanding(historia, 10)})};
+    setContents(this, Column{Expanding(Row{persona, Expanding(clinica)}), barra()});
+    Frame1.setMinimumWidth(resumen::anchoDeLaPersona);
+    for (QPushButton *boton : findChildren<QPushButton *>())
+        boton->setMaximumHeight(boton->fontMetrics().height() + resumen::aireDeLosBotones);
     resize(1180, 640);
 }

@@ -42,10 +42,15 @@ PanelGineco::PanelGineco()
 Item PanelGineco::disposicion()
 {
     return Row{
-        Fields{{u"F.U.M. :"_s, dtfum}, {u"Gestas :"_s, txtGestas}, {u"Paridad :"_s, txtParidad}},
-        Fields{
-            {u"Ciclos menstruales :"_s, txtCiclos}, {u"Cantidad :"_s, cboCantidad}, {u"Dolor :"_s, txtDolor}},
-        Fields{{u"M.A.C. :"_s, cbomac}, {u"P.E.T.S. :"_s, txtPets}, {u"Menarca :"_s, txtMenarca}},
+        Expanding(Fields{{u"F.U.M. :"_s, dtfum},
+                         {u"Gestas :"_s, txtGestas},
+                         {u"Paridad :"_s, txtParidad},
+                         {u"M.A.C. :"_s, cbomac},
+                         {u"P.E.T.S. :"_s, txtPets}}),
+        Expanding(Fields{{u"Ciclos menstruales :"_s, txtCiclos},
+                         {u"Cantidad :"_s, cboCantidad},
+                         {u"Dolor :"_s, txtDolor},
+                         {u"Menarca :"_s, txtMenarca}}),
     };
 }
 

@@ -11,8 +11,10 @@ namespace resumen
 {
 
 inline constexpr int verde = 65280, rojo = 255; // as the rules give a colour
-inline constexpr QSize ladoDeLaFoto(96, 96);
-inline constexpr int casillasDeVacunas = 16;
+inline constexpr QSize ladoDeLaFoto(84, 84);
+inline constexpr int casillasDeVacunas = 16, medidas = 4;
+inline constexpr int anchoDeLaPersona = 348; // a measure with its words on one line
+inline constexpr int aireDeLosBotones = 9;   // around a caption: the page has many
 
 /// A box of personal data and what it shows of the register.
 struct Dato {

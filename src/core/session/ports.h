@@ -5,9 +5,9 @@
 
 #include <QString>
 
+#include <array>
 #include <functional>
 #include <optional>
-#include <vector>
 
 /// What one subsystem asks of another with arguments and an answer. The subsystem that has it provides it at
 /// start; a port that nobody provides is false, and what would call it is disabled.
@@ -45,12 +45,15 @@ inline Port<void(std::optional<qint64> paciente)> otorgaTurno;
 inline Port<bool(qint64 paciente)> tomarMedidas;
 /// From and to what the body-mass index is normal at that age; nothing where there are no figures.
 inline Port<std::optional<std::pair<double, double>>(const QString &sexo, qint64 diasDeVida)> imcNormal;
-/// The last weight, height, head circumference and body-mass index of a patient that were taken, each with its
-/// place among children of the age in words ("P63, z +0,3, adecuado para la edad"), empty without figures.
+/// A measure ("12.200 g"; empty when it was never taken), when it was taken and its place among children of the
+/// age in words ("P63, z +0,3, adecuado para la edad"; empty where there are no figures).
 struct MedidaEnPalabras {
-    QString rotulo, valor, lugar;
+    QString valor;
+    basic::Date fecha;
+    QString lugar;
 };
-inline Port<std::vector<MedidaEnPalabras>(qint64 paciente, const QString &sexo, const basic::Date &nacimiento)>
+/// The last weight, height, head circumference and body-mass index that were taken of a patient, in that order.
+inline Port<std::array<MedidaEnPalabras, 4>(qint64 paciente, const QString &sexo, const basic::Date &nacimiento)>
     ultimasMedidas;
 /// Shows the prescription sheet of a patient with a text to begin with: the prescription to keep, without the
 /// point that ends it in the file; nothing when it was closed.

@@ -24,22 +24,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace core
-{
-
-ToolbarButton::ToolbarButton(const QString &name, const QString &caption, const QString &icon)
-{
-    setObjectName(name);
-    setText(caption);
-    setIcon(QIcon(u":/icons/%1.svg"_s.arg(icon)));
-    setIconSize({28, 28});
-    setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    setAutoRaise(true);
-    setMinimumWidth(76);
-}
-
-} // namespace core
-
 namespace
 {
 
@@ -103,7 +87,7 @@ QWidget *Vademecum::construirBarra()
     int indice = 0;
     for (const menu::Button &boton : menu::toolbar()) {
         const menu::Entry entry = menu::asEntry(boton);
-        core::ToolbarButton &control =
+        forms::ToolbarButton &control =
             Command1.add(indice++, QString::fromUtf8(boton.caption), QString::fromUtf8(boton.icon));
         control.setEnabled(menu::available(entry));
         connect(&control, &QToolButton::clicked, this, [entry] { menu::choose(entry); });

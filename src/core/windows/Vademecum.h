@@ -3,24 +3,12 @@
 #include "core/windows/menu.h"
 #include "platform/forms/controlarray.h"
 #include "platform/forms/controls.h"
+#include "platform/forms/toolbarbutton.h"
 
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QStatusBar>
 #include <QToolButton>
-
-namespace core
-{
-
-/// A button of the main window's toolbar: its picture above its caption.
-class ToolbarButton : public QToolButton
-{
-    Q_OBJECT
-public:
-    ToolbarButton(const QString &name, const QString &caption, const QString &icon);
-};
-
-} // namespace core
 
 /// The main window: the menu, the toolbar, the list "Pacientes para Hoy" and the area of the child windows.
 /// The current patient is the one of the active child.
@@ -52,7 +40,7 @@ private:
     void mostrarEstado();
 
     QWidget panel_; // before the controls in it, which must go first
-    forms::ControlArray<core::ToolbarButton> Command1{QStringLiteral("Command1")};
+    forms::ControlArray<forms::ToolbarButton> Command1{QStringLiteral("Command1")};
     QToolButton Command2;
     forms::ControlArray<forms::Label> lblPac{QStringLiteral("lblPac")};
     forms::Timer Timer1{QStringLiteral("Timer1"), 65534};

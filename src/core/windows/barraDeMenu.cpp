@@ -116,11 +116,12 @@ void build(QMenuBar &bar)
         branches.resize(static_cast<std::size_t>(entry.depth));
         Branch *parent = branches.empty() ? nullptr : &branches.back();
         const QString caption = QString::fromUtf8(entry.caption);
-        if (entry.kind == Kind::Folder)
+        if (entry.kind == Kind::Folder) {
             branches.push_back({parent ? parent->menu->addMenu(withMnemonic(caption, parent->letters))
                                        : bar.addMenu(caption),
                                 {}});
-        else if (entry.kind == Kind::Separator)
+            branches.back().menu->setObjectName(caption);
+        } else if (entry.kind == Kind::Separator)
             parent->menu->addSeparator();
         else
             addItem(*parent, entry);

@@ -8,7 +8,7 @@ namespace menu
 {
 
 /// Fills the main window's menu bar from the tree. An item that leads nowhere in this program is disabled,
-/// and a menu in which nothing can be done says why.
+/// and a menu in which nothing can be done says why. Each menu bears its caption in the tree as its name.
 void build(QMenuBar &bar);
 
 /// The caption with "&" before a letter or digit that is not in `taken`, to which it is added: the beginning

@@ -1,5 +1,6 @@
 #include "paediatrics/anthropometry/medidas.h"
 
+#include "core/services/paciente.h"
 #include "core/session/session.h"
 #include "paediatrics/anthropometry/panMedidas.h"
 #include "platform/basic/runtime.h"
@@ -22,6 +23,8 @@ double CalcularIMC(const basic::Value &peso, const basic::Value &talla)
 bool TomarMedidas(qint64 paciente)
 {
     panMedidas ventana;
+    if (auto fila = services::paciente(paciente); fila && !(*fila)[u"Fecha de Nacimiento"].isNull())
+        ventana.medirA((*fila)[u"Sexo"].text(), (*fila)[u"Fecha de Nacimiento"].date());
     ventana.showModal();
     if (ventana.tag() != u"SI")
         return false;

@@ -14,12 +14,15 @@ panMedidas::panMedidas() : Form(u"panMedidas"_s)
 {
     setWindowTitle(u"Antropometría"_s);
     medidas_ = {
-        {1, &Command3, u"Peso"_s, u"Gr."_s, u"Kg."_s, 1000},
-        {2, &Command4, u"Talla"_s, u"Cm."_s, u"Mts."_s, 100},
-        {3, &Command5, u"Pc"_s, u"Cm."_s, u"Mts."_s, 100},
+        {1, &Command3, u"Peso"_s, u"Gr."_s, u"Kg."_s, 1000, paediatrics::Medida::Peso},
+        {2, &Command4, u"Talla"_s, u"Cm."_s, u"Mts."_s, 100, paediatrics::Medida::Talla},
+        {3, &Command5, u"Pc"_s, u"Cm."_s, u"Mts."_s, 100, paediatrics::Medida::PerimetroCefalico},
     };
     for (const Medida &medida : medidas_) {
-        Text1.add(medida.indice, 12);
+        Text1.add(medida.indice, 12).setMaximumWidth(110);
+        lblLugar.add(medida.indice).setMinimumWidth(250);
+        connect(&Text1(medida.indice), &QLineEdit::textChanged, this,
+                [this, &medida] { mostrarLugar(medida); });
         medida.unidad->setFixedWidth(56);
         medida.unidad->setToolTip(u"Cambiar la unidad"_s);
         mostrarUnidad(medida, u"1"_s);
@@ -29,13 +32,17 @@ panMedidas::panMedidas() : Form(u"panMedidas"_s)
     setContents(this,
                 Column{
                     Fields{{u"&Fecha :"_s, TextF},
-                           {u"&Peso :"_s, Row{Expanding(Text1(1)), Command3}},
-                           {u"&Talla :"_s, Row{Expanding(Text1(2)), Command4}},
-                           {u"P. C&efálico :"_s, Row{Expanding(Text1(3)), Command5}}},
+                           {u"&Peso :"_s, Row{Text1(1), Command3, Expanding(lblLugar(1))}},
+                           {u"&Talla :"_s, Row{Text1(2), Command4, Expanding(lblLugar(2))}},
+                           {u"P. C&efálico :"_s, Row{Text1(3), Command5, Expanding(lblLugar(3))}}},
                     Row{Stretch(), Command1, Command2},
                 },
                 {&Command3, &Command4, &Command5});
     setMinimumWidth(360);
+    connect(&TextF, &DTPicker::dateChanged, this, [this] {
+        for (const Medida &medida : medidas_)
+            mostrarLugar(medida);
+    });
     connect(&Command1, &QPushButton::clicked, this, &panMedidas::aceptar);
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
 }
@@ -64,6 +71,21 @@ void panMedidas::mostrarUnidad(const Medida &medida, const QString &tag)
 {
     forms::setTag(medida.unidad, tag);
     medida.unidad->setText(tag == u"1" ? medida.chica : medida.grande);
+}
+
+void panMedidas::medirA(const QString &sexo, const basic::Date &nacimiento)
+{
+    sexo_ = sexo;
+    nacimiento_ = nacimiento;
+}
+
+void panMedidas::mostrarLugar(const Medida &medida)
+{
+    const auto dias = static_cast<double>(fecha().wholeDays() - nacimiento_.wholeDays());
+    lblLugar(medida.indice)
+        .setCaption(sexo_.isEmpty() ? QString()
+                                    : paediatrics::enPalabras(medida.clase, sexo_, dias,
+                                                              enUnidad(medida.indice, *medida.unidad)));
 }
 
 /// What was typed in the other unit is thrown away.

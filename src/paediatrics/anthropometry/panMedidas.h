@@ -1,5 +1,6 @@
 #pragma once
 
+#include "paediatrics/anthropometry/referencia.h"
 #include "platform/forms/controlarray.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
@@ -11,6 +12,9 @@ class panMedidas : public forms::Form
     Q_OBJECT
 public:
     panMedidas();
+
+    /// Whose measures they are: each one then says beside it where it stands for the age.
+    void medirA(const QString &sexo, const basic::Date &nacimiento);
 
     basic::Date fecha() const { return TextF.value(); }
     double peso() const { return enUnidad(1, Command3); }
@@ -28,11 +32,13 @@ private:
         QString clave;         ///< of its setting
         QString chica, grande; ///< captions of the two units
         int factor;            ///< of the large one
+        paediatrics::Medida clase;
     };
 
     double enUnidad(int indice, const forms::CommandButton &unidad) const;
     void mostrarUnidad(const Medida &medida, const QString &tag);
     void cambiarUnidad(const Medida &medida);
+    void mostrarLugar(const Medida &medida);
     void aceptar();
 
     forms::DTPicker TextF{QStringLiteral("TextF")};
@@ -44,5 +50,8 @@ private:
     forms::CommandButton Command3{QStringLiteral("Command3"), QStringLiteral("Gr.")};
     forms::CommandButton Command4{QStringLiteral("Command4"), QStringLiteral("Cm.")};
     forms::CommandButton Command5{QStringLiteral("Command5"), QStringLiteral("Cm.")};
+    forms::ControlArray<forms::Label> lblLugar{QStringLiteral("lblLugar")};
     std::vector<Medida> medidas_;
+    QString sexo_;
+    basic::Date nacimiento_;
 };

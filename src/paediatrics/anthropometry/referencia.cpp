@@ -15,6 +15,7 @@ namespace paediatrics
 namespace
 {
 
+constexpr double ultimoDiaAcostado = 730, diasDeCincoAnios = 1826;
 const QLocale castellano(QLocale::Spanish, QLocale::Argentina);
 
 /// From which deviation on a measure has which name; the first of a column is that of everything below.
@@ -89,6 +90,20 @@ QString enPalabras(Medida medida, QStringView sexo, double dias, double valor)
         return {};
     return u"%1, %2 para la edad"_s.arg(percentilYPuntaje(*z),
                                         QStringView(nombreDe(reglasDe(medida).nombres, *z)));
+}
+
+QString pesoParaTallaEnPalabras(QStringView sexo, double dias, double talla, double peso)
+{
+    if (dias < 0 || dias > diasDeCincoAnios || peso <= 0)
+        return {};
+    const TablaLms *tabla =
+        TablaLms::de(dias <= ultimoDiaAcostado ? u"oms_peso_longitud" : u"oms_peso_talla", sexo);
+    const auto parametros = tabla ? tabla->en(talla) : std::nullopt;
+    if (!parametros)
+        return {};
+    const double z = puntajeZConExtremosRectos(*parametros, peso);
+    return u"%1, %2 para la talla"_s.arg(percentilYPuntaje(z),
+                                         QStringView(nombreDe(reglasDe(Medida::Peso).nombres, z)));
 }
 
 } // namespace paediatrics

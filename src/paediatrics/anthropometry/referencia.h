@@ -22,4 +22,8 @@ QString percentilYPuntaje(double z);
 /// "P63, z +0,3, adecuado para la edad"; empty where there is no score.
 QString enPalabras(Medida medida, QStringView sexo, double dias, double valor);
 
+/// The same of the weight (grams) for the length or height (centimetres): lying until the 730th day, standing
+/// after, to five years. "P63, z +0,3, adecuado para la talla".
+QString pesoParaTallaEnPalabras(QStringView sexo, double dias, double talla, double peso);
+
 } // namespace paediatrics

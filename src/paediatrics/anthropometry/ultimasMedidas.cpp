@@ -14,17 +14,16 @@ namespace
 {
 
 struct Tomada {
-    const char16_t *rotulo;
     Medida medida;
     const char16_t *condicion; ///< 0 is a measure that was not taken
     const char16_t *formato;
 };
 
 constexpr Tomada tomadas[] = {
-    {u"Peso", Medida::Peso, u"Peso <> 0", u"#,##0 \"g\""},
-    {u"Talla", Medida::Talla, u"Talla <> 0", u"0.0 \"cm\""},
-    {u"P. cefálico", Medida::PerimetroCefalico, u"Pc <> 0", u"0.0 \"cm\""},
-    {u"I.M.C.", Medida::Imc, u"Peso <> 0 and Talla <> 0", u"0.0"},
+    {Medida::Peso, u"Peso <> 0", u"#,##0 \"g\""},
+    {Medida::Talla, u"Talla <> 0", u"0.0 \"cm\""},
+    {Medida::PerimetroCefalico, u"Pc <> 0", u"0.0 \"cm\""},
+    {Medida::Imc, u"Peso <> 0 and Talla <> 0", u"0.0"},
 };
 
 double valorDe(Medida medida, dao::Recordset &fila)
@@ -44,23 +43,22 @@ double valorDe(Medida medida, dao::Recordset &fila)
 
 } // namespace
 
-std::vector<ports::MedidaEnPalabras> ultimasMedidas(qint64 paciente, const QString &sexo,
-                                                    const basic::Date &nacimiento)
+std::array<ports::MedidaEnPalabras, 4> ultimasMedidas(qint64 paciente, const QString &sexo,
+                                                      const basic::Date &nacimiento)
 {
-    std::vector<ports::MedidaEnPalabras> todas;
-    for (const Tomada &tomada : tomadas) {
+    std::array<ports::MedidaEnPalabras, std::size(tomadas)> todas;
+    for (std::size_t i = 0; i < todas.size(); ++i) {
+        const Tomada &tomada = tomadas[i];
         dao::Recordset fila = MODULE11::BaseDatos.openRecordset(
             u"Select top 1 * from Medidas where Paciente = %1 and %2 order by fecha desc"_s.arg(
-                QString::number(paciente), QStringView(tomada.condicion)));
+                QString::number(paciente), QString::fromUtf16(tomada.condicion)));
         if (fila.eof())
             continue;
         const basic::Date fecha = fila[u"fecha"].value().date();
         const double valor = valorDe(tomada.medida, fila);
         const auto dias = static_cast<double>(fecha.wholeDays() - nacimiento.wholeDays());
-        todas.push_back(
-            {QString::fromUtf16(tomada.rotulo),
-             u"%1 (%2)"_s.arg(basic::format(valor, tomada.formato), basic::format(fecha, u"dd/mm/yyyy")),
-             enPalabras(tomada.medida, sexo, dias, valor)});
+        todas[i] = {basic::format(valor, tomada.formato), fecha,
+                    enPalabras(tomada.medida, sexo, dias, valor)};
     }
     return todas;
 }

@@ -6,8 +6,8 @@ namespace paediatrics
 {
 
 /// The last weight, height, head circumference and body-mass index that were taken of a patient, in that
-/// order, with the date and the place of each among children of the age it was taken at.
-std::vector<ports::MedidaEnPalabras> ultimasMedidas(qint64 paciente, const QString &sexo,
-                                                    const basic::Date &nacimiento);
+/// order, each with its place among children of the age it was taken at.
+std::array<ports::MedidaEnPalabras, 4> ultimasMedidas(qint64 paciente, const QString &sexo,
+                                                      const basic::Date &nacimiento);
 
 } // namespace paediatrics

@@ -20,9 +20,9 @@ void CapaDeMarcadores::quitar()
     update();
 }
 
-void CapaDeMarcadores::poner(QPointF centro, const QString &tip)
+void CapaDeMarcadores::poner(QPointF centro, const QString &tip, const QString &comentario)
 {
-    eldot_.push_back({QRectF(centro - QPointF(lado, lado) / 2, QSizeF(lado, lado)), tip});
+    eldot_.push_back({QRectF(centro - QPointF(lado, lado) / 2, QSizeF(lado, lado)), tip, comentario});
     update();
 }
 
@@ -74,15 +74,21 @@ const CapaDeMarcadores::Marcador *CapaDeMarcadores::en(QPointF pixel) const
     return nullptr;
 }
 
+QString CapaDeMarcadores::leyendaEn(QPointF pixel) const
+{
+    const Marcador *marcador = en(pixel);
+    if (!marcador)
+        return {};
+    return marcador->comentario.isEmpty() ? marcador->tip
+                                          : marcador->tip + QLatin1Char('\n') + marcador->comentario;
+}
+
 bool CapaDeMarcadores::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     const auto *help = static_cast<QHelpEvent *>(event);
-    if (const Marcador *marcador = en(help->pos()))
-        QToolTip::showText(help->globalPos(), marcador->tip, this);
-    else
-        QToolTip::hideText();
+    QToolTip::showText(help->globalPos(), leyendaEn(help->pos()), this); // an empty text hides the one before
     return true;
 }
 

@@ -21,8 +21,11 @@ public:
 
     /// Takes all markers away.
     void quitar();
-    /// Adds the next element of `eldot`, centred on a point (twips).
-    void poner(QPointF centro, const QString &tip);
+    /// Adds the next element of `eldot`, centred on a point (twips). A person who points at it reads below
+    /// its tool tip what else there is to say of it.
+    void poner(QPointF centro, const QString &tip, const QString &comentario = {});
+    /// What a person reads who points there; empty beside all markers.
+    QString leyendaEn(QPointF pixel) const;
 
     std::vector<forms::DrawnItem> drawnItems() const override;
     QWidget &surface() override { return *this; }
@@ -35,7 +38,7 @@ protected:
 private:
     struct Marcador {
         QRectF lugar; ///< twips
-        QString tip;
+        QString tip, comentario;
     };
     const Marcador *en(QPointF pixel) const;
 

@@ -2,8 +2,10 @@
 
 #include "core/services/paciente.h"
 #include "core/session/session.h"
+#include "paediatrics/anthropometry/edadCorregida.h"
 #include "paediatrics/anthropometry/medidas.h"
 #include "paediatrics/charts/mapping.h"
+#include "paediatrics/charts/palabras.h"
 #include "platform/basic/environment.h"
 #include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
@@ -50,12 +52,14 @@ panCurvasOMS::panCurvasOMS() : Form(u"panCurvasOMS"_s), Image1(u"Image1"_s, char
     Combo1.setMaxVisibleItems(30);
     marcadores_.resize(toPixels(charts::whoPictureBox.size()).toSize());
     setContents(this, Column{
-                          Row{Fields{{Label1, Combo1}}, Check1, Stretch(), Command2, Command1},
+                          Row{Fields{{Label1, Combo1}}, Check1, chkCorregida, Stretch(), Command2, Command1},
                           lblPaciente,
                           Image1,
                       });
     connect(&Combo1, &QComboBox::currentIndexChanged, this, &panCurvasOMS::mostrarCurva);
-    connect(&Check1, &QCheckBox::toggled, this, &panCurvasOMS::mostrarCurva);
+    chkCorregida.setToolTip(u"La de un prematuro se cuenta desde las 40 semanas, hasta los dos años"_s);
+    for (CheckBox *casilla : {&Check1, &chkCorregida})
+        connect(casilla, &QCheckBox::toggled, this, &panCurvasOMS::mostrarCurva);
     connect(&Command1, &QPushButton::clicked, this, &panCurvasOMS::unload);
     connect(&Command2, &QPushButton::clicked, this, &panCurvasOMS::imprimir);
 }
@@ -63,6 +67,9 @@ panCurvasOMS::panCurvasOMS() : Form(u"panCurvasOMS"_s), Image1(u"Image1"_s, char
 void panCurvasOMS::activate()
 {
     lblPaciente.setCaption(services::nombreDePaciente(tag()));
+    const auto numero = services::numeroDePaciente(tag());
+    diasDePrematuro_ = numero ? paediatrics::diasDePrematuro(*numero) : 0;
+    chkCorregida.setVisible(diasDePrematuro_ > 0);
 }
 
 void panCurvasOMS::mostrarCurva()
@@ -100,22 +107,29 @@ void panCurvasOMS::dibujarFila(const charts::WhoChart &chart, dao::Recordset &me
     if (medidas[columnaProbada(chart.measure)].number() == 0)
         return;
     const basic::Date fecha = medidas[u"fecha"].date();
-    const auto dias = static_cast<int>(fecha.wholeDays() - nacimiento.wholeDays());
+    const auto diasDeVida = static_cast<double>(fecha.wholeDays() - nacimiento.wholeDays());
+    const double dias =
+        chkCorregida.isChecked() ? paediatrics::edadCorregida(diasDeVida, diasDePrematuro_) : diasDeVida;
     const double peso = medidas[u"peso"].number();
     const double talla = medidas[u"talla"].number();
+    // With all patients the age is the birthday's of this one: nothing true can be said of it.
+    const QString lugar =
+        Check1.isChecked()
+            ? QString()
+            : charts::enPalabras(chart.measure, chart.sex, {dias, peso, talla, medidas[u"pc"].number()});
     const QString rotulo = basic::dateText(fecha) + u": "_s;
     const QString unidad = chart.unit.toString();
 
     if (chart.measure == charts::Measure::PesoParaTalla) {
         if (dias >= chart.lowestDays && (!chart.highestDays || dias <= *chart.highestDays))
-            marcadores_.poner(charts::mapped(chart.frame, talla, peso), rotulo + unidad);
+            marcadores_.poner(charts::mapped(chart.frame, talla, peso), rotulo + unidad, lugar);
         return;
     }
     const double valor = chart.measure == charts::Measure::Imc     ? paediatrics::CalcularIMC(peso, talla)
                          : chart.measure == charts::Measure::Talla ? talla
                                                                    : peso;
     marcadores_.poner(charts::mapped(chart.frame, dias, valor),
-                      rotulo + basic::format(valor, u"###.#") + unidad);
+                      rotulo + basic::format(valor, u"###.#") + unidad, lugar);
 }
 
 void panCurvasOMS::imprimir()
@@ -131,7 +145,7 @@ void panCurvasOMS::imprimir()
     painter.end();
     printing::Document documento(impresora, impresora.name, true);
     documento.print(lblPaciente.caption());
-    documento.print(Combo1.value());
+    documento.print(Combo1.value() + (chkCorregida.isChecked() ? u" - edad corregida"_s : QString()));
     documento.paintPicture(imagen, Image1.sizeTwips().width(), Image1.sizeTwips().height());
     documento.endDoc();
 }

@@ -26,6 +26,8 @@ private:
     forms::ComboBox Combo1{QStringLiteral("Combo1")};
     forms::CheckBox Check1{QStringLiteral("Check1"),
                            QStringLiteral("&Incluye medidas de todos los pacientes?")};
+    forms::CheckBox chkCorregida{QStringLiteral("chkCorregida"), QStringLiteral("&Edad corregida")};
+    int diasDePrematuro_ = 0;
     forms::Label lblPaciente{QStringLiteral("lblPaciente")};
     forms::PictureBox Image1;
     charts::CapaDeMarcadores marcadores_{&Image1, charts::whoPictureBox.topLeft()};

@@ -51,9 +51,10 @@ void MedidasAlNacer::setSexo(const QString &sexo)
 
 std::optional<int> MedidasAlNacer::diasDeGestacion(const Valores &valores) const
 {
-    if (const auto dias = perinatal::diasDeGestacion(valor(valores, u"Edad Gestacional madre"_s).text()))
-        return dias;
-    return perinatal::diasDeGestacion(valor(valores, u"Edad gestacional por examen fisico"_s).text());
+    const auto porExamen =
+        perinatal::diasDeGestacion(valor(valores, u"Edad gestacional por examen fisico"_s).text());
+    return porExamen ? porExamen
+                     : perinatal::diasDeGestacion(valor(valores, u"Edad Gestacional madre"_s).text());
 }
 
 void MedidasAlNacer::decir()

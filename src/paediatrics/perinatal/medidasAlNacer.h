@@ -6,8 +6,8 @@ namespace perinatal
 {
 
 /// Beside the newborn's weight, height and head: where each stands among newborns of the sex and gestational
-/// age, in words that follow what is typed. The age is the pregnancy's, and without one that of the physical
-/// examination. Nothing is said of twins, whom the figures leave out.
+/// age, in words that follow what is typed. The age is that of the physical examination, and without one the
+/// pregnancy's. Nothing is said of twins, whom the figures leave out.
 class MedidasAlNacer
 {
 public:
