@@ -216,6 +216,28 @@ TEST_F(SyntheticPractice, IsWhatAPaediatricianWouldWrite)
     EXPECT_GT(count(pressure + u">= 1095"_s), 0);
 }
 
+TEST_F(SyntheticPractice, KnowsBirthsPressuresAndSight)
+{
+    const qint64 births = count(u"Perinatal"_s);
+    EXPECT_GT(births, patients / 2);
+    EXPECT_LT(births, patients);
+    EXPECT_EQ(
+        count(
+            u"Medidas m inner join Pacientes p on m.Paciente = p.Numero where m.fecha = p.[Fecha de Nacimiento]"_s),
+        births);
+    qint64 light = 0;
+    for (dao::Recordset rows = query(u"Select [Peso al nacer] from Perinatal"_s); !rows.eof();
+         rows.moveNext()) {
+        const double weight = rows[0].number();
+        EXPECT_TRUE(weight > 900 && weight < 5200) << weight;
+        light += weight < 2500 ? 1 : 0;
+    }
+    EXPECT_LT(light, births / 4);
+    EXPECT_GT(count(u"TomaPresion where maxima > minima"_s), 0);
+    EXPECT_EQ(count(u"TomaPresion where maxima <= minima"_s), 0);
+    EXPECT_GT(count(u"Visual"_s), 0);
+}
+
 TEST_F(SyntheticPractice, RefusesMoreVisitsThanAChildhoodHasDays)
 {
     practica::Size size;

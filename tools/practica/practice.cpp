@@ -1,6 +1,7 @@
 #include "practice.h"
 
 #include "appointments.h"
+#include "births.h"
 #include "visits.h"
 
 #include "core/session/session.h"
@@ -104,9 +105,9 @@ void addPatients(const std::vector<Patient> &patients, const Size &size, Dice &d
     }
 }
 
-void addVisits(const std::vector<Patient> &patients, const Size &size, int visits, Dice &dice)
+void addVisits(const std::vector<Patient> &patients, const Growth &growth, const Size &size, int visits,
+               Dice &dice)
 {
-    const Growth growth(QStringLiteral(REFERENCE_DATA));
     VisitBook book;
     dao::Recordset measured = BaseDatos.openRecordset(u"Medidas"_s);
     Latest latest(patients,
@@ -148,7 +149,11 @@ void fill(const Size &size)
     addDoctors();
     addCoverages();
     addPatients(patients, size, dice);
-    addVisits(patients, size, visits, dice);
+    const Growth growth(QStringLiteral(REFERENCE_DATA));
+    addVisits(patients, growth, size, visits, dice);
+    addBirths(patients, growth, dice);
+    addPressures();
+    addSightTests(patients, dice);
     QStringList names;
     for (const Doctor &doctor : doctors())
         names += doctor.name;
