@@ -2,6 +2,7 @@
 #include "delivered.h"
 #include "paediatrics/anthropometry/tablaLms.h"
 #include "paediatrics/perinatal/alNacer.h"
+#include "paediatrics/perinatal/apgar.h"
 #include "paediatrics/perinatal/ficha.h"
 
 using namespace Qt::StringLiterals;
@@ -82,6 +83,13 @@ TEST_F(PerinatalTest, whatIsNoNumberIsKeptAndHasNoLimits)
                 {}});
     EXPECT_EQ(services::hallazgosPerinatales(7),
               (QStringList{u"Edad de la madre en parto : 39,5"_s, u"Apgar a los 5 min. : 6"_s}));
+}
+
+TEST(Apgar, theTotalIsTheSumOfWhatIsANumber)
+{
+    EXPECT_EQ(totalDeApgar({u"2"_s, u"x"_s, u""_s, u"1"_s, u"2"_s}), u"5"_s);
+    EXPECT_EQ(totalDeApgar({u"7"_s, u"2"_s, u"2"_s, u"2"_s, u"2"_s}), u"15"_s) << "no score is checked";
+    EXPECT_EQ(totalDeApgar({}), u"0"_s);
 }
 
 /// Every percentile that is published, for both models of either measure and sex.

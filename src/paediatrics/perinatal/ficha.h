@@ -27,6 +27,8 @@ struct Ficha {
     Valores perinatal; ///< the main form's
     Valores pediatria; ///< what the companion dialogues keep
     QStringList patologias, diagnosticos;
+
+    bool operator==(const Ficha &) const = default;
 };
 
 /// All that is kept; of a patient without a record, nothing. Throws dao::Error.

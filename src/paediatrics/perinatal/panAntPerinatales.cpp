@@ -2,6 +2,7 @@
 
 #include "core/records/fichaDelPaciente.h"
 #include "core/services/paciente.h"
+#include "core/services/services.h"
 #include "paediatrics/perinatal/panEvolEmbarazo.h"
 #include "paediatrics/perinatal/panObservaRecien.h"
 #include "paediatrics/perinatal/panOtrosRecien.h"
@@ -193,6 +194,7 @@ void panAntPerinatales::conectar()
             [this] { Combo4.setEnabled(Option1(cesarea).isChecked()); });
     connect(&terminaciones_, &QButtonGroup::idClicked, this,
             [this](int id) { Text2.setText(terminaciones[id]); });
+    connect(&Text2, &QLineEdit::textEdited, this, &panAntPerinatales::elegirTerminacion);
     connect(&Command1, &QPushButton::clicked, this, &panAntPerinatales::guardar);
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
     connect(&Command4, &QPushButton::clicked, this, [this] { completar(panOtrosRecien()); });
@@ -207,6 +209,7 @@ void panAntPerinatales::activate()
         return;
     paciente_ = *numero;
     leer(*numero);
+    mostrada_ = escrita();
     SSTab1.tabBar()->setFocus(); // the menu goes on to a page with the arrow keys
 }
 
@@ -223,8 +226,8 @@ void panAntPerinatales::leer(qint64 numero)
     if (perinatal::valor(ficha.perinatal, nombreDeLaMadre).isBlank())
         ficha.perinatal[nombreDeLaMadre] = perinatal::valor(pediatria_, nombreDeLaMadre);
     mostrar(ficha);
-    if (escrita_)
-        mostrar(*escrita_);
+    if (comienzo_)
+        mostrar(*comienzo_);
     mostrarNoColumnas();
     medidas_.setSexo((*paciente)[u"Sexo"].text());
 }
@@ -241,9 +244,16 @@ void panAntPerinatales::mostrarNoColumnas()
 {
     if (!Text3(0).text().isEmpty() || !Text3(1).text().isEmpty())
         Option11(drogasSi).setChecked(true);
+    elegirTerminacion();
+}
+
+/// The button whose word the text begins with; for any other text, none.
+void panAntPerinatales::elegirTerminacion()
+{
+    terminaciones_.setExclusive(false);
     for (const auto &[indice, boton] : Option1)
-        if (Text2.text().startsWith(boton->text(), Qt::CaseInsensitive))
-            boton->setChecked(true);
+        boton->setChecked(Text2.text().startsWith(boton->text(), Qt::CaseInsensitive));
+    terminaciones_.setExclusive(true);
 }
 
 void panAntPerinatales::completar(perinatal::Complemento &&dialogo)
@@ -258,9 +268,14 @@ void panAntPerinatales::completar(perinatal::Complemento &&dialogo)
         aceptados_[columna] = valor;
 }
 
+perinatal::Ficha panAntPerinatales::escrita() const
+{
+    return {campos_.valores(), aceptados_, patologias_.lineas(), diagnosticos_.lineas()};
+}
+
 void panAntPerinatales::guardar()
 {
-    perinatal::Ficha ficha{campos_.valores(), aceptados_, patologias_.lineas(), diagnosticos_.lineas()};
+    perinatal::Ficha ficha = escrita();
     if (Option11(drogasNo).isChecked())
         ficha.perinatal[u"Nombre Drogas Parto"_s] = ficha.perinatal[u"Tiempo Drogas anteparto"_s] = QString();
     // The patient's page shows the mother from the paediatric data.
@@ -269,6 +284,13 @@ void panAntPerinatales::guardar()
         ficha.pediatria[nombreDeLaMadre] = madre;
     perinatal::guardar(paciente_, ficha);
     answer(u"SI"_s);
+}
+
+/// "Cancelar" leaves at once; Esc and the frame do not throw a record away by themselves.
+bool panAntPerinatales::queryUnload()
+{
+    return paciente_ == 0 || escrita() == mostrada_ ||
+           MODULE11::PreguntaSiBorra(u"Cierra sin guardar los antecedentes perinatales"_s);
 }
 
 #include "moc_panAntPerinatales.cpp"

@@ -20,10 +20,11 @@ public:
     panAntPerinatales();
 
     /// What was typed elsewhere and not stored yet: it is shown over what is kept.
-    void comenzarCon(perinatal::Ficha escrita) { escrita_ = std::move(escrita); }
+    void comenzarCon(perinatal::Ficha escrita) { comienzo_ = std::move(escrita); }
 
 protected:
     void activate() override;
+    bool queryUnload() override;
 
 private:
     forms::Item datosMaternos();
@@ -37,12 +38,15 @@ private:
     void leer(qint64 paciente);
     void mostrar(const perinatal::Ficha &ficha);
     void mostrarNoColumnas();
+    void elegirTerminacion();
+    perinatal::Ficha escrita() const;
     /// Opens a companion over what is kept and what was accepted in it before.
     void completar(perinatal::Complemento &&dialogo);
     void guardar();
 
     qint64 paciente_ = 0;
-    std::optional<perinatal::Ficha> escrita_;
+    std::optional<perinatal::Ficha> comienzo_;
+    perinatal::Ficha mostrada_;    ///< as it was when the person began
     perinatal::Valores pediatria_; ///< as it is kept
     perinatal::Valores aceptados_; ///< in the companions, not stored yet
 

@@ -4,6 +4,7 @@
 #include "core/reports/papel.h"
 #include "core/services/hallazgosPerinatales.h"
 #include "core/services/paciente.h"
+#include "core/services/services.h"
 #include "paediatrics/perinatal/panAntPerinatales.h"
 
 using namespace Qt::StringLiterals;
@@ -61,6 +62,7 @@ void panResPerinat::activate()
         return;
     paciente_ = *numero;
     leer();
+    mostrada_ = escrita();
 }
 
 /// Of a patient who is not there the page stays empty, and there is nothing to write it for.
@@ -85,10 +87,21 @@ void panResPerinat::mostrar()
     List3.addItems(services::hallazgosPerinatales(paciente_));
 }
 
+perinatal::Ficha panResPerinat::escrita() const
+{
+    return {campos_.valores(), {}, patologias_.lineas(), diagnosticos_.lineas()};
+}
+
 void panResPerinat::guardar()
 {
-    perinatal::guardar(paciente_, {campos_.valores(), {}, patologias_.lineas(), diagnosticos_.lineas()});
+    perinatal::guardar(paciente_, escrita());
     answer(u"SI"_s);
+}
+
+bool panResPerinat::queryUnload()
+{
+    return paciente_ == 0 || escrita() == mostrada_ ||
+           MODULE11::PreguntaSiBorra(u"Cierra sin guardar la ficha resumen perinatal"_s);
 }
 
 /// The whole record begins with what is typed here; what was accepted there is read back.
@@ -96,10 +109,12 @@ void panResPerinat::abrirFicha()
 {
     panAntPerinatales ficha;
     ficha.setTag(tag());
-    ficha.comenzarCon({campos_.valores(), {}, patologias_.lineas(), diagnosticos_.lineas()});
+    ficha.comenzarCon(escrita());
     ficha.showModal();
-    if (ficha.tag() == u"SI")
-        mostrar();
+    if (ficha.tag() != u"SI")
+        return;
+    mostrar();
+    mostrada_ = escrita();
 }
 
 /// The sentences are those of the record as it is kept.

@@ -15,17 +15,20 @@ public:
 
 protected:
     void activate() override;
+    bool queryUnload() override;
 
 private:
     forms::Item madre();
     forms::Item recienNacido();
     void leer();
     void mostrar();
+    perinatal::Ficha escrita() const;
     void guardar();
     void abrirFicha();
     void imprimir();
 
     qint64 paciente_ = 0;
+    perinatal::Ficha mostrada_; ///< as it was when the person began
     perinatal::Campos campos_{QStringLiteral("Perinatal")};
     perinatal::ListaDePatologias patologias_{QStringLiteral("List1"), QStringLiteral("Command7"),
                                              QStringLiteral("Command8"),
