@@ -9,6 +9,9 @@
 #include "paediatrics/charts/panCurvasOMS.h"
 #include "paediatrics/charts/panMuesCurvas.h"
 #include "paediatrics/charts/panPercentil.h"
+#include "paediatrics/vaccines/panCalVacunas.h"
+#include "paediatrics/vaccines/panPlanVacunas.h"
+#include "paediatrics/vaccines/panVacunasAtrasadas.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,6 +22,9 @@ void paediatrics::registerScreens()
     screens::add<panCrecimiento>("panCrecimiento");
     screens::add<panMuesCurvas>("panMuesCurvas");
     screens::add<panCurvasOMS>("panCurvasOMS");
+    screens::add<panPlanVacunas>("panPlanVacunas");
+    screens::add<panCalVacunas>("panCalVacunas");
+    screens::add<panVacunasAtrasadas>("panVacunasAtrasadas");
     for (const charts::ClassicalChart &chart : charts::classicalCharts())
         screens::add(screens::Window::find(chart.form).value(), [&chart] { return std::make_unique<panPercentil>(chart); });
 }

@@ -40,7 +40,6 @@ const std::set<std::string> notBuiltYet{
     "panMadNeurol",
     "panObras",
     "panOft",
-    "panPlanVacunas",
     "panPrestaciones",
     "panProtBase",
     "panRiesgoOperatorio",

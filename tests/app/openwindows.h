@@ -18,6 +18,9 @@
 #include "core/windows/panSelProf.h"
 #include "delivered.h"
 #include "paediatrics/anthropometry/panMedidas.h"
+#include "paediatrics/vaccines/panInfRelVac.h"
+#include "paediatrics/vaccines/panPoneVacuna.h"
+#include "paediatrics/vaccines/pannueVac.h"
 #include "platform/forms/application.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/dbgrid.h"
@@ -61,6 +64,10 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panIngresoUsuario"), opening<panIngresoUsuario>()},
         {QStringLiteral("panSelProf"), opening<panSelProf>()},
         {QStringLiteral("panMedidas"), opening<panMedidas>()},
+        {QStringLiteral("panInfRelVac"), [] { return std::make_unique<panInfRelVac>(QString()); }},
+        {QStringLiteral("panPoneVacuna"),
+         [] { return std::make_unique<panPoneVacuna>(vacunas::Registro()); }},
+        {QStringLiteral("pannueVac"), opening<pannueVac>()},
         {QStringLiteral("panCambiaEstadoTurno"), opening<panCambiaEstadoTurno>()},
         {QStringLiteral("panDispTurnos"), [] { return std::make_unique<panDispTurnos>(basic::today(), 1); }},
         {QStringLiteral("panNueTurno"), opening<panNueTurno>()},
