@@ -42,7 +42,8 @@ QStringList dosisQueFaltan(const Planilla &planilla, qint64 paciente)
     const Edades edades;
     QStringList faltan;
     for (const Marca &marca : planilla.marcas)
-        if (marca.estado == Estado::Falta && edades.de(marca.dosis).corresponde(nacimiento))
+        if (marca.vencida && marca.estado != Estado::Colocada &&
+            edades.de(marca.dosis).corresponde(nacimiento))
             faltan += marca.dosis.descripcion + u", "_s + marca.dosis.dosis;
     return faltan;
 }

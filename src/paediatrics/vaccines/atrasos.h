@@ -9,8 +9,8 @@
 namespace vacunas
 {
 
-/// The doses of a sheet that are overdue and that the plan wants for this patient, in words. Throws
-/// dao::Error.
+/// The doses of a sheet that are overdue and not given, and that the plan wants for this patient, in words.
+/// Throws dao::Error.
 QStringList dosisQueFaltan(const Planilla &planilla, qint64 paciente);
 
 /// Which children to look for.

@@ -12,7 +12,7 @@ namespace
 {
 
 // Twips.
-constexpr double borde = 150, rotulos = 1500, ancho = 1150;
+constexpr double borde = 150, rotulos = 1500, ancho = 1170;
 constexpr double izquierda = borde + rotulos, derecha = izquierda + 12 * ancho;
 constexpr double certificado = 150, cabezas = 600, nombres = 1010, arriba = 1750, alto = 450;
 constexpr double abajo = arriba + 12 * alto, leyendas = abajo + 180, firma = abajo + 1250;
@@ -123,7 +123,7 @@ void HojaDeVacunas::dibujarFilas()
         const double x = izquierda + columna * ancho;
         inerte(numerado(u"columna"_s, columna), {x, cabezas}, lineas(vertical(abajo - cabezas), 8));
         inerte(numerado(u"label2"_s, columna), {x + separacion, cabezas},
-               TextLook{{}, letra(8, true), ancho - 2 * separacion, tinta, Qt::AlignHCenter});
+               TextLook{{}, letra(7.5, true), ancho - 2 * separacion, tinta, Qt::AlignHCenter});
         inerte(numerado(u"Label3"_s, columna), {x + separacion, nombres},
                TextLook{{}, letra(6.5), ancho - 2 * separacion, tenue, Qt::AlignHCenter});
     }

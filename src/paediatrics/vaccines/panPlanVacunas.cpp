@@ -47,6 +47,18 @@ void agregar(dao::Recordset &filas, qint64 paciente, const Registro &registro)
     filas.update();
 }
 
+QString avisoDeFaltantes(const QStringList &faltan)
+{
+    constexpr qsizetype losQueSeDicen = 8;
+    QStringList lineas = faltan.first(qMin(losQueSeDicen, faltan.size()));
+    lineas.prepend(
+        u"Atención: el certificado dice que el plan está cumplido. Dosis que faltan según el plan: %1"_s.arg(
+            faltan.size()));
+    if (faltan.size() > losQueSeDicen)
+        lineas += u"y %1 más"_s.arg(faltan.size() - losQueSeDicen);
+    return lineas.join(u'\n');
+}
+
 void yaRegistrada()
 {
     msgBox(u"Vacuna y dosis ya registrada"_s, Icon::Critical, u"Error"_s);
@@ -144,18 +156,18 @@ void panPlanVacunas::mostrarPaciente(dao::Recordset &paciente)
 {
     const QString nombre = paciente[u"Apellido y Nombres"].text();
     const basic::Value nacimiento = paciente[u"Fecha de Nacimiento"];
-    std::optional<vacunas::EdadDelPlan> edad;
+    edad_.reset();
     if (!nacimiento.isNull())
-        edad = vacunas::edadDelPlan(nacimiento.date(), basic::today());
+        edad_ = vacunas::edadDelPlan(nacimiento.date(), basic::today());
     hoja.mostrarCertificado(
         u"Certifico que %1 cumple con el siguiente plan de vacunación, confecc. el día %2"_s.arg(
             nombre, MODULE11::FechaEnLetras(basic::today())));
     setWindowTitle(titulo + nombre);
-    Text1(0).setText(edad ? QString::number(edad->anios) : QString());
-    Text1(1).setText(edad ? QString::number(edad->mesesDelAnio) : QString());
-    planilla_.ponerEstados(*paciente_, edad);
-    hoja.mostrar(planilla_, edad);
-    if (!edad)
+    Text1(0).setText(edad_ ? QString::number(edad_->anios) : QString());
+    Text1(1).setText(edad_ ? QString::number(edad_->mesesDelAnio) : QString());
+    planilla_.ponerEstados(*paciente_, edad_);
+    hoja.mostrar(planilla_, edad_);
+    if (!edad_)
         msgBox(u"El paciente no tiene la fecha de nacimiento"_s, Icon::Critical, u"Error"_s);
 }
 
@@ -245,13 +257,13 @@ void panPlanVacunas::verRegistro(const DosisDelPlan &dosis)
 
 // --- the whole sheet ---
 
-/// Only what is overdue: neither what was prescribed nor what is yet to come. The sheet is read again first,
-/// so that a dose noted meanwhile on another station is not noted twice.
+/// Only what is overdue: neither what was prescribed nor what is yet to come. The states are read again
+/// first, so that a dose noted meanwhile on another station is not noted twice.
 void panPlanVacunas::marcarTodas()
 {
     if (!MODULE11::Pregunta(u"Asienta todas las dosis en falta como colocadas??"_s))
         return;
-    llenar();
+    planilla_.ponerEstados(*paciente_, edad_);
     dao::Batch juntas(MODULE11::BaseDatos);
     dao::Recordset filas = MODULE11::BaseDatos.openRecordset(u"Vacunas"_s);
     for (const vacunas::Marca &marca : planilla_.marcas)
@@ -265,12 +277,8 @@ void panPlanVacunas::marcarTodas()
 /// The certificate says that the plan is kept: whoever signs it is told what is missing.
 void panPlanVacunas::imprimir()
 {
-    const QStringList faltan = vacunas::dosisQueFaltan(planilla_, *paciente_);
-    if (!faltan.isEmpty())
-        MODULE11::Aviso(
-            u"Atención: el certificado dice que el plan está cumplido, y según el plan faltan %1 dosis:\n%2"_s
-                .arg(faltan.size())
-                .arg(faltan.join(u'\n')));
+    if (const QStringList faltan = vacunas::dosisQueFaltan(planilla_, *paciente_); !faltan.isEmpty())
+        MODULE11::Aviso(avisoDeFaltantes(faltan));
     printing::Choice impresora;
     impresora.name = windowTitle();
     if (!printing::chooserDialog(impresora, u"Imprimir"_s))

@@ -38,6 +38,7 @@ private:
     void imprimir();
 
     std::optional<qint64> paciente_;
+    std::optional<vacunas::EdadDelPlan> edad_;
     vacunas::Planilla planilla_;
     bool trabajando_ = false; ///< the sheet is built once, when the work is done
     QMenu Menu1;

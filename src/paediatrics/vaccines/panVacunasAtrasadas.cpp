@@ -20,6 +20,7 @@ using vacunas::Atrasos;
 namespace
 {
 
+constexpr int altoDelRenglon = 24;
 const QString titulo = u"Niños atrasados en sus vacunas"_s;
 
 } // namespace
@@ -66,7 +67,12 @@ panVacunasAtrasadas::panVacunasAtrasadas() : Form(u"panVacunasAtrasadas"_s), lis
     Grid1.setSelectionBehavior(QAbstractItemView::SelectRows);
     Grid1.setSelectionMode(QAbstractItemView::SingleSelection);
     Grid1.setTabKeyNavigation(false);
+    Grid1.setAlternatingRowColors(true);
+    Grid1.setWordWrap(false);
     Grid1.verticalHeader()->hide();
+    Grid1.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    Grid1.verticalHeader()->setDefaultSectionSize(altoDelRenglon);
+    Grid1.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     constexpr int anchos[] = {130, 130, 220, 130, 130, 120};
     int columna = 0;
     for (const int ancho : anchos)

@@ -12,6 +12,8 @@ using namespace forms;
 namespace
 {
 
+constexpr int anchoDelEjemplo = 150;
+
 /// Nothing for an empty field.
 std::optional<int> diasEscritos(const TextBox &campo)
 {
@@ -33,7 +35,9 @@ QString dias(const std::optional<int> &cuantos)
 
 FieldRow conEjemplo(const QString &titulo, QWidget &campo, const QString &ejemplo)
 {
-    return {titulo, Row{Expanding(campo), new QLabel(ejemplo)}};
+    auto *rotulo = new QLabel(ejemplo);
+    rotulo->setMinimumWidth(anchoDelEjemplo);
+    return {titulo, Row{Expanding(campo), rotulo}};
 }
 
 } // namespace

@@ -46,8 +46,7 @@ std::span<const FilaDeEdad> filasDeEdad()
 std::optional<int> filaDe(const QString &dosis)
 {
     const QString clave = dosis.toUpper();
-    const auto fila =
-        std::ranges::find_if(filas, [&](const FilaDeEdad &una) { return clave == una.clave; });
+    const auto fila = std::ranges::find_if(filas, [&](const FilaDeEdad &una) { return clave == una.clave; });
     if (fila == std::end(filas))
         return std::nullopt;
     return static_cast<int>(fila - std::begin(filas));
@@ -124,7 +123,8 @@ Planilla planilla(const std::vector<DosisDelPlan> &plan)
             continue;
         }
         const int numero = static_cast<int>(columna - hoja.columnas.begin());
-        hoja.marcas.push_back({*fila, numero, enElLugar[{*fila, numero}]++, dosis, Estado::SinEdad, {}});
+        hoja.marcas.push_back(
+            {*fila, numero, enElLugar[{*fila, numero}]++, dosis, Estado::SinEdad, {}, false});
     }
     return hoja;
 }
@@ -135,7 +135,8 @@ void Planilla::ponerEstados(qint64 paciente, const std::optional<EdadDelPlan> &e
     const int banda = edad ? filaDeLaBanda(edad->meses) : 0;
     for (Marca &marca : marcas) {
         marca.fecha.reset();
-        marca.estado = !edad ? Estado::SinEdad : marca.fila <= banda ? Estado::Falta : Estado::Proxima;
+        marca.vencida = edad && marca.fila <= banda;
+        marca.estado = !edad ? Estado::SinEdad : marca.vencida ? Estado::Falta : Estado::Proxima;
     }
     if (!edad)
         return;

@@ -43,6 +43,7 @@ struct Marca {
     DosisDelPlan dosis;
     Estado estado = Estado::SinEdad;
     std::optional<basic::Date> fecha; ///< when it was given or indicated
+    bool vencida = false;             ///< its row is above the band, whatever is noted
 
     QString enPalabras() const; ///< vaccine, dose and state
 };
