@@ -7,6 +7,7 @@
 #include "measure.h"
 #include "prescriptions.h"
 #include "subsystems.h"
+#include "vaccines.h"
 #include "visits.h"
 
 #include "clinical/patients/panSelPaciente.h"
@@ -63,6 +64,7 @@ void measure()
     bench::visits(report);
     bench::prescriptions(report);
     bench::laboratory(report);
+    bench::vaccines(report);
     window.hide();
 }
 

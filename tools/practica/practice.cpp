@@ -1,6 +1,7 @@
 #include "practice.h"
 
 #include "appointments.h"
+#include "vaccines.h"
 #include "visits.h"
 
 #include "core/session/session.h"
@@ -149,6 +150,8 @@ void fill(const Size &size)
     addCoverages();
     addPatients(patients, size, dice);
     addVisits(patients, size, visits, dice);
+    Dice ofVaccines(size.seed); // of their own: what the others throw stays as it is
+    addVaccines(patients, size.vaccinated, size.today, ofVaccines);
     QStringList names;
     for (const Doctor &doctor : doctors())
         names += doctor.name;

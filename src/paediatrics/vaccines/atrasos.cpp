@@ -85,7 +85,7 @@ void Atrasos::leerNinos(const Busqueda &busqueda)
 {
     const QDate hoy = hoy_.date();
     pacientes_ = MODULE11::BaseDatos.openRecordset(
-        u"Select Numero, [Apellido y Nombres], [Fecha de Nacimiento], Telefono from Pacientes where %1 and (FechaBaja is null or FechaBaja > %2) order by Numero"_s
+        u"Select Numero, [Apellido y Nombres], [Fecha de Nacimiento], Telefono from Pacientes where %1 and (FechaBaja is null or FechaBaja > %2)"_s
             .arg(dao::period(u"[Fecha de Nacimiento]"_s,
                              basic::Date(hoy.addYears(-busqueda.hastaAnios - 1).addDays(1)),
                              basic::Date(hoy.addYears(-busqueda.desdeAnios))),
@@ -94,6 +94,7 @@ void Atrasos::leerNinos(const Busqueda &busqueda)
     for (qint64 fila = 0; pacientes_.hasRow(fila); ++fila)
         ninos_.push_back({pacientes_.valueAt(fila, Numero).integer(),
                           pacientes_.valueAt(fila, Nacimiento).date().dateOnly(), fila});
+    std::ranges::sort(ninos_, {}, &Nino::numero);
 }
 
 /// Of each child, in their order. The rows come by patient, so that both are walked side by side.
