@@ -229,11 +229,18 @@ TEST_F(VacunasTest, lettersAreTakenAwayAndOthersStay)
 {
     nino(6, "13/01/2024");
     run({"INSERT INTO CartasVacunas (Lote, Paciente) VALUES ('de otra estación', 1)"});
-    {
-        const vacunas::Cartas cartas(*vacunas::Atrasos::buscar({u"Neumococo"_s}, hoy));
-        EXPECT_EQ(rows(u"Select Paciente, Vacuna, Dosis, Atraso from CartasVacunas where Paciente = 6"_s),
-                  u"6,Neumococo,2 MESES,1 día"_s);
-    }
+    const vacunas::Atrasos atrasos = *vacunas::Atrasos::buscar({u"Neumococo"_s}, hoy);
+    QString escrito, seleccion;
+    vacunas::conCartas(atrasos, {}, [&](const QString &de) {
+        seleccion = de;
+        escrito = rows(u"Select Paciente, Vacuna, Dosis, Atraso from CartasVacunas where Paciente = 6"_s);
+    });
+    EXPECT_EQ(escrito, u"6,Neumococo,2 MESES,1 día"_s);
+    EXPECT_TRUE(seleccion.startsWith(u"{CartasVacunas.Lote} = "));
+    EXPECT_THROW(vacunas::conCartas(atrasos, {}, [](const QString &) { throw basic::Error(1, u"x"_s); }),
+                 basic::Error);
+    vacunas::conCartas(
+        atrasos, [](qint64, qint64) { return false; }, [](const QString &) { FAIL() << "it was stopped"; });
     EXPECT_EQ(column(u"Select Lote from CartasVacunas"_s), QStringList{u"de otra estación"_s});
 }
 

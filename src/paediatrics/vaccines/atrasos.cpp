@@ -21,9 +21,8 @@ namespace
 enum CampoDelPaciente { Numero, Nombre, Nacimiento, Telefono };
 enum CampoDeLaDosis { Paciente, Fecha, Observaciones };
 
-/// Of doses with the same day of birth to count from, the doses of one vaccine come in the order of their
-/// ages.
-std::vector<std::size_t> porEdad(const std::vector<EdadDeDosis> &edades)
+/// The doses in the order in which they are given.
+std::vector<std::size_t> dosisPorEdad(const std::vector<EdadDeDosis> &edades)
 {
     std::vector<std::size_t> orden(edades.size());
     std::iota(orden.begin(), orden.end(), 0);
@@ -57,9 +56,10 @@ std::optional<Atrasos> Atrasos::buscar(const Busqueda &busqueda, basic::Date hoy
     for (const DosisDelPlan &dosis : atrasos.plan_)
         atrasos.edades_.push_back(edades.de(dosis));
     atrasos.leerNinos(busqueda);
+    std::vector<std::vector<Renglon>> porDosis(atrasos.plan_.size());
     std::map<QString, std::vector<int>> ultimas; // by vaccine
     qint64 hechas = 0;
-    for (const std::size_t numero : porEdad(atrasos.edades_)) {
+    for (const std::size_t numero : dosisPorEdad(atrasos.edades_)) {
         const DosisDelPlan &dosis = atrasos.plan_[numero];
         if (avance && !avance(hechas++, static_cast<qint64>(atrasos.plan_.size())))
             return std::nullopt;
@@ -68,15 +68,13 @@ std::optional<Atrasos> Atrasos::buscar(const Busqueda &busqueda, basic::Date hoy
         const std::vector<Dada> dadas = atrasos.dadas(dosis);
         std::vector<int> &previas = ultimas[dosis.vacuna.toUpper()];
         previas.resize(atrasos.ninos_.size());
-        atrasos.comparar(numero, dadas, previas, busqueda.diasDeAtraso);
+        porDosis[numero] = atrasos.comparar(numero, dadas, previas, busqueda.diasDeAtraso);
         for (std::size_t nino = 0; nino < dadas.size(); ++nino)
             if (!dadas[nino].indicada)
                 previas[nino] = std::max(previas[nino], dadas[nino].dia);
     }
-    std::ranges::stable_sort(atrasos.renglones_, [&](const Renglon &a, const Renglon &b) {
-        return a.dosis != b.dosis ? a.dosis < b.dosis
-                                  : atrasos.ninos_[a.nino].nacimiento > atrasos.ninos_[b.nino].nacimiento;
-    });
+    for (const std::vector<Renglon> &renglones : porDosis)
+        atrasos.renglones_.insert(atrasos.renglones_.end(), renglones.begin(), renglones.end());
     return atrasos;
 }
 
@@ -95,6 +93,10 @@ void Atrasos::leerNinos(const Busqueda &busqueda)
         ninos_.push_back({pacientes_.valueAt(fila, Numero).integer(),
                           pacientes_.valueAt(fila, Nacimiento).date().dateOnly(), fila});
     std::ranges::sort(ninos_, {}, &Nino::numero);
+    porEdad_.resize(ninos_.size());
+    std::iota(porEdad_.begin(), porEdad_.end(), 0);
+    std::ranges::stable_sort(porEdad_, std::greater(),
+                             [this](std::size_t nino) { return ninos_[nino].nacimiento; });
 }
 
 /// Of each child, in their order. The rows come by patient, so that both are walked side by side.
@@ -122,18 +124,20 @@ std::vector<Atrasos::Dada> Atrasos::dadas(const DosisDelPlan &dosis) const
     return todas;
 }
 
-void Atrasos::comparar(std::size_t dosis, const std::vector<Dada> &dadas, const std::vector<int> &ultimas,
-                       int diasDeAtraso)
+std::vector<Atrasos::Renglon> Atrasos::comparar(std::size_t dosis, const std::vector<Dada> &dadas,
+                                                const std::vector<int> &ultimas, int diasDeAtraso) const
 {
-    for (std::size_t nino = 0; nino < ninos_.size(); ++nino) {
+    std::vector<Renglon> renglones;
+    for (const std::size_t nino : porEdad_) {
         if (dadas[nino].dia != 0 && !dadas[nino].indicada)
             continue;
         const auto anterior =
             ultimas[nino] == 0 ? std::nullopt : std::optional(basic::Date::fromSerial(ultimas[nino]));
         const auto dias = edades_[dosis].atraso(ninos_[nino].nacimiento, hoy_, anterior);
         if (dias && *dias >= diasDeAtraso)
-            renglones_.push_back({nino, dosis, *dias, dadas[nino].indicada});
+            renglones.push_back({nino, dosis, *dias, dadas[nino].indicada});
     }
+    return renglones;
 }
 
 int Atrasos::ninos() const

@@ -60,14 +60,15 @@ private:
     void leerNinos(const Busqueda &busqueda);
     std::vector<Dada> dadas(const DosisDelPlan &dosis) const;
     /// The lines of one dose. `ultimas` has the last day on which the vaccine was given to each child before.
-    void comparar(std::size_t dosis, const std::vector<Dada> &dadas, const std::vector<int> &ultimas,
-                  int diasDeAtraso);
+    std::vector<Renglon> comparar(std::size_t dosis, const std::vector<Dada> &dadas,
+                                  const std::vector<int> &ultimas, int diasDeAtraso) const;
 
     basic::Date hoy_;
     std::vector<DosisDelPlan> plan_;
     std::vector<EdadDeDosis> edades_;
     dao::Recordset pacientes_;
-    std::vector<Nino> ninos_; ///< by number
+    std::vector<Nino> ninos_;          ///< by number
+    std::vector<std::size_t> porEdad_; ///< the same from the youngest
     std::vector<Renglon> renglones_;
 };
 

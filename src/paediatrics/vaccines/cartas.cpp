@@ -12,13 +12,21 @@ using namespace Qt::StringLiterals;
 namespace vacunas
 {
 
-Cartas::Cartas(const Atrasos &atrasos) : lote_(QUuid::createUuid().toString(QUuid::WithoutBraces))
+namespace
+{
+
+constexpr qint64 renglonesPorAviso = 500;
+
+/// False when it was stopped.
+bool escribir(const QString &lote, const Atrasos &atrasos, const Atrasos::Avance &avance)
 {
     dao::Batch juntas(MODULE11::BaseDatos, dao::Batch::Long);
     dao::Recordset filas = MODULE11::BaseDatos.openRecordset(u"CartasVacunas"_s);
     for (qint64 renglon = 0; renglon < atrasos.cuantos(); ++renglon) {
+        if (renglon % renglonesPorAviso == 0 && avance && !avance(renglon, atrasos.cuantos()))
+            return false;
         filas.addNew();
-        filas[u"Lote"] = lote_;
+        filas[u"Lote"] = lote;
         filas[u"Paciente"] = atrasos.paciente(renglon);
         filas[u"Renglon"] = renglon;
         filas[u"Vacuna"] = atrasos.valor(renglon, Atrasos::DeVacuna);
@@ -27,19 +35,26 @@ Cartas::Cartas(const Atrasos &atrasos) : lote_(QUuid::createUuid().toString(QUui
         filas.update();
     }
     juntas.commit();
+    return true;
 }
 
-/// A station that cannot take its letters away leaves them: nobody else reads them.
-Cartas::~Cartas()
-{
-    basic::ignoring({dao::Error::Locked}, [this] {
-        MODULE11::BaseDatos.execute(u"Delete * from CartasVacunas where Lote = "_s + dao::quoted(lote_));
-    });
-}
+} // namespace
 
-QString Cartas::seleccion() const
+void conCartas(const Atrasos &atrasos, const Atrasos::Avance &avance,
+               const std::function<void(const QString &)> &muestra)
 {
-    return u"{CartasVacunas.Lote} = "_s + reports::literal(lote_);
+    const QString lote = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    const auto quitar = [&] {
+        MODULE11::BaseDatos.execute(u"Delete * from CartasVacunas where Lote = "_s + dao::quoted(lote));
+    };
+    try {
+        if (escribir(lote, atrasos, avance))
+            muestra(u"{CartasVacunas.Lote} = "_s + reports::literal(lote));
+    } catch (...) {
+        quitar();
+        throw;
+    }
+    quitar();
 }
 
 } // namespace vacunas

@@ -2,24 +2,16 @@
 
 #include "paediatrics/vaccines/atrasos.h"
 
+#include <functional>
+
 namespace vacunas
 {
 
-/// What the letters about late doses tell, in the base while they are shown: a letter for each child, a line
-/// for each dose. Other stations' letters are not touched.
-class Cartas
-{
-public:
-    explicit Cartas(const Atrasos &atrasos); ///< throws dao::Error
-    ~Cartas();
-    Cartas(const Cartas &) = delete;
-    Cartas &operator=(const Cartas &) = delete;
-
-    /// Of these letters, for the report.
-    QString seleccion() const;
-
-private:
-    QString lote_;
-};
+/// Writes what the letters about late doses tell, a letter for each child and a line for each dose, and calls
+/// `muestra` with the formula that selects them for the report; they are in the base only meanwhile. Other
+/// stations' letters are not touched. `avance` is told of the lines written; false stops it, and nothing is
+/// shown. Throws dao::Error.
+void conCartas(const Atrasos &atrasos, const Atrasos::Avance &avance,
+               const std::function<void(const QString &seleccion)> &muestra);
 
 } // namespace vacunas

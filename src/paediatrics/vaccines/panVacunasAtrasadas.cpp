@@ -196,8 +196,13 @@ void panVacunasAtrasadas::exportar()
 
 void panVacunasAtrasadas::escribirCartas()
 {
-    const vacunas::Cartas cartas(lista_->atrasos());
-    informes::muestra(u"vacunas.rpt"_s, cartas.seleccion());
+    std::optional<Progress> avance(std::in_place, u"Se escribe el renglón"_s);
+    vacunas::conCartas(
+        lista_->atrasos(), [&](qint64 hechos, qint64 todos) { return avance->tell(hechos, todos); },
+        [&](const QString &seleccion) {
+            avance.reset(); // it would stand before the letters
+            informes::muestra(u"vacunas.rpt"_s, seleccion);
+        });
 }
 
 #include "moc_panVacunasAtrasadas.cpp"
