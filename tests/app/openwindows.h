@@ -66,7 +66,7 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panMedidas"), opening<panMedidas>()},
         {QStringLiteral("panInfRelVac"), [] { return std::make_unique<panInfRelVac>(QString()); }},
         {QStringLiteral("panPoneVacuna"),
-         [] { return std::make_unique<panPoneVacuna>(vacunas::Registro()); }},
+         [] { return std::make_unique<panPoneVacuna>(vacunas::Registro(), std::nullopt); }},
         {QStringLiteral("pannueVac"), opening<pannueVac>()},
         {QStringLiteral("panCambiaEstadoTurno"), opening<panCambiaEstadoTurno>()},
         {QStringLiteral("panDispTurnos"), [] { return std::make_unique<panDispTurnos>(basic::today(), 1); }},

@@ -192,6 +192,15 @@ TEST(EdadDeDosis, isLateFromTheDayAfterTheRecommendedAgeUntilTheGreatest)
     EXPECT_FALSE(atraso(rotavirus, 90, 62)) << "four weeks after the dose before";
     EXPECT_EQ(atraso(rotavirus, 91, 62), 1);
 
+    const auto reparo = [&](int dias) {
+        return !rotavirus.reparo(nacimiento, basic::Date(nacimiento.date().addDays(dias))).isEmpty();
+    };
+    EXPECT_TRUE(reparo(37));
+    EXPECT_FALSE(reparo(38)) << "four days are let pass";
+    EXPECT_FALSE(reparo(104));
+    EXPECT_TRUE(reparo(105));
+    EXPECT_TRUE(reparo(-1));
+
     vacunas::EdadDeDosis deUnosPocos{61, {}, {}, {}, u"nacidos desde 2024-01-02"_s};
     EXPECT_FALSE(atraso(deUnosPocos, 100));
     deUnosPocos.grupo = u"nacidos hasta 2024-01-01"_s;

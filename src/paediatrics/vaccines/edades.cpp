@@ -62,6 +62,22 @@ std::optional<int> EdadDeDosis::atraso(basic::Date nacimiento, basic::Date dia,
     return static_cast<int>(dia.wholeDays() - toca);
 }
 
+/// A month of the calendar may be some days shorter than the one that the ages are counted in.
+QString EdadDeDosis::reparo(basic::Date nacimiento, basic::Date dia) const
+{
+    constexpr int tolerancia = 4;
+    const qint64 edad = dia.wholeDays() - nacimiento.wholeDays();
+    if (edad < 0)
+        return u"La fecha es anterior al nacimiento."_s;
+    if (minima && edad < *minima - tolerancia)
+        return u"Antes de la edad mínima de la dosis: %1 días de vida; ese día tenía %2."_s.arg(*minima).arg(
+            edad);
+    if (maxima && edad > *maxima)
+        return u"Después de la edad máxima de la dosis: %1 días de vida; ese día tenía %2."_s.arg(*maxima)
+            .arg(edad);
+    return {};
+}
+
 Edades::Edades()
 {
     for (dao::Recordset filas = MODULE11::BaseDatos.openRecordset(u"Select * from EdadesVacunas"_s,

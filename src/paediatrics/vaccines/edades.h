@@ -25,6 +25,8 @@ struct EdadDeDosis {
     /// the child. `anterior` is the day of the vaccine's dose before it, where that was given.
     std::optional<int> atraso(basic::Date nacimiento, basic::Date dia,
                               const std::optional<basic::Date> &anterior) const;
+    /// Why a dose given on that day may not count; empty when it does.
+    QString reparo(basic::Date nacimiento, basic::Date dia) const;
 };
 
 /// Those that the practice keeps, by vaccine and dose; a dose without has the age of its row of the sheet.

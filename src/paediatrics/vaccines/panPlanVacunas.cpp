@@ -31,10 +31,17 @@ void avisar(const QString &texto)
     msgBox(texto, Icon::Information, u"Mensaje"_s);
 }
 
+Registro leer(dao::Recordset &fila)
+{
+    const basic::Value fecha = fila[u"fecha"];
+    return {fecha.isNull() ? std::nullopt : std::optional(fecha.date()), fila[u"Vacuna"].text(),
+            fila[u"Dosis"].text(), fila[u"observaciones"].text()};
+}
+
 void escribir(dao::Recordset &fila, qint64 paciente, const Registro &registro)
 {
     fila[u"Paciente"] = paciente;
-    fila[u"fecha"] = registro.fecha;
+    fila[u"fecha"] = registro.fecha ? basic::Value(*registro.fecha) : basic::Value(basic::Null{});
     fila[u"Vacuna"] = registro.vacuna;
     fila[u"Dosis"] = registro.dosis;
     fila[u"observaciones"] = registro.observaciones;
@@ -135,30 +142,36 @@ void panPlanVacunas::activate()
 /// Nothing is kept from before: another station may have noted a dose, or changed the plan.
 void panPlanVacunas::llenar()
 {
-    planilla_ = vacunas::planilla(vacunas::plan());
+    const std::vector<DosisDelPlan> plan = vacunas::plan();
+    planilla_ = plan.empty() ? vacunas::planillaSinPlan() : vacunas::planilla(plan);
     lblSinLugar.setCaption(planilla_.sinLugar == 0
                                ? QString()
                                : u"Dosis del plan que no caben en la planilla: %1"_s.arg(planilla_.sinLugar));
+    hoja.mostrar(planilla_, {});
     paciente_.reset();
-    auto paciente = services::paciente(tag());
-    if (paciente) {
-        paciente_ = services::numeroDePaciente(tag());
-        mostrarPaciente(*paciente);
-    } else {
-        hoja.mostrar(planilla_, {});
-        msgBox(u"No se encontro el paciente"_s, Icon::Critical, u"Error"_s);
-    }
-    Command1.setEnabled(paciente_.has_value());
-    Command3.setEnabled(paciente_.has_value());
+    if (!plan.empty())
+        mostrarPaciente();
+    for (CommandButton *comando : {&Command1, &Command3})
+        comando->setEnabled(paciente_.has_value());
 }
 
-void panPlanVacunas::mostrarPaciente(dao::Recordset &paciente)
+void panPlanVacunas::mostrarPaciente()
 {
+    auto hallado = services::paciente(tag());
+    if (!hallado) {
+        msgBox(u"No se encontro el paciente"_s, Icon::Critical, u"Error"_s);
+        return;
+    }
+    dao::Recordset &paciente = *hallado;
+    paciente_ = services::numeroDePaciente(tag());
     const QString nombre = paciente[u"Apellido y Nombres"].text();
     const basic::Value nacimiento = paciente[u"Fecha de Nacimiento"];
+    nacimiento_.reset();
     edad_.reset();
-    if (!nacimiento.isNull())
-        edad_ = vacunas::edadDelPlan(nacimiento.date(), basic::today());
+    if (!nacimiento.isNull()) {
+        nacimiento_ = nacimiento.date();
+        edad_ = vacunas::edadDelPlan(*nacimiento_, basic::today());
+    }
     hoja.mostrarCertificado(
         u"Certifico que %1 cumple con el siguiente plan de vacunación, confecc. el día %2"_s.arg(
             nombre, MODULE11::FechaEnLetras(basic::today())));
@@ -201,7 +214,7 @@ void panPlanVacunas::conLaElegida(const std::function<void(const DosisDelPlan &)
 /// A dose that was prescribed becomes the one given.
 void panPlanVacunas::marcarColocada(const DosisDelPlan &dosis)
 {
-    panPoneVacuna entrada({basic::today(), dosis.vacuna, dosis.dosis, {}});
+    panPoneVacuna entrada({basic::today(), dosis.vacuna, dosis.dosis, {}}, nacimiento_);
     entrada.showModal();
     if (entrada.tag() != u"SI")
         return;
@@ -218,7 +231,8 @@ void panPlanVacunas::marcarColocada(const DosisDelPlan &dosis)
 
 void panPlanVacunas::marcarIndicada(const DosisDelPlan &dosis)
 {
-    panPoneVacuna entrada({basic::today(), dosis.vacuna, dosis.dosis, vacunas::indicada.toString()});
+    panPoneVacuna entrada({basic::today(), dosis.vacuna, dosis.dosis, vacunas::indicada.toString()},
+                          nacimiento_);
     entrada.showModal();
     if (entrada.tag() != u"SI")
         return;
@@ -248,11 +262,7 @@ void panPlanVacunas::verRegistro(const DosisDelPlan &dosis)
         avisar(u"Dosis no registrada"_s);
         return;
     }
-    dao::Recordset &fila = registros.fila();
-    panPoneVacuna(
-        {fila[u"fecha"].date(), fila[u"Vacuna"].text(), fila[u"Dosis"].text(), fila[u"observaciones"].text()},
-        panPoneVacuna::Uso::Ver)
-        .showModal();
+    panPoneVacuna(leer(registros.fila()), nacimiento_, panPoneVacuna::Uso::Ver).showModal();
 }
 
 // --- the whole sheet ---

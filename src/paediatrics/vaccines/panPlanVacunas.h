@@ -26,7 +26,7 @@ private:
     void agregarAlMenu(const QString &nombre, const QString &titulo, const std::function<void()> &trabajo);
 
     void llenar();
-    void mostrarPaciente(dao::Recordset &paciente);
+    void mostrarPaciente();
     void abrirMenu(const QString &item);
     /// What is done to the chosen dose; then the sheet is built again.
     void conLaElegida(const std::function<void(const vacunas::DosisDelPlan &)> &trabajo);
@@ -38,6 +38,7 @@ private:
     void imprimir();
 
     std::optional<qint64> paciente_;
+    std::optional<basic::Date> nacimiento_;
     std::optional<vacunas::EdadDelPlan> edad_;
     vacunas::Planilla planilla_;
     bool trabajando_ = false; ///< the sheet is built once, when the work is done

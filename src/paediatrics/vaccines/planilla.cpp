@@ -129,6 +129,20 @@ Planilla planilla(const std::vector<DosisDelPlan> &plan)
     return hoja;
 }
 
+Planilla planillaSinPlan()
+{
+    Planilla hoja;
+    hoja.columnas = {{u"BCG"_s, u"Tuberculosis"_s},
+                     {u"Sabin"_s, u"Poliomelitis"_s},
+                     {u"Cuadr."_s, u"Difteria, Tetanos, Tos convulsa + Hemophilus"_s},
+                     {u"Tr.Viral"_s, u"Sarampion, Rubeola, Paperas"_s},
+                     {u"DTa"_s, u"Meningoc. A y C"_s}};
+    for (const char16_t *detalle :
+         {u"Hemophilus B", u"Hepatitis A", u"Hepatitis B", u"Doble", u"Sarampión", u"Varicela"})
+        hoja.columnas.push_back({{}, QString::fromUtf16(detalle)});
+    return hoja;
+}
+
 /// The rows are read in the order in which they were noted: of two of one dose the later counts.
 void Planilla::ponerEstados(qint64 paciente, const std::optional<EdadDelPlan> &edad)
 {

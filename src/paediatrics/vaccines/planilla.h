@@ -65,5 +65,7 @@ struct Planilla {
     void ponerEstados(qint64 paciente, const std::optional<EdadDelPlan> &edad);
 };
 Planilla planilla(const std::vector<DosisDelPlan> &plan);
+/// The heads that the sheet has while the practice has no plan.
+Planilla planillaSinPlan();
 
 } // namespace vacunas
