@@ -9,6 +9,7 @@
 #include "prescriptions.h"
 #include "subsystems.h"
 #include "summary.h"
+#include "vaccines.h"
 #include "visits.h"
 
 #include "clinical/patients/panSelPaciente.h"
@@ -67,6 +68,7 @@ void measure()
     bench::laboratory(report);
     bench::births(report);
     bench::summary(report);
+    bench::vaccines(report);
     window.hide();
 }
 

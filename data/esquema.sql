@@ -149,6 +149,11 @@ CREATE INDEX orden ON CalVacunas (orden);
 
 CREATE TABLE CamposImport (CampoEnAfiliado TEXT(64), PosicionInicial LONG, Tamano LONG, CampoIndex BIT);
 
+-- The letters about doses that are late, while they are shown; `Lote` parts those of one station from another's.
+CREATE TABLE CartasVacunas (Lote TEXT(40), Paciente LONG, Renglon LONG, Vacuna TEXT(100), Dosis TEXT(30),
+    Atraso TEXT(60));
+CREATE INDEX Lote ON CartasVacunas (Lote);
+
 CREATE TABLE Categorias (idClasificacion TEXT(2), idGrupo TEXT(4), idCategoria TEXT(5),
     Categoria TEXT(255));
 CREATE UNIQUE INDEX PrimaryKey ON Categorias (idCategoria) WITH PRIMARY;
@@ -267,6 +272,12 @@ CREATE INDEX clasificacion ON DIAGPERSONALES (Clasificacion);
 CREATE TABLE DisTurnos (idProfesional LONG, Fecha DATE, desde1 TEXT(5), hasta1 TEXT(5), desde2 TEXT(5),
     hasta2 TEXT(5));
 CREATE INDEX idProfesional ON DisTurnos (idProfesional);
+
+-- The true ages of a dose, in days; what is not known is Null. `grupo` tells for whom: empty for all, or the days of
+-- birth that it is for.
+CREATE TABLE EdadesVacunas (Vacuna TEXT(20), Dosis TEXT(30), edad_recomendada_dias LONG, edad_minima_dias LONG,
+    edad_maxima_dias LONG, intervalo_minimo_dias LONG, grupo TEXT(255));
+CREATE INDEX VacunaDosis ON EdadesVacunas (Vacuna, Dosis);
 
 CREATE TABLE Estudios (Paciente LONG, Fecha DATE, Tipo TEXT(100), Especialista TEXT(100), Resultados MEMO,
     Observaciones MEMO);
@@ -513,6 +524,7 @@ CREATE INDEX Nombre ON Usuarios (Nombre);
 CREATE TABLE Vacunas (Paciente LONG, fecha DATE, Vacuna TEXT(20), Dosis TEXT(30), observaciones TEXT(255));
 CREATE INDEX Paciente ON Vacunas (Paciente);
 CREATE INDEX VacIndex ON Vacunas (Paciente, Vacuna, Dosis);
+CREATE INDEX PorDosis ON Vacunas (Vacuna, Dosis, Paciente, fecha, observaciones);
 
 CREATE TABLE VidaSexual (idPaciente LONG, Topico TEXT(100), Valor TEXT(255));
 CREATE INDEX idPaciente ON VidaSexual (idPaciente);

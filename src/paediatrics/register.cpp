@@ -16,6 +16,9 @@
 #include "paediatrics/perinatal/panfichaPer.h"
 #include "paediatrics/pressure/panTension.h"
 #include "paediatrics/sight/panVisual.h"
+#include "paediatrics/vaccines/panCalVacunas.h"
+#include "paediatrics/vaccines/panPlanVacunas.h"
+#include "paediatrics/vaccines/panVacunasAtrasadas.h"
 
 using namespace Qt::StringLiterals;
 
@@ -43,6 +46,9 @@ void paediatrics::registerScreens()
     screens::add<panTension>("panTension");
     screens::add<panVisual>("panVisual");
     screens::addOperation("AbrePerinatal", AbrePerinatal);
+    screens::add<panPlanVacunas>("panPlanVacunas");
+    screens::add<panCalVacunas>("panCalVacunas");
+    screens::add<panVacunasAtrasadas>("panVacunasAtrasadas");
     for (const charts::ClassicalChart &chart : charts::classicalCharts())
         screens::add(screens::Window::find(chart.form).value(),
                      [&chart] { return std::make_unique<panPercentil>(chart); });

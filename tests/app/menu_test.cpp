@@ -39,7 +39,6 @@ const std::set<std::string> notBuiltYet{
     "panMadNeurol",
     "panObras",
     "panOft",
-    "panPlanVacunas",
     "panPrestaciones",
     "panProtBase",
     "panRiesgoOperatorio",

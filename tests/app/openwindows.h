@@ -23,6 +23,9 @@
 #include "paediatrics/perinatal/panOtrosRecien.h"
 #include "paediatrics/pressure/panTomaTension.h"
 #include "paediatrics/sight/panNueVisual.h"
+#include "paediatrics/vaccines/panInfRelVac.h"
+#include "paediatrics/vaccines/panPoneVacuna.h"
+#include "paediatrics/vaccines/pannueVac.h"
 #include "platform/forms/application.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/dbgrid.h"
@@ -71,6 +74,10 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panObservaRecien"), opening<panObservaRecien>()},
         {QStringLiteral("panTomaTension"), opening<panTomaTension>()},
         {QStringLiteral("panNueVisual"), opening<panNueVisual>()},
+        {QStringLiteral("panInfRelVac"), [] { return std::make_unique<panInfRelVac>(QString()); }},
+        {QStringLiteral("panPoneVacuna"),
+         [] { return std::make_unique<panPoneVacuna>(vacunas::Registro(), std::nullopt); }},
+        {QStringLiteral("pannueVac"), opening<pannueVac>()},
         {QStringLiteral("panCambiaEstadoTurno"), opening<panCambiaEstadoTurno>()},
         {QStringLiteral("panDispTurnos"), [] { return std::make_unique<panDispTurnos>(basic::today(), 1); }},
         {QStringLiteral("panNueTurno"), opening<panNueTurno>()},

@@ -29,7 +29,9 @@ protected:
              "INSERT INTO Eventos (Proceso, Usuario, Fecha, Hora, Suceso) VALUES ('IngresarATurnos', "
              "'D''Angelo', cdate('15/03/2024'), '08:20', 'INGRESO CORRECTO')",
              "INSERT INTO Recetario (idPaciente, Paciente, fecha, Receta, Dr) VALUES (1, 'D''Angelo', "
-             "cdate('15/03/2024'), 'Amoxicilina <500> & reposo', 'Dra. O''Higgins')"});
+             "cdate('15/03/2024'), 'Amoxicilina <500> & reposo', 'Dra. O''Higgins')",
+             "INSERT INTO CartasVacunas (Lote, Paciente, Renglon, Vacuna, Dosis, Atraso) VALUES ('L', 1, 1, 'BCG', "
+             "'1 MES', '2 meses')"});
     }
 
     static reports::Report report(const QString &file, const QString &formula)
@@ -69,6 +71,7 @@ std::map<QString, Expected> files()
         {u"profesionales.rpt"_s, {QString(), u"Dra. O'Higgins"_s}},
         {u"receta.rpt"_s, {u"{recetario.idReceta} = 1"_s, u"Amoxicilina <500> & reposo"_s}},
         {u"turnos.rpt"_s, {seleccion::deTurnos(march, {}), u"Turnos de Dra. O'Higgins: 1"_s}},
+        {u"vacunas.rpt"_s, {u"{CartasVacunas.Lote} = 'L'"_s, u"BCG\t1 MES\t2 meses"_s}},
     };
 }
 

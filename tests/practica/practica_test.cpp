@@ -3,6 +3,7 @@
 #include "clinical/visits/examen.h"
 #include "core/session/session.h"
 #include "core/session/startup.h"
+#include "paediatrics/vaccines/atrasos.h"
 
 #include <gtest/gtest.h>
 
@@ -249,3 +250,19 @@ TEST_F(SyntheticPractice, RefusesMoreVisitsThanAChildhoodHasDays)
 }
 
 } // namespace
+
+TEST_F(SyntheticPractice, HasCompleteLateAndEmptyVaccinePlans)
+{
+    const auto late = vacunas::Atrasos::buscar({}, basic::Date(today));
+    std::set<qint64> lateChildren;
+    for (qint64 line = 0; line < late->cuantos(); ++line)
+        lateChildren.insert(late->paciente(line));
+    for (const qint64 child : lateChildren)
+        EXPECT_LT(child % 10, 4) << "every dose of its age is noted";
+    EXPECT_EQ(count(u"Vacunas where Paciente = 10"_s), 0);
+    EXPECT_GT(count(u"Vacunas where Paciente mod 10 in (1, 2, 3) and observaciones = 'INDICADA'"_s), 0);
+    EXPECT_EQ(count(u"Vacunas v inner join Pacientes p on v.Paciente = p.Numero "
+                    "where v.fecha < p.[Fecha de Nacimiento] or v.fecha > cdate('04/03/2026')"_s),
+              0);
+    EXPECT_GT(lateChildren.size(), 5u);
+}

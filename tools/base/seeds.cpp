@@ -119,6 +119,20 @@ void fillFrom(dao::Database &base, const QDir &data, const Source &source)
         addRow(rows, table.headings, localNumbers(rows, table.headings, values));
 }
 
+/// The delivered plan is the national calendar's; that one tells the true ages of its doses besides.
+void fillVaccineAges(dao::Database &base, const QDir &data)
+{
+    const CsvTable table = readCsv(data.filePath(u"calendarios/argentina.csv"_s));
+    dao::Recordset rows = base.openRecordset(u"EdadesVacunas"_s);
+    for (const QStringList &row : table.rows) {
+        rows.addNew();
+        for (const dao::FieldDef &column : rows.fields())
+            if (const QString &value = row[table.column(column.name)]; !value.isEmpty())
+                rows[column.name] = value;
+        rows.update();
+    }
+}
+
 void fillCatalogue(dao::Database &base, const QDir &data, const Catalogue &catalogue)
 {
     const CsvTable table = readCsv(data.filePath(QString::fromUtf8(catalogue.file)));
@@ -174,6 +188,7 @@ void fill(dao::Database &base, const QDir &data)
 {
     for (const Source &source : sources)
         fillFrom(base, data, source);
+    fillVaccineAges(base, data);
     fillCategories(base, data);
     for (const Catalogue &catalogue : catalogues)
         fillCatalogue(base, data, catalogue);

@@ -1,5 +1,5 @@
-// practica FILE [--pacientes N] [--consultas N] [--medidas N] [--examenes N] [--cronico N] [--turnos]
-// [--semilla N]
+// practica FILE [--pacientes N] [--consultas N] [--medidas N] [--examenes N] [--cronico N] [--vacunados N]
+// [--turnos] [--semilla N]
 #include "practice.h"
 
 #include "core/database/actualiza.h"
@@ -30,6 +30,7 @@ int main(int argc, char **argv)
     number(u"medidas"_s, u"0"_s);
     number(u"examenes"_s, u"-1"_s);
     number(u"cronico"_s, u"0"_s);
+    number(u"vacunados"_s, u"2000"_s);
     number(u"semilla"_s, u"1"_s);
     line.addOption({u"turnos"_s, u"a year of appointments"_s});
     line.process(application);
@@ -47,6 +48,7 @@ int main(int argc, char **argv)
         size.yearOfAppointments = line.isSet(u"turnos"_s);
         size.examinations = line.value(u"examenes"_s).toInt();
         size.chronic = line.value(u"cronico"_s).toInt();
+        size.vaccinated = line.value(u"vacunados"_s).toInt();
         size.seed = line.value(u"semilla"_s).toUInt();
         size.today = QDate::currentDate();
         practica::fill(size);

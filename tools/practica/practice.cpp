@@ -2,6 +2,7 @@
 
 #include "appointments.h"
 #include "births.h"
+#include "vaccines.h"
 #include "visits.h"
 
 #include "core/session/session.h"
@@ -154,6 +155,8 @@ void fill(const Size &size)
     addBirths(patients, growth, dice);
     addPressures();
     addSightTests(patients, dice);
+    Dice ofVaccines(size.seed); // of their own: what the others throw stays as it is
+    addVaccines(patients, size.vaccinated, size.today, ofVaccines);
     QStringList names;
     for (const Doctor &doctor : doctors())
         names += doctor.name;

@@ -13,6 +13,7 @@ struct Size {
     bool yearOfAppointments = false; ///< a full book around today instead of the next ten days'
     int examinations = -1; ///< how many visits, the latest, have theirs; less than 0: 20,000 at most
     int chronic = 0;       ///< visits of the first patient, all examined, beside those of the others
+    int vaccinated = 2000; ///< how many patients, the first, have their doses
     unsigned seed = 1;
     QDate today; ///< the practice's last day
 };

@@ -3,6 +3,7 @@
 #include "clinical/history/panConvHC.h"
 #include "core/services/opcionesPerinatales.h"
 #include "core/services/paciente.h"
+#include "core/services/planDeVacunas.h"
 #include "core/session/session.h"
 #include "platform/basic/environment.h"
 #include "platform/basic/runtime.h"
@@ -268,7 +269,7 @@ QString visita(Recordset &v)
 
 QString vacuna(Recordset &v)
 {
-    const bool indicada = texto(v, u"observaciones") == u"INDICADA";
+    const bool indicada = texto(v, u"observaciones") == vacunas::indicada;
     return (indicada ? u"INDICACION DE VACUNA :"_s : u"REG.VACUNA :"_s) + texto(v, u"fecha") + u' ' +
            texto(v, u"Vacuna") + u' ' + texto(v, u"Dosis");
 }

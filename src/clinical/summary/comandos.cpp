@@ -11,7 +11,7 @@ namespace
 // clang-format off
 constexpr Comando todos[] = {
     {"Command90", "Registrar Dosis", Lugar::Pediatria, "panPlanVacunas"},
-    {"Command88", "Administrar plan de vacunación", Lugar::Pediatria, ""},
+    {"Command88", "Administrar plan de vacunación", Lugar::Pediatria, "panCalVacunas"},
     {"command15", "Alimentación", Lugar::Pediatria, "panAlimentacion"},
     {"command9", "Mad.Neurológica", Lugar::Pediatria, "panMadNeurol"},
     {"SsCommand4", "Agudeza Visual", Lugar::Pediatria, "panVisual"},

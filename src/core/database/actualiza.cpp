@@ -149,13 +149,14 @@ constexpr const char *trasLosTamanos[] = {
 // No rule asks for these; speed does. A visit on the screen asks for its examination by patient and day, a
 // visit deleted takes its rows by number, and a practice of years has a million of them: an index over the
 // patient alone leaves all rows of a child of many visits to be read, one over the day those of all children.
-// The reports list the visits by day and hour: unsorted, their first page waits for a million to be put in
-// order.
+// The reports list the visits by day and hour: unsorted, their first page waits for a million to be put in order.
+// Who is late for a vaccine is asked dose by dose of all patients at once: the index holds all that is asked.
 constexpr const char *indicesDeVelocidad[] = {
     "CREATE INDEX PacFecha ON ExFisico (idPaciente, Fecha)",
     "CREATE INDEX idConsulta ON ExFisico (idConsulta)",
     "CREATE INDEX fechaPaciente ON Recetario (fecha, Paciente)",
     "CREATE INDEX FechaHora ON Consulta (Fecha, Hora)",
+    "CREATE INDEX PorDosis ON Vacunas (Vacuna, Dosis, Paciente, fecha, observaciones)",
 };
 
 // The allergy record of a patient and the lines of the patient's history stand in one table: the record has
@@ -172,6 +173,13 @@ constexpr const char *columnasAjenasDePresion[] = {
     "ALTER TABLE Presion DROP COLUMN Maxima",
     "ALTER TABLE Presion DROP COLUMN Minima",
     "ALTER TABLE Presion DROP COLUMN Fecha",
+};
+
+constexpr const char *tablasDeVacunas[] = {
+    "CREATE TABLE EdadesVacunas (Vacuna TEXT(20), Dosis TEXT(30), edad_recomendada_dias LONG, edad_minima_dias LONG, edad_maxima_dias LONG, intervalo_minimo_dias LONG, grupo TEXT(255))",
+    "CREATE INDEX VacunaDosis ON EdadesVacunas (Vacuna, Dosis)",
+    "CREATE TABLE CartasVacunas (Lote TEXT(40), Paciente LONG, Renglon LONG, Vacuna TEXT(100), Dosis TEXT(30), Atraso TEXT(60))",
+    "CREATE INDEX Lote ON CartasVacunas (Lote)",
 };
 
 /// A statement that has taken effect fails, and so does one that names a column that never was.
@@ -288,6 +296,7 @@ void ActualizaBase()
     ejecuta(columnasAjenasDePresion);
     basic::ignoring(yaHecho, liberaFichaPerinatal);
     basic::ignoring(yaHecho, fraccionaPresiones);
+    ejecuta(tablasDeVacunas);
     reparaTipoDeUsuarios();
     basic::ignoring(yaHecho, [] { BaseDatos.widenText(u"Usuarios"_s, u"Clave"_s, largoDeClave); });
     basic::ignoring(yaHecho, alargaResultados);
