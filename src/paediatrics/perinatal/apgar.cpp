@@ -53,6 +53,7 @@ Apgar::Apgar(Campos &campos)
         for (int signo = 0; signo < cuantos; ++signo) {
             Puntaje &caja = Text4.add(columna * cuantos + signo);
             campos.ligar(u"Apgar %1 %2"_s.arg(QStringView(signos[signo].columna), momento), caja);
+            caja.setAccessibleName(u"%1 %2"_s.arg(QStringView(signos[signo].rotulo), momento));
             QObject::connect(&caja, &QLineEdit::textEdited, &caja, [this, columna] { sumar(columna); });
         }
         campos.ligar(u"Apgar total %1"_s.arg(momento), Text40.add(primerTotal + columna, 3));

@@ -24,8 +24,8 @@ struct Fila {
     }
 };
 
-const Fila perinatal_{u"Perinatal"_s, u"idPaciente"_s};
-const Fila pediatria_{u"Pediatria"_s, u"numero"_s};
+const Fila filaPerinatal{u"Perinatal"_s, u"idPaciente"_s};
+const Fila filaPediatria{u"Pediatria"_s, u"numero"_s};
 
 const QString patologiasPerinatales = u"patologias perinatales"_s;
 const QString diagnosticoRN = u"diagnostico RN"_s;
@@ -117,16 +117,16 @@ basic::Value valor(const Valores &valores, const QString &columna)
 
 Ficha leer(qint64 paciente)
 {
-    return {leerFila(perinatal_, paciente), leerFila(pediatria_, paciente),
+    return {leerFila(filaPerinatal, paciente), leerFila(filaPediatria, paciente),
             leerLista(patologiasPerinatales, paciente), leerLista(diagnosticoRN, paciente)};
 }
 
 void guardar(qint64 paciente, const Ficha &ficha)
 {
     dao::Batch golpe(BaseDatos);
-    escribirFila(perinatal_, paciente, ficha.perinatal);
+    escribirFila(filaPerinatal, paciente, ficha.perinatal);
     if (!ficha.pediatria.empty())
-        escribirFila(pediatria_, paciente, ficha.pediatria);
+        escribirFila(filaPediatria, paciente, ficha.pediatria);
     escribirLista(patologiasPerinatales, paciente, ficha.patologias);
     escribirLista(diagnosticoRN, paciente, ficha.diagnosticos);
     anotarMedidas(paciente, ficha.perinatal);

@@ -71,6 +71,7 @@ Curva::Curva(const QString &nombre, Cual cual) : Canvas(nombre, tamanoDeCurva), 
     setAccessibleName(cual == Cual::Minima ? u"Curva de la mínima"_s : u"Curva de la máxima"_s);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFrameShape(QFrame::NoFrame); // its measures are those of the picture
     setFixedSize(sizeHint());
     trazarEscala();
 }
@@ -88,6 +89,7 @@ void Curva::trazarEscala()
 {
     constexpr int tercio = 20; // twips by which a label stands off its line
     QPainterPath lineas;
+    lineas.addRect(QRectF({}, sizeTwips()));
     for (int anio = 1; anio * 12 < meses; ++anio) {
         const double x = lugarEnCurva(cual_, sizeTwips(), anio * 12, 0).x();
         lineas.moveTo(x, 0);

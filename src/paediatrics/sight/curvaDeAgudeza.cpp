@@ -22,6 +22,7 @@ Curva::Curva(const QString &nombre) : Canvas(nombre, {columnas * anchoDeAnio, fi
     setAccessibleName(u"Agudeza visual por edad"_s);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFrameShape(QFrame::NoFrame); // its measures are those of the picture
     setFixedSize(sizeHint());
     trazarEscala();
 }
@@ -38,6 +39,7 @@ void Curva::trazarEscala()
     QFont letra;
     letra.setPointSizeF(7);
     QPainterPath lineas;
+    lineas.addRect(QRectF({}, sizeTwips()));
     const auto rotular = [&](const QString &nombre, QPointF donde, const QString &texto) {
         add(nombre, donde, TextLook{texto, letra, 0, tintaDeRotulo}).setInert();
     };
