@@ -6,6 +6,8 @@
 #include <QBuffer>
 #include <QFile>
 #include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -271,4 +273,35 @@ TEST(RichText, aFileOfAnotherWordProcessor)
     EXPECT_TRUE(in.reading.complete);
     EXPECT_EQ(in.reading.picturesLeftOut, 0);
     expectKept(in.document);
+}
+
+/// By hand, with SANIRELL_SOFFICE set to the program: what we write reads the same in another word processor,
+/// and what it makes of that reads the same here.
+TEST(RichText, anotherWordProcessorReadsOurs)
+{
+    const QString program = qEnvironmentVariable("SANIRELL_SOFFICE");
+    if (program.isEmpty())
+        GTEST_SKIP() << "SANIRELL_SOFFICE names no word processor";
+    const QTemporaryDir folder;
+    QFile theirs(QStringLiteral(TEST_DATA "/richtext/libreoffice.rtf"));
+    ASSERT_TRUE(theirs.open(QIODevice::ReadOnly));
+    const Read in(theirs.readAll());
+    QFile ours(folder.filePath(u"nuestro.rtf"_s));
+    ASSERT_TRUE(ours.open(QIODevice::WriteOnly));
+    ours.write(richtext::write(in.document));
+    ours.close();
+    const auto converted = [&](const QString &format, const QString &name) {
+        QProcess::execute(program, {u"-env:UserInstallation=file://%1/perfil"_s.arg(folder.path()),
+                                    u"--headless"_s, u"--convert-to"_s, format, u"--outdir"_s,
+                                    folder.filePath(u"salida"_s), ours.fileName()});
+        QFile result(folder.filePath(u"salida/"_s + name));
+        EXPECT_TRUE(result.open(QIODevice::ReadOnly)) << qPrintable(result.fileName());
+        return result.readAll();
+    };
+    const Read back(converted(u"rtf"_s, u"nuestro.rtf"_s));
+    EXPECT_EQ(seen(back.document), seen(in.document));
+    const QString text = QString::fromUtf8(converted(u"txt:Text (encoded):UTF8"_s, u"nuestro.txt"_s));
+    for (const char *line : {"Ecocardiograma de D'Amico Luz — ñandú", "1. Repetir", "a. presión",
+                             "DDVI\t45 mm", "fracción 62 % ≥ 55 Ω", "Fin {llaves} \\barra 😀"})
+        EXPECT_TRUE(text.contains(QString::fromUtf8(line))) << line << "\n" << qPrintable(text);
 }
