@@ -16,7 +16,7 @@ using namespace forms;
 namespace
 {
 
-constexpr QSize medida(124, 84);
+constexpr QSize medida(148, 84);
 
 } // namespace
 
@@ -97,10 +97,15 @@ void CasillaDeImagen::mostrar(const complementos::Imagen &imagen)
 {
     archivo_ = imagen.archivo;
     Image1_.mostrar(archivo_);
-    mFecha_.setText(imagen.fecha.isBlank() ? complementos::sinFecha : basic::dateText(imagen.fecha.date()));
+    ponerFecha(imagen.fecha);
     for (QWidget *deLaImagen : std::initializer_list<QWidget *>{&mFecha_, &quitar_})
         deLaImagen->setEnabled(!archivo_.isEmpty());
     ver_.setEnabled(Image1_.existe());
+}
+
+void CasillaDeImagen::ponerFecha(const basic::Value &fecha)
+{
+    mFecha_.setText(fecha.isBlank() ? complementos::sinFecha : basic::dateText(fecha.date()));
 }
 
 void CasillaDeImagen::irALaFecha()

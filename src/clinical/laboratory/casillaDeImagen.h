@@ -35,7 +35,9 @@ public:
 
     void numerar(int numero);
     void mostrar(const complementos::Imagen &imagen);
+    void ponerFecha(const basic::Value &fecha);
     const QString &archivo() const { return archivo_; }
+    bool existe() const { return Image1_.existe(); }
     /// What was typed as its date; see complementos::fechaEscrita().
     QString fechaEscrita() const { return mFecha_.text(); }
     void irALaFecha();

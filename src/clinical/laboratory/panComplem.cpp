@@ -45,7 +45,6 @@ enum Lugar {
 }; // Toolbar1
 
 constexpr int sinEscribir = 75;
-constexpr int altoDeLaTira = 150;
 
 } // namespace
 
@@ -57,9 +56,8 @@ panComplem::panComplem() : Form(u"panComplem"_s)
     lblPaciente.setFont(destacada);
     RT1.setFont(QFont(u"Arial"_s, 11));
     RT1.setAccessibleName(u"Informe"_s);
-    setContents(this,
-                Column{Row{lblPaciente, Stretch()}, barra(), Splitter(Qt::Vertical, {{RT1, 3}, {tira(), 1}}),
-                       Row{Label1, Stretch(), Command1, Command2}});
+    setContents(this, Column{Row{lblPaciente, Stretch()}, barra(), Expanding(RT1), tira(),
+                             Row{Label1, Stretch(), Command1, Command2}});
     resize(960, 640);
     connect(&RT1, &QTextEdit::currentCharFormatChanged, this, &panComplem::mostrarLetra);
     connect(&RT1, &QTextEdit::cursorPositionChanged, this, &panComplem::mostrarParrafo);
@@ -217,7 +215,8 @@ void panComplem::imprimir()
         return;
     QStringList archivos;
     for (const CasillaDeImagen *casilla : casillas_)
-        archivos += casilla->archivo();
+        if (casilla->existe())
+            archivos += casilla->archivo();
     complementos::imprimir(*RT1.document(), archivos, impresora);
 }
 
@@ -228,13 +227,14 @@ Item panComplem::tira()
     auto *fila = new QWidget;
     auto *lugar = new QHBoxLayout(fila);
     lugar->setContentsMargins(2, 2, 2, 2);
-    lugar->addStretch();
+    lugar->addStretch(1);
     tira_.setWidget(fila);
     tira_.setWidgetResizable(true);
-    tira_.setMinimumHeight(60);
     tira_.setFocusPolicy(Qt::NoFocus);
     tira_.horizontalScrollBar()->setObjectName(u"HScroll1"_s);
-    agregarCasilla();
+    const int alto = agregarCasilla().sizeHint().height() + tira_.horizontalScrollBar()->sizeHint().height();
+    tira_.setFixedHeight(alto + 8);
+    RT1.setMinimumHeight(60);
     return tira_;
 }
 
@@ -250,6 +250,15 @@ CasillaDeImagen &panComplem::agregarCasilla()
     connect(casilla, &CasillaDeImagen::quitar, this, [this, casilla] { quitarCasilla(*casilla); });
     connect(casilla, &CasillaDeImagen::cambiada, this, [this] { imagenesCambiadas_ = true; });
     return *casilla;
+}
+
+/// What is in sight is what was saved.
+void panComplem::quitarLasQueFaltan()
+{
+    const std::vector<CasillaDeImagen *> todas = casillas_;
+    for (CasillaDeImagen *casilla : todas)
+        if (!casilla->archivo().isEmpty() && !casilla->existe())
+            quitarCasilla(*casilla);
 }
 
 void panComplem::numerarCasillas()
@@ -305,6 +314,7 @@ std::optional<std::vector<complementos::Imagen>> panComplem::imagenes()
             casilla->irALaFecha();
             return {};
         }
+        casilla->ponerFecha(*fecha);
         todas.push_back({casilla->archivo(), *fecha});
     }
     return todas;
@@ -332,6 +342,7 @@ void panComplem::leer()
         agregarCasilla();
     }
     leerInforme();
+    RT1.moveCursor(QTextCursor::Start);
     mostrarLetra(RT1.currentCharFormat());
     mostrarParrafo();
 }
@@ -386,6 +397,7 @@ void panComplem::guardar()
     complemento_.imagenes = *enLaTira;
     escribirInforme();
     complementos::guardar(paciente_, examen_, complemento_);
+    quitarLasQueFaltan();
     RT1.document()->setModified(false);
     imagenesCambiadas_ = false;
     Label1.setCaption(u"Guardado a las "_s + basic::format(basic::time(), u"HH:MM"));

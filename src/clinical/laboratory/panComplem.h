@@ -50,6 +50,7 @@ private:
     CasillaDeImagen &agregarCasilla();
     void elegirImagen(CasillaDeImagen &casilla);
     void quitarCasilla(CasillaDeImagen &casilla);
+    void quitarLasQueFaltan();
     void numerarCasillas();
     /// The pictures as they are in the row; nothing when a date is none: it was told.
     std::optional<std::vector<complementos::Imagen>> imagenes();
