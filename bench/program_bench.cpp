@@ -2,6 +2,7 @@
 //   bench_program FOLDER
 // Ends non-zero when something was over its limit.
 #include "appointments.h"
+#include "complements.h"
 #include "laboratory.h"
 #include "limits.h"
 #include "measure.h"
@@ -63,6 +64,7 @@ void measure()
     bench::visits(report);
     bench::prescriptions(report);
     bench::laboratory(report);
+    bench::complements(report);
     window.hide();
 }
 
