@@ -4,6 +4,7 @@
 #include "clinical/family/panSelAnteFliar.h"
 #include "clinical/laboratory/panComparaAnalisis.h"
 #include "clinical/laboratory/panInAn.h"
+#include "clinical/laboratory/panTendencia.h"
 #include "clinical/laboratory/panNueAg.h"
 #include "clinical/laboratory/panNueAnalisis.h"
 #include "clinical/laboratory/panNueEstudio.h"
@@ -54,6 +55,7 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panNueConsulta"), opening<panNueConsulta>()},
         {QStringLiteral("panComparaAnalisis"), opening<panComparaAnalisis>()},
         {QStringLiteral("panInAn"), opening<panInAn>()},
+        {QStringLiteral("panTendencia"), opening<panTendencia>()},
         {QStringLiteral("panNueAg"), opening<panNueAg>()},
         {QStringLiteral("panNueAnalisis"), opening<panNueAnalisis>()},
         {QStringLiteral("panNueEstudio"), opening<panNueEstudio>()},
