@@ -15,9 +15,17 @@ void ListTables::beginLevel()
 
 void ListTables::setLevelNumber(int number)
 {
+    constexpr int withoutMark = 255;
+    if (lists_.empty() || lists_.back().levels.empty())
+        return;
+    auto &level = lists_.back().levels.back();
     const auto bullet = std::ranges::find(bullets, number, &Bullet::number);
-    if (bullet != bullets.end() && !lists_.empty() && !lists_.back().levels.empty())
-        lists_.back().levels.back() = bullet->style;
+    if (bullet != bullets.end())
+        level = bullet->style;
+    else if (number == withoutMark)
+        level.reset();
+    else
+        level = QTextListFormat::ListDecimal; // ordinals, words and the like
 }
 
 void ListTables::setListId(int id)
@@ -26,7 +34,7 @@ void ListTables::setListId(int id)
         lists_.back().id = id;
 }
 
-QTextListFormat::Style ListTables::style(int number, int level) const
+std::optional<QTextListFormat::Style> ListTables::style(int number, int level) const
 {
     const auto id = idOfNumber_.find(number);
     if (id == idOfNumber_.end())

@@ -3,6 +3,7 @@
 #include <QTextListFormat>
 
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace richtext
@@ -22,13 +23,14 @@ public:
     void setOverrideId(int id) { overrideId_ = id; }
     void setOverrideNumber(int number) { idOfNumber_[number] = overrideId_; }
 
-    /// Of the paragraphs of the list with this number at this level; a plain bullet when it was not declared.
-    QTextListFormat::Style style(int number, int level) const;
+    /// Of the paragraphs of the list with this number at this level: a plain bullet when it was not declared,
+    /// and nothing where the file numbers without a mark, as it does with headings.
+    std::optional<QTextListFormat::Style> style(int number, int level) const;
 
 private:
     struct List {
         int id = 0;
-        std::vector<QTextListFormat::Style> levels;
+        std::vector<std::optional<QTextListFormat::Style>> levels;
     };
     std::vector<List> lists_;
     std::map<int, int> idOfNumber_;

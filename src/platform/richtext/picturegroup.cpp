@@ -3,6 +3,7 @@
 #include "platform/forms/twips.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace richtext
 {
@@ -14,7 +15,7 @@ constexpr int largestSide = 31'680; // twips: 22 inches, the largest sheet of th
 
 double side(int twips, int percent)
 {
-    const double shown = static_cast<double>(twips) * std::clamp(percent, 1, 1000) / 100;
+    const double shown = std::round(static_cast<double>(twips) * std::clamp(percent, 1, 1000) / 100);
     return forms::toPixels(std::clamp<double>(shown, forms::twipsPerPixel, largestSide));
 }
 

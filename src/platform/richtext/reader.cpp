@@ -2,22 +2,18 @@
 
 #include "platform/basic/cleantext.h"
 #include "platform/basic/errors.h"
-#include "platform/forms/twips.h"
+#include "platform/richtext/builder.h"
 #include "platform/richtext/bullets.h"
 #include "platform/richtext/codepage.h"
+#include "platform/richtext/headtables.h"
 #include "platform/richtext/lexer.h"
-#include "platform/richtext/listtables.h"
 #include "platform/richtext/picturegroup.h"
-#include "platform/richtext/pictures.h"
 
-#include <QColor>
 #include <QStringDecoder>
 #include <QTextCursor>
 #include <QTextDocument>
-#include <QTextList>
 
 #include <algorithm>
-#include <map>
 #include <optional>
 #include <unordered_map>
 #include <utility>
@@ -34,8 +30,7 @@ namespace
 constexpr qsizetype largestFile = 512 * 1024 * 1024;
 constexpr int fileTooLarge = 7;
 constexpr std::size_t deepestNesting = 500;
-constexpr int largestDistance = 31'680; // twips
-constexpr int largestLetter = 800;      // half points
+constexpr int largestLetter = 800; // half points
 constexpr char start[] = "{\\rtf";
 
 /// What the contents of a group are.
@@ -51,25 +46,6 @@ enum class Destination {
     Picture
 };
 
-enum class Script { Normal, Super, Sub };
-
-struct Letters {
-    bool bold = false, italic = false, underline = false, strike = false;
-    Script script = Script::Normal;
-    std::optional<int> font; ///< the file's default without
-    int halfPoints = 24;
-    int colour = 0, background = 0; ///< places in the colour table
-
-    bool operator==(const Letters &) const = default;
-};
-
-struct Paragraph {
-    Qt::Alignment alignment = Qt::AlignLeft;
-    int left = 0, right = 0, first = 0, before = 0, after = 0; // twips
-    int list = 0, level = 0;                                   ///< a list of the tables
-    std::optional<QTextListFormat::Style> bullet;              ///< of an older file
-};
-
 struct State {
     Destination destination = Destination::Body;
     bool optional = false; ///< "\*": a group of an unknown word is skipped
@@ -78,23 +54,10 @@ struct State {
     Paragraph paragraph{};
 };
 
-struct FontEntry {
-    QString name;
-    std::optional<CodePage> page;
-};
-
-double pixels(int twips)
-{
-    return forms::toPixels(std::clamp(twips, -largestDistance, largestDistance));
-}
-
 class Reader
 {
 public:
-    Reader(QByteArrayView file, QTextDocument &document)
-        : lexer_(file), document_(document), cursor_(&document)
-    {
-    }
+    Reader(QByteArrayView file, QTextDocument &document) : lexer_(file), builder_(document, tables_) {}
     Reading read();
 
 private:
@@ -134,41 +97,23 @@ private:
 
     State &state() { return states_.back(); }
     void append(const QString &text);
-    void flush();
-    void openParagraph();
-    void endParagraph();
-    void endRow();
-    void dress(const Paragraph &paragraph);
-    void joinList(const Paragraph &paragraph);
+    /// The mark of a paragraph, or of a table's row.
+    template <void (Builder::*mark)(const Letters &, const Paragraph &)>
+    static void ends(Reader &reader, const Token &)
+    {
+        if (reader.state().destination == Destination::Body)
+            (reader.builder_.*mark)(reader.state().letters, reader.state().paragraph);
+    }
     void insertPicture();
-    void fontText(const QString &text);
-    void colourText(QByteArrayView text);
-    CodePage page() const;
-    const FontEntry *fontOf(const Letters &letters) const;
-    QTextCharFormat format(const Letters &letters) const;
 
     Lexer lexer_;
-    QTextDocument &document_;
-    QTextCursor cursor_;
+    HeadTables tables_;
+    Builder builder_;
     Reading reading_;
     std::vector<State> states_{State{}};
     std::size_t tooDeep_ = 0; ///< groups open beyond the deepest that is read
     int toSkip_ = 0;          ///< characters still to skip behind a Unicode one
-
-    CodePage page_ = CodePage::Windows1252;
-    std::unordered_map<int, FontEntry> fonts_;
-    int defaultFont_ = 0, fontInTable_ = 0;
-    std::vector<QColor> colours_; ///< an invalid one is the reader's own
-    QColor colourInTable_;
-    ListTables lists_;
     PictureGroup picture_;
-
-    QString pending_; ///< text that looks alike, not yet in the document
-    Letters pendingLetters_;
-    Paragraph lastParagraph_; ///< as it was at the last text
-    bool paragraphEnded_ = false;
-    QTextList *list_ = nullptr; ///< of the paragraph before
-    std::map<std::pair<int, int>, QTextList *> openLists_;
 };
 
 // clang-format off
@@ -178,11 +123,11 @@ const std::unordered_map<std::string_view, Destination> &Reader::destinations()
     static const std::unordered_map<std::string_view, Destination> table{
         {"fonttbl", Fonts}, {"colortbl", Colours}, {"listtable", ListTable},
         {"listoverridetable", ListOverrides}, {"pn", Bullet}, {"pict", Picture}, {"shppict", Body},
-        {"shp", Shape}, {"shpinst", Shape}, {"shptxt", Body}, {"shprslt", Skipped},
+        {"shp", Shape}, {"shpinst", Shape}, {"shptxt", Body}, {"footnote", Body}, {"shprslt", Skipped},
         {"nonshppict", Skipped}, {"pntext", Skipped}, {"listtext", Skipped}, {"stylesheet", Skipped},
         {"info", Skipped}, {"fldinst", Skipped}, {"header", Skipped}, {"headerl", Skipped},
         {"headerr", Skipped}, {"headerf", Skipped}, {"footer", Skipped}, {"footerl", Skipped},
-        {"footerr", Skipped}, {"footerf", Skipped}, {"footnote", Skipped}, {"annotation", Skipped},
+        {"footerr", Skipped}, {"footerf", Skipped}, {"annotation", Skipped},
         {"object", Shape}, {"objdata", Skipped}, {"result", Body}, {"filetbl", Skipped},
         {"revtbl", Skipped}, {"private", Skipped}, {"xe", Skipped}, {"tc", Skipped},
         {"template", Skipped}, {"operator", Skipped},
@@ -204,7 +149,7 @@ const std::unordered_map<std::string_view, Reader::Handler> &Reader::handlers()
         {"nosupersub", [](Reader &r, const Token &) { r.state().letters.script = Script::Normal; }},
         {"plain", [](Reader &r, const Token &) { r.state().letters = Letters{}; }},
         {"fs", [](Reader &r, const Token &t) { r.state().letters.halfPoints = std::clamp(t.parameter, 2, largestLetter); }},
-        {"f", [](Reader &r, const Token &t) { r.state().letters.font = r.fontInTable_ = t.parameter; }},
+        {"f", [](Reader &r, const Token &t) { r.state().letters.font = t.parameter; r.tables_.beginFont(t.parameter); }},
         {"cf", [](Reader &r, const Token &t) { r.state().letters.colour = t.parameter; }},
         {"cb", [](Reader &r, const Token &t) { r.state().letters.background = t.parameter; }},
         {"highlight", [](Reader &r, const Token &t) { r.state().letters.background = t.parameter; }},
@@ -218,26 +163,26 @@ const std::unordered_map<std::string_view, Reader::Handler> &Reader::handlers()
         {"sa", distance<&Paragraph::after>}, {"ilvl", distance<&Paragraph::level>},
         {"ls", [](Reader &r, const Token &t) {
             if (r.state().destination == Destination::ListOverrides)
-                r.lists_.setOverrideNumber(t.parameter);
+                r.tables_.lists.setOverrideNumber(t.parameter);
             else
                 r.state().paragraph.list = t.parameter;
         }},
-        {"list", [](Reader &r, const Token &) { r.lists_.beginList(); }},
-        {"listlevel", [](Reader &r, const Token &) { r.lists_.beginLevel(); }},
-        {"levelnfc", [](Reader &r, const Token &t) { r.lists_.setLevelNumber(t.parameter); }},
-        {"listoverride", [](Reader &r, const Token &) { r.lists_.beginOverride(); }},
+        {"list", [](Reader &r, const Token &) { r.tables_.lists.beginList(); }},
+        {"listlevel", [](Reader &r, const Token &) { r.tables_.lists.beginLevel(); }},
+        {"levelnfc", [](Reader &r, const Token &t) { r.tables_.lists.setLevelNumber(t.parameter); }},
+        {"listoverride", [](Reader &r, const Token &) { r.tables_.lists.beginOverride(); }},
         {"listid", [](Reader &r, const Token &t) {
             if (r.state().destination == Destination::ListOverrides)
-                r.lists_.setOverrideId(t.parameter);
+                r.tables_.lists.setOverrideId(t.parameter);
             else
-                r.lists_.setListId(t.parameter);
+                r.tables_.lists.setListId(t.parameter);
         }},
 
-        {"par", [](Reader &r, const Token &) { r.endParagraph(); }},
-        {"sect", [](Reader &r, const Token &) { r.endParagraph(); }},
-        {"page", [](Reader &r, const Token &) { r.endParagraph(); }},
-        {"row", [](Reader &r, const Token &) { r.endRow(); }},
-        {"nestrow", [](Reader &r, const Token &) { r.endRow(); }},
+        {"par", ends<&Builder::endParagraph>},
+        {"sect", ends<&Builder::endParagraph>},
+        {"page", ends<&Builder::endParagraph>},
+        {"row", ends<&Builder::endRow>},
+        {"nestrow", ends<&Builder::endRow>},
         {"cell", stands<u'\t'>}, {"nestcell", stands<u'\t'>}, {"tab", stands<u'\t'>},
         {"line", stands<QChar::LineSeparator>}, {"emdash", stands<u'—'>}, {"endash", stands<u'–'>},
         {"lquote", stands<u'‘'>}, {"rquote", stands<u'’'>}, {"ldblquote", stands<u'“'>},
@@ -247,21 +192,21 @@ const std::unordered_map<std::string_view, Reader::Handler> &Reader::handlers()
 
         {"u", [](Reader &r, const Token &t) { r.unicode(t.parameter); }},
         {"uc", [](Reader &r, const Token &t) { r.state().fallbacks = std::clamp(t.parameter, 0, 255); }},
-        {"pc", [](Reader &r, const Token &) { r.page_ = CodePage::Dos850; }},
-        {"pca", [](Reader &r, const Token &) { r.page_ = CodePage::Dos850; }},
-        {"ansi", [](Reader &r, const Token &) { r.page_ = CodePage::Windows1252; }},
+        {"pc", [](Reader &r, const Token &) { r.tables_.setPage(CodePage::Dos850); }},
+        {"pca", [](Reader &r, const Token &) { r.tables_.setPage(CodePage::Dos850); }},
+        {"ansi", [](Reader &r, const Token &) { r.tables_.setPage(CodePage::Windows1252); }},
         {"ansicpg", [](Reader &r, const Token &t) {
-            r.page_ = t.parameter == 850 || t.parameter == 437 ? CodePage::Dos850 : CodePage::Windows1252;
+            r.tables_.setPage(t.parameter == 850 || t.parameter == 437 ? CodePage::Dos850 : CodePage::Windows1252);
         }},
-        {"deff", [](Reader &r, const Token &t) { r.defaultFont_ = t.parameter; }},
+        {"deff", [](Reader &r, const Token &t) { r.tables_.setDefaultFont(t.parameter); }},
         {"fcharset", [](Reader &r, const Token &t) {
             constexpr int ofTheOldSystem = 255;
             if (t.parameter == ofTheOldSystem)
-                r.fonts_[r.fontInTable_].page = CodePage::Dos850;
+                r.tables_.setFontPage(CodePage::Dos850);
         }},
-        {"red", [](Reader &r, const Token &t) { r.colourInTable_.setRed(std::clamp(t.parameter, 0, 255)); }},
-        {"green", [](Reader &r, const Token &t) { r.colourInTable_.setGreen(std::clamp(t.parameter, 0, 255)); }},
-        {"blue", [](Reader &r, const Token &t) { r.colourInTable_.setBlue(std::clamp(t.parameter, 0, 255)); }},
+        {"red", [](Reader &r, const Token &t) { r.tables_.colour().setRed(std::clamp(t.parameter, 0, 255)); }},
+        {"green", [](Reader &r, const Token &t) { r.tables_.colour().setGreen(std::clamp(t.parameter, 0, 255)); }},
+        {"blue", [](Reader &r, const Token &t) { r.tables_.colour().setBlue(std::clamp(t.parameter, 0, 255)); }},
     };
     return table;
 }
@@ -273,11 +218,7 @@ Reading Reader::read()
          token = lexer_.next())
         handle(token);
     reading_.complete = reading_.complete && states_.empty();
-    if (states_.empty())
-        states_.emplace_back();
-    flush();
-    if (!paragraphEnded_)
-        dress(lastParagraph_);
+    builder_.finish();
     return reading_;
 }
 
@@ -390,11 +331,11 @@ void Reader::bytes(QByteArrayView bytes)
         picture_.hexadecimal(bytes);
         break;
     case Destination::Colours:
-        colourText(bytes);
+        tables_.colourText(bytes);
         break;
     case Destination::Fonts:
     case Destination::Body:
-        append(decode(bytes, page()));
+        append(decode(bytes, tables_.page(state().letters)));
         break;
     default:
         break;
@@ -409,189 +350,18 @@ void Reader::unicode(int code)
 
 void Reader::append(const QString &text)
 {
-    if (state().destination == Destination::Fonts) {
-        fontText(text);
-        return;
-    }
-    if (state().destination != Destination::Body)
-        return;
-    openParagraph();
-    if (state().letters != pendingLetters_)
-        flush();
-    pendingLetters_ = state().letters;
-    lastParagraph_ = state().paragraph;
-    pending_ += text;
-}
-
-void Reader::flush()
-{
-    if (pending_.isEmpty())
-        return;
-    QString text = basic::cleanText(pending_);
-    text.remove(QChar::ObjectReplacementCharacter); // a picture's place, without a picture
-    cursor_.insertText(text, format(pendingLetters_));
-    pending_.clear();
-}
-
-/// The mark of a paragraph ends it: the next one begins with what comes after, if anything does.
-void Reader::openParagraph()
-{
-    if (!paragraphEnded_)
-        return;
-    cursor_.insertBlock(QTextBlockFormat(), format(state().letters));
-    paragraphEnded_ = false;
-}
-
-void Reader::endParagraph()
-{
-    if (state().destination != Destination::Body)
-        return;
-    openParagraph();
-    flush();
-    if (cursor_.block().length() <= 1)
-        cursor_.setBlockCharFormat(format(state().letters));
-    dress(state().paragraph);
-    paragraphEnded_ = true;
-}
-
-/// A tab stands between two cells, none behind the last one.
-void Reader::endRow()
-{
-    if (pending_.endsWith(u'\t'))
-        pending_.chop(1);
-    endParagraph();
-}
-
-void Reader::dress(const Paragraph &paragraph)
-{
-    QTextBlockFormat format;
-    format.setAlignment(paragraph.alignment);
-    const auto set = [&](void (QTextBlockFormat::*setter)(qreal), int twips) {
-        if (twips != 0)
-            (format.*setter)(pixels(twips));
-    };
-    set(&QTextBlockFormat::setTopMargin, std::max(paragraph.before, 0));
-    set(&QTextBlockFormat::setBottomMargin, std::max(paragraph.after, 0));
-    const bool inList = paragraph.list > 0 || paragraph.bullet;
-    if (!inList) { // a list has the indents of its level
-        set(&QTextBlockFormat::setLeftMargin, paragraph.left);
-        set(&QTextBlockFormat::setRightMargin, paragraph.right);
-        set(&QTextBlockFormat::setTextIndent, paragraph.first);
-    }
-    cursor_.setBlockFormat(format);
-    if (inList)
-        joinList(paragraph);
-    else
-        list_ = nullptr;
-}
-
-/// Paragraphs of one list and level go on counting, unless a level above came in between. An older file has
-/// no names for its lists: there what follows without a break is one.
-void Reader::joinList(const Paragraph &paragraph)
-{
-    const int level = std::clamp(paragraph.level, 0, ListTables::levels - 1);
-    const QTextListFormat::Style style = paragraph.bullet.value_or(lists_.style(paragraph.list, level));
-    QTextList *list = list_ && list_->format().style() == style ? list_ : nullptr;
-    if (paragraph.list > 0) {
-        openLists_.erase(openLists_.upper_bound({paragraph.list, level}),
-                         openLists_.lower_bound({paragraph.list + 1, 0}));
-        const auto known = openLists_.find({paragraph.list, level});
-        list = known == openLists_.end() ? nullptr : known->second;
-    }
-    if (list) {
-        list->add(cursor_.block());
-    } else {
-        QTextListFormat format;
-        format.setStyle(style);
-        format.setIndent(level + 1);
-        list = cursor_.createList(format);
-    }
-    if (paragraph.list > 0)
-        openLists_[{paragraph.list, level}] = list;
-    list_ = list;
+    if (state().destination == Destination::Fonts)
+        tables_.fontText(text);
+    else if (state().destination == Destination::Body)
+        builder_.text(text, state().letters, state().paragraph);
 }
 
 void Reader::insertPicture()
 {
     if (state().destination == Destination::Skipped || picture_.file().isEmpty())
         return;
-    auto format = addPicture(document_, picture_.file());
-    if (!format) {
+    if (!builder_.picture(picture_, state().letters, state().paragraph))
         ++reading_.picturesLeftOut;
-        return;
-    }
-    if (const QSizeF size = picture_.shownSize(); !size.isEmpty()) {
-        format->setWidth(size.width());
-        format->setHeight(size.height());
-    }
-    openParagraph();
-    flush();
-    lastParagraph_ = state().paragraph;
-    cursor_.insertImage(*format);
-}
-
-void Reader::fontText(const QString &text)
-{
-    const qsizetype end = text.indexOf(u';');
-    QString &name = fonts_[fontInTable_].name;
-    if (name.endsWith(u';'))
-        return;
-    name += end < 0 ? text : text.first(end + 1);
-}
-
-/// A semicolon ends a colour; one that says nothing stands for the reader's own.
-void Reader::colourText(QByteArrayView text)
-{
-    for (char c : text) {
-        if (c != ';')
-            continue;
-        colours_.push_back(colourInTable_);
-        colourInTable_ = QColor();
-    }
-}
-
-const FontEntry *Reader::fontOf(const Letters &letters) const
-{
-    const auto font = fonts_.find(letters.font.value_or(defaultFont_));
-    return font == fonts_.end() ? nullptr : &font->second;
-}
-
-CodePage Reader::page() const
-{
-    const FontEntry *font = fontOf(states_.back().letters);
-    return font ? font->page.value_or(page_) : page_;
-}
-
-QTextCharFormat Reader::format(const Letters &letters) const
-{
-    QTextCharFormat format;
-    if (const FontEntry *font = fontOf(letters)) {
-        const QString name = basic::cleanText(font->name).remove(u';').trimmed();
-        if (!name.isEmpty())
-            format.setFontFamilies({name});
-    }
-    format.setFontPointSize(letters.halfPoints / 2.0);
-    if (letters.bold)
-        format.setFontWeight(QFont::Bold);
-    if (letters.italic)
-        format.setFontItalic(true);
-    if (letters.underline)
-        format.setFontUnderline(true);
-    if (letters.strike)
-        format.setFontStrikeOut(true);
-    if (letters.script != Script::Normal)
-        format.setVerticalAlignment(letters.script == Script::Super ? QTextCharFormat::AlignSuperScript
-                                                                    : QTextCharFormat::AlignSubScript);
-    const auto colour = [this](int place) {
-        return place > 0 && place < static_cast<int>(colours_.size())
-                   ? colours_[static_cast<std::size_t>(place)]
-                   : QColor();
-    };
-    if (const QColor letter = colour(letters.colour); letter.isValid())
-        format.setForeground(letter);
-    if (const QColor background = colour(letters.background); background.isValid())
-        format.setBackground(background);
-    return format;
 }
 
 QString plainText(const QByteArray &file)

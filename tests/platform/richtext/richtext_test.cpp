@@ -275,6 +275,21 @@ TEST(RichText, aFileOfAnotherWordProcessor)
     expectKept(in.document);
 }
 
+TEST(RichText, whatFloatsAndStandsBelowIsReadWhereItIsAnchored)
+{
+    QFile file(QStringLiteral(TEST_DATA "/richtext/libreoffice_cuadros.rtf"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const Read in(file.readAll());
+    EXPECT_EQ(seen(in.document), u"[b18:Título grande]\n"
+                                 "<imagen 75.6x37.7333>Antes después[10:\tnota]\n"
+                                 "En un cuadro\n"
+                                 "\n"
+                                 "[u#000080:enlace] fin"_s);
+    EXPECT_TRUE(in.reading.complete);
+    EXPECT_EQ(in.reading.picturesLeftOut, 0);
+    expectKept(in.document);
+}
+
 /// By hand, with SANIRELL_SOFFICE set to the program: what we write reads the same in another word processor,
 /// and what it makes of that reads the same here.
 TEST(RichText, anotherWordProcessorReadsOurs)
