@@ -3,6 +3,7 @@
 // Ends non-zero when something was over its limit.
 #include "appointments.h"
 #include "births.h"
+#include "complements.h"
 #include "laboratory.h"
 #include "limits.h"
 #include "measure.h"
@@ -69,6 +70,7 @@ void measure()
     bench::births(report);
     bench::summary(report);
     bench::vaccines(report);
+    bench::complements(report);
     window.hide();
 }
 

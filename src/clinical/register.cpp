@@ -8,6 +8,7 @@
 #include "clinical/family/panArbol.h"
 #include "clinical/history/panEditHC.h"
 #include "clinical/laboratory/panAnalisis.h"
+#include "clinical/laboratory/panComplem.h"
 #include "clinical/laboratory/panEstudios.h"
 #include "clinical/patients/buscaPaciente.h"
 #include "clinical/patients/eligePaciente.h"
@@ -41,6 +42,7 @@ void clinical::registerScreens()
     screens::add<panEstadPaciente>("panEstadPaciente");
     screens::add<panAnalisis>("panAnalisis");
     screens::add<panEstudios>("panEstudios");
+    screens::add<panComplem>("panComplem");
     screens::add<panSintomas>("panSintomas");
     screens::add<panDiagnosticos>("panDiagnosticos");
     screens::add<panTratamientos>("panTratamientos");
@@ -52,6 +54,7 @@ void clinical::registerScreens()
     ports::eligePaciente.provide(EligePaciente);
     ports::buscaEnPacientes.provide(BuscaEnPacientes);
     ports::pideNombreDePaciente.provide(PideNombreDePaciente);
+    ports::abreComplemento.provide(complementos::abrir);
     ports::eligeDiagnostico.provide(catalogos::eligeDiagnostico);
     ports::eligePatologia.provide(catalogos::eligePatologia);
 }

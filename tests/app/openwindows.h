@@ -7,6 +7,7 @@
 #include "clinical/laboratory/panNueAg.h"
 #include "clinical/laboratory/panNueAnalisis.h"
 #include "clinical/laboratory/panNueEstudio.h"
+#include "clinical/laboratory/panTendencia.h"
 #include "clinical/patients/panComFliar.h"
 #include "clinical/patients/panNuePaciente.h"
 #include "clinical/patients/panSelPaciente.h"
@@ -62,6 +63,7 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panNueConsulta"), opening<panNueConsulta>()},
         {QStringLiteral("panComparaAnalisis"), opening<panComparaAnalisis>()},
         {QStringLiteral("panInAn"), opening<panInAn>()},
+        {QStringLiteral("panTendencia"), opening<panTendencia>()},
         {QStringLiteral("panNueAg"), opening<panNueAg>()},
         {QStringLiteral("panNueAnalisis"), opening<panNueAnalisis>()},
         {QStringLiteral("panNueEstudio"), opening<panNueEstudio>()},

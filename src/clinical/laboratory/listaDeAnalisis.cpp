@@ -21,6 +21,13 @@ void ListaDeAnalisis::llenar()
         (new QListWidgetItem(estudio, this))->setCheckState(Qt::Unchecked);
 }
 
+void ListaDeAnalisis::tildar(const QStringList &estudios)
+{
+    for (int i = 0; i < count(); ++i)
+        if (estudios.contains(item(i)->text(), Qt::CaseInsensitive))
+            item(i)->setCheckState(Qt::Checked);
+}
+
 QStringList ListaDeAnalisis::tildados() const
 {
     QStringList estudios;

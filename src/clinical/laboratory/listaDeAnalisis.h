@@ -12,5 +12,7 @@ public:
     /// All tests in sight at once.
     void ponerEnColumnas();
     void llenar();
+    /// These too; what is no test any more is left out.
+    void tildar(const QStringList &estudios);
     QStringList tildados() const;
 };

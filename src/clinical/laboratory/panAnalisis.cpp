@@ -3,6 +3,7 @@
 #include "clinical/laboratory/panComparaAnalisis.h"
 #include "clinical/laboratory/panInAn.h"
 #include "clinical/laboratory/panNueAnalisis.h"
+#include "clinical/laboratory/panTendencia.h"
 #include "core/services/paciente.h"
 #include "core/services/services.h"
 #include "core/session/session.h"
@@ -48,6 +49,8 @@ panAnalisis::panAnalisis()
                                       [this] { ingresarTodos(); }),
                            rowCommand(u"Command4"_s, u"C&omparación de laboratorio"_s, u"ver"_s,
                                       [this] { comparar(); }),
+                           rowCommand(u"Command5"_s, u"&Tendencia..."_s, u"estadisticas"_s,
+                                      [this] { mostrarTendencia(); }),
                            Stretch(), closes(u"Command1"_s, u"&Cerrar"_s)}});
     resize(1000, 520);
     connect(&DBGrid2, &DBGrid::accepted, this, &panAnalisis::ingresarUno);
@@ -98,6 +101,17 @@ void panAnalisis::comparar()
     panComparaAnalisis comparacion;
     comparacion.setTag(tag());
     comparacion.showModal();
+}
+
+/// Of the test that one stands on.
+void panAnalisis::mostrarTendencia()
+{
+    Data1.updateRecord();
+    panTendencia tendencia;
+    tendencia.setTag(tag());
+    if (Data2.hasRow())
+        tendencia.setEstudio(Data2.recordset()[u"Estudio"].text());
+    tendencia.showModal();
 }
 
 void panAnalisis::ingresarTodos()

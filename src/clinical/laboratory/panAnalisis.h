@@ -19,6 +19,7 @@ private:
     forms::Item orden();
     void nuevo();
     void comparar();
+    void mostrarTendencia();
     void ingresarTodos();
     void ingresarUno();
     /// Asks the result of each, until the person has had enough.

@@ -1,7 +1,9 @@
 #include "clinical/laboratory/panEstudios.h"
 
+#include "clinical/laboratory/panComplem.h"
 #include "clinical/laboratory/panNueEstudio.h"
 #include "core/services/paciente.h"
+#include "core/services/services.h"
 
 using namespace Qt::StringLiterals;
 using namespace forms;
@@ -24,6 +26,8 @@ panEstudios::panEstudios()
                            deletes(u"Command3"_s, u"&Quitar"_s,
                                    {.gate = u"BorrarEstudios"_s, .question = u"Borra este estudio"_s}),
                            rowCommand(u"Command22"_s, u"&Guardar"_s, u"guardar"_s, [this] { guardar(); }),
+                           rowCommand(u"Command4"_s, u"&Informe con imágenes..."_s, u"editar"_s,
+                                      [this] { abrirInforme(); }),
                            Stretch(), closes(u"Command1"_s, u"&Cerrar"_s)}});
     resize(940, 500);
     connect(&mFecha, &QLineEdit::editingFinished, this, &panEstudios::guardarFecha);
@@ -78,6 +82,19 @@ void panEstudios::guardar()
 {
     guardarFecha();
     Data1.updateRecord();
+}
+
+/// One report a kind of study, whatever the row.
+void panEstudios::abrirInforme()
+{
+    const QString tipo = mTipo.text().trimmed();
+    if (tipo.isEmpty()) {
+        MODULE11::MuestraError(u"Escriba antes qué estudio es."_s);
+        mTipo.setFocus();
+        return;
+    }
+    guardar();
+    complementos::abrir(paciente(), tipo);
 }
 
 /// The date is written by itself: in the table "-" is no date.

@@ -20,6 +20,7 @@ private:
     void nuevo();
     void guardar();
     void guardarFecha();
+    void abrirInforme();
 
     FechaDeEstudio mFecha{QStringLiteral("mFecha")};
     forms::TextBox mTipo{QStringLiteral("mTipo")};

@@ -1,9 +1,11 @@
 #include "clinical/laboratory/panNueAnalisis.h"
 
+#include "clinical/laboratory/perfiles.h"
 #include "core/services/paciente.h"
 #include "core/services/services.h"
 #include "platform/basic/environment.h"
 #include "platform/dao/sqltext.h"
+#include "platform/forms/boxes.h"
 #include "platform/forms/layout.h"
 #include "platform/forms/wrong.h"
 
@@ -39,10 +41,17 @@ panNueAnalisis::panNueAnalisis() : Form(u"panNueAnalisis"_s)
                           Row{Fields{{u"&Fecha :"_s, mFecha}}, Fields{{u"&Hora :"_s, mHora}},
                               Expanding(Fields{{u"T&ipo de análisis :"_s, comboTipoAnalisis}}),
                               Expanding(Fields{{u"&Bioquímico :"_s, comboBio}})},
+                          Row{Expanding(Fields{{u"&Perfil :"_s, comboPerfil}}), Command3, Command4},
                           Expanding(Above(u"&Tildar los estudios pedidos :"_s, List1)),
                           Row{Stretch(), Command1, Command2},
                       });
     resize(1060, 510);
+    comboPerfil.setToolTip(u"Tilda los estudios del perfil, además de los que ya están tildados"_s);
+    Command3.setToolTip(u"Guarda los estudios tildados con un nombre, para pedirlos juntos otra vez"_s);
+    connect(&comboPerfil, &QComboBox::textActivated, this,
+            [this](const QString &perfil) { List1.tildar(laboratorio::estudiosDelPerfil(perfil)); });
+    connect(&Command3, &QPushButton::clicked, this, &panNueAnalisis::guardarPerfil);
+    connect(&Command4, &QPushButton::clicked, this, &panNueAnalisis::quitarPerfil);
     connect(&Command1, &QPushButton::clicked, this, &panNueAnalisis::aceptar);
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
 }
@@ -56,7 +65,49 @@ void panNueAnalisis::load()
     ofrecer(comboTipoAnalisis, u"Descripcion"_s, u"<Varios>"_s, paciente);
     ofrecer(comboBio, u"Bioquimico"_s, u"<No Aplicable>"_s, paciente);
     List1.llenar();
+    llenarPerfiles();
     List1.setFocus();
+}
+
+void panNueAnalisis::llenarPerfiles()
+{
+    const QStringList perfiles = laboratorio::perfiles();
+    comboPerfil.clear();
+    comboPerfil.addItems(perfiles);
+    comboPerfil.setCurrentIndex(-1);
+    comboPerfil.setEnabled(!perfiles.isEmpty());
+    Command4.setEnabled(!perfiles.isEmpty());
+}
+
+void panNueAnalisis::guardarPerfil()
+{
+    const QStringList tildados = List1.tildados();
+    if (tildados.isEmpty()) {
+        MODULE11::MuestraError(u"Tilde antes los estudios del perfil."_s);
+        return;
+    }
+    const auto nombre = inputBox(u"Nombre del perfil :"_s, u"Guardar perfil"_s, comboPerfil.value(),
+                                 laboratorio::largoDelPerfil);
+    if (!nombre || nombre->trimmed().isEmpty())
+        return;
+    const QString perfil = nombre->trimmed();
+    if (laboratorio::perfiles().contains(perfil, Qt::CaseInsensitive) &&
+        !MODULE11::PreguntaSiBorra(u"El perfil «%1» ya existe. ¿Lo reemplaza?"_s.arg(perfil)))
+        return;
+    laboratorio::guardarPerfil(perfil, tildados);
+    llenarPerfiles();
+    comboPerfil.setValue(perfil);
+}
+
+void panNueAnalisis::quitarPerfil()
+{
+    const QString perfil = comboPerfil.value();
+    if (perfil.isEmpty())
+        MODULE11::MuestraError(u"Elija antes el perfil."_s);
+    else if (MODULE11::PreguntaSiBorra(u"Borra el perfil «%1»"_s.arg(perfil))) {
+        laboratorio::borrarPerfil(perfil);
+        llenarPerfiles();
+    }
 }
 
 void panNueAnalisis::aceptar()

@@ -19,6 +19,9 @@ protected:
 
 private:
     void aceptar();
+    void llenarPerfiles();
+    void guardarPerfil();
+    void quitarPerfil();
 
     forms::Label Label1{
         QStringLiteral("Label1"),
@@ -29,6 +32,11 @@ private:
     forms::TimePicker mHora{QStringLiteral("mHora")};
     forms::ComboBox comboTipoAnalisis{QStringLiteral("comboTipoAnalisis"), {}, true};
     forms::ComboBox comboBio{QStringLiteral("comboBio"), {}, true};
+    forms::ComboBox comboPerfil{QStringLiteral("comboPerfil")};
+    forms::CommandButton Command3{QStringLiteral("Command3"), QStringLiteral("&Guardar perfil..."),
+                                  QStringLiteral("guardar")};
+    forms::CommandButton Command4{QStringLiteral("Command4"), QStringLiteral("&Quitar perfil"),
+                                  QStringLiteral("quitar")};
     ListaDeAnalisis List1{QStringLiteral("List1")};
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Aceptar"),
                                   QStringLiteral("aceptar")};

@@ -31,6 +31,7 @@ struct Comando {
     const char *titulo = ""; ///< before the patient's name; the window's own caption without
     bool hija = false;       ///< a child window; the others are modal
     const char *alarma = "", *tema = "";
+    const char *examen = ""; ///< which of the complementary examinations, of the window of them all
 };
 
 std::span<const Comando> comandos();

@@ -2,6 +2,7 @@
 
 #include "clinical/catalogues/eleccion.h"
 #include "clinical/history/historiaComoTexto.h"
+#include "clinical/laboratory/panComplem.h"
 #include "clinical/patients/filaDePaciente.h"
 #include "clinical/summary/antecedentes.h"
 #include "clinical/summary/foto.h"
@@ -429,6 +430,11 @@ void panEstadPaciente::abrirComando(const Comando &comando)
     }
     if (!nivel.isEmpty() && !MODULE11::VerificaNivel(nivel))
         return;
+    if (*comando.examen) {
+        complementos::abrir(numero(), QString::fromUtf8(comando.examen));
+        llenar();
+        return;
+    }
     const screens::Window ventana = *screens::Window::find(QString::fromLatin1(comando.ventana));
     const QString titulo =
         *comando.titulo ? QString::fromUtf8(comando.titulo) + datos_["Text10"]->caption() : QString();

@@ -182,6 +182,15 @@ constexpr const char *tablasDeVacunas[] = {
     "CREATE INDEX Lote ON CartasVacunas (Lote)",
 };
 
+// What a practice notes of its laboratory: the tests that it orders together, and from and to what a result is
+// normal. Its tests are those that its table of orders has.
+constexpr const char *tablasDeLaboratorio[] = {
+    "CREATE TABLE PerfilesLaboratorio (Perfil TEXT(60), Estudio TEXT(64))",
+    "CREATE INDEX Perfil ON PerfilesLaboratorio (Perfil)",
+    "CREATE TABLE RangosLaboratorio (Estudio TEXT(64), Minimo DOUBLE, Maximo DOUBLE)",
+    "CREATE UNIQUE INDEX Estudio ON RangosLaboratorio (Estudio)",
+};
+
 /// A statement that has taken effect fails, and so does one that names a column that never was.
 constexpr std::initializer_list<int> yaHecho = {
     dao::Error::TableExists,   dao::Error::IndexExists,  dao::Error::FieldExists,   dao::Error::FieldNotFound,
@@ -297,6 +306,7 @@ void ActualizaBase()
     basic::ignoring(yaHecho, liberaFichaPerinatal);
     basic::ignoring(yaHecho, fraccionaPresiones);
     ejecuta(tablasDeVacunas);
+    ejecuta(tablasDeLaboratorio);
     reparaTipoDeUsuarios();
     basic::ignoring(yaHecho, [] { BaseDatos.widenText(u"Usuarios"_s, u"Clave"_s, largoDeClave); });
     basic::ignoring(yaHecho, alargaResultados);

@@ -58,6 +58,8 @@ inline Port<std::array<MedidaEnPalabras, 4>(qint64 paciente, const QString &sexo
 /// Shows the prescription sheet of a patient with a text to begin with: the prescription to keep, without the
 /// point that ends it in the file; nothing when it was closed.
 inline Port<std::optional<QString>(qint64 paciente, const QString &textoInicial)> emiteReceta;
+/// Opens the report with pictures of a complementary examination of a patient.
+inline Port<void(qint64 paciente, const QString &examen)> abreComplemento;
 /// Lets a person choose a diagnosis from the practice's classifier.
 inline Port<std::optional<Renglon>()> eligeDiagnostico;
 /// The same for a record that begins somewhere else: from the practice's own list under a title when the

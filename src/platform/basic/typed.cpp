@@ -50,15 +50,20 @@ bool beginsWithTyped(QStringView text, QStringView typed)
     return both.text.size() >= both.typed.size() && meets(both.text, both.typed);
 }
 
-bool containsTyped(QStringView text, QStringView typed)
+qsizetype indexOfTyped(QStringView text, QStringView typed, qsizetype from)
 {
     const Sides both = sides(text, typed);
     if (!both.typed.contains(u'ñ'))
-        return both.text.contains(both.typed);
-    for (qsizetype from = 0; from + both.typed.size() <= both.text.size(); ++from)
+        return both.text.indexOf(both.typed, from);
+    for (; from + both.typed.size() <= both.text.size(); ++from)
         if (meets(QStringView(both.text).mid(from), both.typed))
-            return true;
-    return false;
+            return from;
+    return -1;
+}
+
+bool containsTyped(QStringView text, QStringView typed)
+{
+    return indexOfTyped(text, typed) >= 0;
 }
 
 QString lettersMeant(QChar typed)

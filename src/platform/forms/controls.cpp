@@ -246,14 +246,36 @@ OptionButton::OptionButton(const QString &name, const QString &caption) : QRadio
     setObjectName(name);
 }
 
+namespace
+{
+
+void setOwnIcon(QAbstractButton &button, const QString &icon)
+{
+    const QString picture = QStringLiteral(":/icons/%1.svg").arg(icon);
+    if (!icon.isEmpty() && QFile::exists(picture))
+        button.setIcon(QIcon(picture));
+}
+
+} // namespace
+
 CommandButton::CommandButton(const QString &name, const QString &caption, const QString &icon)
     : QPushButton(caption)
 {
     setObjectName(name);
     setAutoDefault(false);
-    const QString picture = QStringLiteral(":/icons/%1.svg").arg(icon);
-    if (!icon.isEmpty() && QFile::exists(picture))
-        setIcon(QIcon(picture));
+    setOwnIcon(*this, icon);
+}
+
+ToolButton::ToolButton(const QString &name, const QString &caption, const QString &icon)
+{
+    setObjectName(name);
+    setText(caption);
+    setToolTip(caption);
+    setAutoRaise(true);
+    setToolButtonStyle(Qt::ToolButtonIconOnly);
+    setIconSize(QSize(20, 20));
+    setFocusPolicy(Qt::TabFocus); // a click leaves the text in use
+    setOwnIcon(*this, icon);
 }
 
 QSize CommandButton::sizeHint() const

@@ -18,6 +18,7 @@
 #include <QTabWidget>
 #include <QTimeEdit>
 #include <QTimer>
+#include <QToolButton>
 #include <QTreeWidget>
 
 #include <vector>
@@ -154,6 +155,14 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override; // Enter presses the focused button
+};
+
+/// A button of a tool bar: a picture, whose caption is read in its tip.
+class ToolButton : public QToolButton
+{
+    Q_OBJECT
+public:
+    ToolButton(const QString &name, const QString &caption, const QString &icon);
 };
 
 /// A time field "hh:mm"; starts at midnight.
