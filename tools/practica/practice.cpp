@@ -2,6 +2,7 @@
 
 #include "appointments.h"
 #include "births.h"
+#include "cashandstock.h"
 #include "vaccines.h"
 #include "visits.h"
 
@@ -157,6 +158,9 @@ void fill(const Size &size)
     addSightTests(patients, dice);
     Dice ofVaccines(size.seed); // of their own: what the others throw stays as it is
     addVaccines(patients, size.vaccinated, size.today, ofVaccines);
+    Dice ofMoney(size.seed);
+    addCash(size.today, ofMoney);
+    addStock(size.today, ofMoney);
     QStringList names;
     for (const Doctor &doctor : doctors())
         names += doctor.name;

@@ -10,7 +10,7 @@ panConfCamposImport::panConfCamposImport()
             {{u"Campo del afiliado"_s, u"CampoEnAfiliado"_s, {}, 240},
              {u"Posición inicial"_s, u"PosicionInicial"_s, {}, 120},
              {u"Tamaño"_s, u"Tamano"_s, {}, 90},
-             {u"Índice"_s, u"CampoIndex"_s, u"si/no"_s, 70}})
+             {u"Índice"_s, u"CampoIndex"_s, {}, 90}})
 {
     setSource(u"Select * from CamposImport order by PosicionInicial"_s);
     DBGrid1.setEditable(true);

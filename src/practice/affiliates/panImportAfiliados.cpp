@@ -117,6 +117,7 @@ std::optional<afiliados::Mapa> panImportAfiliados::preparado()
 {
     guardarOpciones();
     txResumen.clear();
+    clearWrong(txArchImport);
     if (cbObraSocial.value().isEmpty()) {
         rehusar(u"Ingrese la mutual u Obra Social correspondiente!"_s, &cbObraSocial);
         return std::nullopt;

@@ -93,7 +93,7 @@ Item panArticulos::hojaDeArticulos()
                               {u"Venta"_s, u"PrecioVenta"_s, importes, 80}});
     return Column{
         Expanding(DBGrid1),
-        Row{orden(u"Command1"_s, u"Nuevo &artículo..."_s, u"nuevo"_s, &panArticulos::nuevoArticulo),
+        Row{orden(u"Command1"_s, u"Nuevo &artículo..."_s, u"agregar"_s, &panArticulos::nuevoArticulo),
             orden(u"Command2"_s, u"&Modificar..."_s, u"editar"_s, &panArticulos::modificarArticulo),
             orden(u"Command3"_s, u"&Borrar"_s, u"borrar"_s, &panArticulos::borrarArticulo), Stretch(),
             orden(u"Command4"_s, u"&Informe"_s, u"imprimir"_s, &panArticulos::informar),
@@ -127,7 +127,7 @@ Item panArticulos::hojaDeProveedores()
                               {u"CUIT"_s, u"Cuit"_s, {}, 110}});
     return Column{
         Expanding(DBGrid3),
-        Row{orden(u"Command7"_s, u"Nuevo &proveedor..."_s, u"nuevo"_s, &panArticulos::nuevoProveedor),
+        Row{orden(u"Command7"_s, u"Nuevo &proveedor..."_s, u"agregar"_s, &panArticulos::nuevoProveedor),
             orden(u"Command8"_s, u"&Modificar..."_s, u"editar"_s, &panArticulos::modificarProveedor),
             orden(u"Command10"_s, u"&Borrar"_s, u"borrar"_s, &panArticulos::borrarProveedor), Stretch()},
     };
