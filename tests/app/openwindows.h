@@ -107,7 +107,8 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panConfCamposImport"), opening<panConfCamposImport>()},
         {QStringLiteral("panPruebaImport"),
          [] {
-             return std::make_unique<panPruebaImport>(afiliados::Mapa(), std::vector<QStringList>(), QString());
+             return std::make_unique<panPruebaImport>(afiliados::Mapa(), std::vector<QStringList>(),
+                                                      QString());
          }},
     };
     for (const std::string_view name : screens::windows) {

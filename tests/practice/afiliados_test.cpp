@@ -6,8 +6,8 @@
 #include "practice/affiliates/proceso.h"
 
 using namespace Qt::StringLiterals;
-using MODULE11::BaseDatos;
 using afiliados::Letras;
+using MODULE11::BaseDatos;
 
 namespace
 {
@@ -50,8 +50,9 @@ protected:
     }
     static QString affiliate(const QString &key)
     {
-        return rows(u"Select [Apellido y Nombres], Sexo, [Fecha de Nacimiento], Documento, [Obra Social] from "
-                    u"Pacientes where [Numero de Afiliado] = '%1'"_s.arg(key));
+        return rows(
+            u"Select [Apellido y Nombres], Sexo, [Fecha de Nacimiento], Documento, [Obra Social] from "
+            u"Pacientes where [Numero de Afiliado] = '%1'"_s.arg(key));
     }
 };
 
@@ -59,10 +60,11 @@ protected:
 
 TEST_F(RollTest, lettersAreToldAndPositionsCountCharacters)
 {
-    const QString lines = line("N1", "Muñoz Ibáñez, Ángel", "M1990031511222333")
-                              + u"\n"_s + line("N2", "Núñez, María José", "F1991031522333444");
-    for (const auto &[letters, set] :
-         {std::pair{"UTF-8", Letras::Utf8}, {"windows-1252", Letras::Windows1252}, {"IBM850", Letras::Codigo850}}) {
+    const QString lines = line("N1", "Muñoz Ibáñez, Ángel", "M1990031511222333") + u"\n"_s +
+                          line("N2", "Núñez, María José", "F1991031522333444");
+    for (const auto &[letters, set] : {std::pair{"UTF-8", Letras::Utf8},
+                                       {"windows-1252", Letras::Windows1252},
+                                       {"IBM850", Letras::Codigo850}}) {
         SCOPED_TRACE(letters);
         EXPECT_EQ(afiliados::letrasDe(QStringEncoder(letters)(lines)), set);
         BaseDatos.execute(u"Delete * from Pacientes where Numero > 7"_s);
@@ -82,7 +84,8 @@ TEST_F(RollTest, lettersAreToldAndPositionsCountCharacters)
 
 TEST_F(RollTest, aKnownAffiliateChangesANewOneIsAddedAndASecondRunDoesNothing)
 {
-    const QString file = write({line("A 1", "Nuevo Nombre", "M19991399 123"), line("O'HIG  ", "O'Higgins, Ana", "")});
+    const QString file =
+        write({line("A 1", "Nuevo Nombre", "M19991399 123"), line("O'HIG  ", "O'Higgins, Ana", "")});
     const afiliados::Resumen trial = take(file, true);
     EXPECT_EQ(trial.nuevos, 1);
     EXPECT_EQ(trial.modificados, 1);
@@ -93,9 +96,10 @@ TEST_F(RollTest, aKnownAffiliateChangesANewOneIsAddedAndASecondRunDoesNothing)
     EXPECT_EQ(first.modificados, 1);
     // what is no day leaves the known one's as it is
     EXPECT_EQ(affiliate(u"A 1"_s), u"Nuevo Nombre,Varon,01/02/1980,123,OSDE d'Oro");
-    EXPECT_EQ(rows(u"Select Numero, idProfesional, [Fecha de Nacimiento], Sexo from Pacientes where [Numero de "
-                   u"Afiliado] = 'O''HIG'"_s),
-              u"8,0,,Mujer");
+    EXPECT_EQ(
+        rows(u"Select Numero, idProfesional, [Fecha de Nacimiento], Sexo from Pacientes where [Numero de "
+             u"Afiliado] = 'O''HIG'"_s),
+        u"8,0,,Mujer");
     EXPECT_EQ(one(u"Select count(*) from Pediatria where numero = 8"_s), u"1");
 
     const afiliados::Resumen second = take(file);
@@ -107,14 +111,15 @@ TEST_F(RollTest, everyKindOfBadLineIsSkippedOrMendedAndTold)
 {
     const QString longDocument(40, u'9');
     BaseDatos.execute(u"UPDATE CamposImport SET Tamano = 40 where CampoEnAfiliado = 'Documento'"_s);
-    BaseDatos.execute(u"UPDATE CamposImport SET PosicionInicial = 80 where CampoEnAfiliado = 'Es turista o esporadico'"_s);
+    BaseDatos.execute(
+        u"UPDATE CamposImport SET PosicionInicial = 80 where CampoEnAfiliado = 'Es turista o esporadico'"_s);
     BaseDatos.execute(u"INSERT INTO CamposImport VALUES ('No hay', 1, 5, FALSE)"_s);
     const QString full = line("B1", "Uno", "M19900315");
     const QString file = write({
-        full + longDocument,                          // cut to its column
-        u""_s,                                        // no key
-        line("", "Sin Clave", "M19900315"),           // no key
-        u"B2"_s,                                      // short: empty fields
+        full + longDocument,                                         // cut to its column
+        u""_s,                                                       // no key
+        line("", "Sin Clave", "M19900315"),                          // no key
+        u"B2"_s,                                                     // short: empty fields
         line("B3", "Turista", "F19900315").leftJustified(79) + u'?', // neither yes nor no
         line("B4", "D'Angelo", "F19900315"),
         line("b4", "D'Angelo", "F19900315"), // the same, as texts compare
@@ -138,7 +143,8 @@ TEST_F(RollTest, theKeyMayBeTheNumberAndAPatientKeepsTheirs)
     run({"UPDATE CamposImport SET CampoIndex = FALSE",
          "UPDATE CamposImport SET CampoEnAfiliado = 'Numero', CampoIndex = TRUE where PosicionInicial = 1 and "
          "CampoEnAfiliado <> 'Obra Social'"});
-    const QString file = write({line("0000000007", "Conocido", "M"), line("500", "Nuevo", "M"), line("12x", "Mal", "M")});
+    const QString file =
+        write({line("0000000007", "Conocido", "M"), line("500", "Nuevo", "M"), line("12x", "Mal", "M")});
     EXPECT_EQ(take(file).nuevos, 1);
     const afiliados::Resumen again = take(file);
     EXPECT_EQ(again.iguales, 2);
@@ -156,8 +162,9 @@ TEST_F(RollTest, whatIsWrittenStaysWhenItIsStopped)
     QStringList lines;
     for (int i = 0; i < 3000; ++i)
         lines += line(qPrintable(u"K%1"_s.arg(i)), "Alguien", "M");
-    const afiliados::Resumen summary = afiliados::actualizar({u"OSDE"_s, write(lines), false}, afiliados::leerMapa(),
-                                                             [](qint64 done, qint64) { return done < 100; });
+    const afiliados::Resumen summary =
+        afiliados::actualizar({u"OSDE"_s, write(lines), false}, afiliados::leerMapa(),
+                              [](qint64 done, qint64) { return done < 100; });
     EXPECT_TRUE(summary.detenido);
     EXPECT_LT(summary.lineas, 3000);
     EXPECT_EQ(one(u"Select count(*) from Pacientes"_s), QString::number(summary.nuevos + 1));

@@ -30,7 +30,8 @@ TEST_F(Money, amountsAreReadAsNumbersOfTheProgramAndSumsAreExact)
     dao::Batch together(BaseDatos);
     for (int i = 0; i < 1000; ++i) {
         rows.addNew();
-        caja::escribir(rows, {basic::Date(march15), u"Varios"_s, {}, i % 2 == 0, basic::Currency::fromUnits(1001)});
+        caja::escribir(rows,
+                       {basic::Date(march15), u"Varios"_s, {}, i % 2 == 0, basic::Currency::fromUnits(1001)});
         rows.update();
     }
     together.commit();
@@ -47,7 +48,8 @@ TEST_F(Money, aFilterTakesTheHoursOfItsDaysAndTheAccountWithoutItsBlanks)
          "INSERT INTO Caja (Fecha, Cuenta, Entrada, Salida) VALUES (cdate('16/03/2024'), 'O''Luz', 2, 0)",
          "INSERT INTO Caja (Fecha, Cuenta, Entrada, Salida) VALUES (cdate('01/03/2024'), 'Otra', 4, 0)"});
     const auto entries = [](const QString &account) {
-        const auto sums = caja::movimientos(basic::Date(march1), basic::Date(march15), account, u"Cuenta"_s).sumas();
+        const auto sums =
+            caja::movimientos(basic::Date(march1), basic::Date(march15), account, u"Cuenta"_s).sumas();
         return sums ? sums->entradas.toDouble() : -1;
     };
     EXPECT_EQ(entries(u"O'Luz"_s), 1);

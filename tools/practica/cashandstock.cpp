@@ -23,8 +23,8 @@ struct Expense {
     int pesos;
 };
 constexpr Expense expenses[] = {
-    {"Alquiler", "Alquiler y expensas", 5, 420000},      {"Servicios", "Luz", 12, 38500},
-    {"Servicios", "Internet y teléfono", 15, 29900},     {"Limpieza", "Servicio de limpieza", 28, 96000},
+    {"Alquiler", "Alquiler y expensas", 5, 420000},         {"Servicios", "Luz", 12, 38500},
+    {"Servicios", "Internet y teléfono", 15, 29900},        {"Limpieza", "Servicio de limpieza", 28, 96000},
     {"Sueldos y cargas sociales", "Secretaria", 4, 680000}, {"Impuestos y tasas", "Monotributo", 20, 61000},
 };
 constexpr int feeOfAVisit = 18000;
@@ -50,7 +50,8 @@ basic::Date day(QDate date)
     return basic::Date(date);
 }
 
-void addMovement(dao::Recordset &rows, QDate date, const QString &account, const QString &detail, bool in, int pesos)
+void addMovement(dao::Recordset &rows, QDate date, const QString &account, const QString &detail, bool in,
+                 int pesos)
 {
     rows.addNew();
     caja::escribir(rows, {day(date), account, detail, in, basic::Currency::fromUnits(qint64(pesos) * 10000)});
@@ -84,8 +85,11 @@ void addArticle(const Article &article, const QString &supplier)
 /// All are bought once, and used week by week until little is left of some.
 void useArticles(QDate today, Dice &dice)
 {
-    stock::Movimiento bought{stock::Sentido::Entrada, day(today.addDays(-7 * weeksOfStock)),
-                             key("TipoMovimientos", "idTipoMovimiento", u"Compra"_s), u"R 0001-00004512"_s, {}};
+    stock::Movimiento bought{stock::Sentido::Entrada,
+                             day(today.addDays(-7 * weeksOfStock)),
+                             key("TipoMovimientos", "idTipoMovimiento", u"Compra"_s),
+                             u"R 0001-00004512"_s,
+                             {}};
     qint64 id = 0;
     for (const Article &article : articles)
         bought.renglones.push_back({++id, double(article.ideal)});
@@ -94,8 +98,11 @@ void useArticles(QDate today, Dice &dice)
     for (int week = 1; week < weeksOfStock; ++week) {
         const int which = between(dice, 0, int(std::size(articles)) - 1);
         const int amount = std::max(1, articles[which].ideal / 8);
-        stock::registrar({stock::Sentido::Salida, day(today.addDays(7 * (week - weeksOfStock))), used,
-                          u"Semana %1"_s.arg(week), {{which + 1, double(amount)}}});
+        stock::registrar({stock::Sentido::Salida,
+                          day(today.addDays(7 * (week - weeksOfStock))),
+                          used,
+                          u"Semana %1"_s.arg(week),
+                          {{which + 1, double(amount)}}});
     }
 }
 
@@ -107,8 +114,8 @@ void addCash(QDate today, Dice &dice)
     for (QDate date = today.addDays(-daysOfCash); date <= today; date = date.addDays(1)) {
         for (const Expense &expense : expenses)
             if (expense.day == date.day())
-                addMovement(rows, date, QString::fromUtf8(expense.account), QString::fromUtf8(expense.detail), false,
-                            expense.pesos);
+                addMovement(rows, date, QString::fromUtf8(expense.account), QString::fromUtf8(expense.detail),
+                            false, expense.pesos);
         if (const int visits = date.dayOfWeek() > 5 ? 0 : between(dice, 0, 4); visits > 0)
             addMovement(rows, date, u"Consultas particulares"_s, u"Consultas: %1"_s.arg(visits), true,
                         visits * feeOfAVisit);

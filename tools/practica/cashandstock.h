@@ -10,7 +10,8 @@ namespace practica
 
 /// A year of the cashbook up to today.
 void addCash(QDate today, Dice &dice);
-/// A few articles of the first professional, with suppliers and half a year of movements; some are running out.
+/// A few articles of the first professional, with suppliers and half a year of movements; some are running
+/// out.
 void addStock(QDate today, Dice &dice);
 
 } // namespace practica

@@ -78,7 +78,7 @@ Letras letrasDe(const QByteArray &muestra)
     if (dicho == "IBM850")
         return Letras::Codigo850;
     return letrasEspanolas(muestra, en850) > letrasEspanolas(muestra, en1252) ? Letras::Codigo850
-                                                                               : Letras::Windows1252;
+                                                                              : Letras::Windows1252;
 }
 
 bool Lineas::abrir(const QString &archivo)

@@ -68,8 +68,8 @@ Mapa leerMapa()
 {
     const dao::TableDef pacientes = MODULE11::BaseDatos.tableDef(u"Pacientes");
     Mapa mapa;
-    for (dao::Recordset filas = MODULE11::BaseDatos.openRecordset(u"Select * from CamposImport"_s); !filas.eof();
-         filas.moveNext()) {
+    for (dao::Recordset filas = MODULE11::BaseDatos.openRecordset(u"Select * from CamposImport"_s);
+         !filas.eof(); filas.moveNext()) {
         mapa.vacio = false;
         Campo campo{sinCorchetes(filas[u"CampoEnAfiliado"].text()), filas[u"PosicionInicial"].integer(),
                     filas[u"Tamano"].integer()};

@@ -9,12 +9,13 @@
 #include <optional>
 #include <vector>
 
-/// Where each field of an affiliate stands in a line of the roll, as the practice has set it in `CamposImport`.
+/// Where each field of an affiliate stands in a line of the roll, as the practice has set it in
+/// `CamposImport`.
 namespace afiliados
 {
 
 struct Campo {
-    QString columna; ///< of `Pacientes`, without brackets
+    QString columna;                 ///< of `Pacientes`, without brackets
     qint64 posicion = 0, tamano = 0; ///< in characters, the first being 1
     dao::FieldType tipo = dao::FieldType::Text;
     int largo = 0; ///< of a text; 0 for any

@@ -17,18 +17,19 @@ panConfCamposImport::panConfCamposImport()
     Data1.bind(cbCampo, u"CampoEnAfiliado"_s);
     Data1.bind(txPosicion, u"PosicionInicial"_s);
     Data1.bind(txTamano, u"Tamano"_s);
-    setContents(this, Column{
-                          Expanding(DBGrid1),
-                          Row{Expanding(Fields{{u"Ca&mpo :"_s, cbCampo}}), Fields{{u"&Posición inicial :"_s, txPosicion}},
-                              Fields{{u"&Tamaño :"_s, txTamano}}},
-                          Row{command(u"Command1"_s, u"A&gregar"_s, u"agregar"_s, [this] { agregar(); }),
-                              deletes(u"Command2"_s, u"&Quitar"_s, {.question = u"Quita este campo"_s}),
-                              rowCommand(u"Command3"_s, u"Tomar &cambios"_s, u"guardar"_s,
-                                         [this] { Data1.updateRecord(); }),
-                              rowCommand(u"Command4"_s, u"&Asignar como índice el registro seleccionado"_s,
-                                         u"aceptar"_s, [this] { asignarIndice(); }),
-                              Stretch(), closes(u"Command5"_s, u"&Salir"_s)},
-                      });
+    setContents(this,
+                Column{
+                    Expanding(DBGrid1),
+                    Row{Expanding(Fields{{u"Ca&mpo :"_s, cbCampo}}),
+                        Fields{{u"&Posición inicial :"_s, txPosicion}}, Fields{{u"&Tamaño :"_s, txTamano}}},
+                    Row{command(u"Command1"_s, u"A&gregar"_s, u"agregar"_s, [this] { agregar(); }),
+                        deletes(u"Command2"_s, u"&Quitar"_s, {.question = u"Quita este campo"_s}),
+                        rowCommand(u"Command3"_s, u"Tomar &cambios"_s, u"guardar"_s,
+                                   [this] { Data1.updateRecord(); }),
+                        rowCommand(u"Command4"_s, u"&Asignar como índice el registro seleccionado"_s,
+                                   u"aceptar"_s, [this] { asignarIndice(); }),
+                        Stretch(), closes(u"Command5"_s, u"&Salir"_s)},
+                });
     resize(820, 460);
 }
 

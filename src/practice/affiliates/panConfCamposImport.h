@@ -2,8 +2,8 @@
 
 #include "core/records/tabla.h"
 
-/// "Configuración de campos para importar": where each column of the patients stands in a line of the roll, and
-/// which one an affiliate is known by.
+/// "Configuración de campos para importar": where each column of the patients stands in a line of the roll,
+/// and which one an affiliate is known by.
 class panConfCamposImport : public records::Tabla
 {
     Q_OBJECT

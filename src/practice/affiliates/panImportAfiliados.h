@@ -6,9 +6,9 @@
 
 #include <QProgressBar>
 
-/// "Proceso de actualización de afiliados": merges the roll of a coverage plan into the register of patients. With
-/// the tag "AUTO" it does so at once, with what was chosen last, and answers "SI" or "NO"; what keeps it from its
-/// work is left in the table of events.
+/// "Proceso de actualización de afiliados": merges the roll of a coverage plan into the register of patients.
+/// With the tag "AUTO" it does so at once, with what was chosen last, and answers "SI" or "NO"; what keeps it
+/// from its work is left in the table of events.
 class panImportAfiliados : public forms::Form
 {
     Q_OBJECT
@@ -49,7 +49,8 @@ private:
                                   QStringLiteral("aceptar")};
     forms::CommandButton Command3{QStringLiteral("Command3"), QStringLiteral("C&onfigurar campos..."),
                                   QStringLiteral("configurar")};
-    forms::CommandButton Command4{QStringLiteral("Command4"), QStringLiteral("&Salir"), QStringLiteral("cerrar")};
+    forms::CommandButton Command4{QStringLiteral("Command4"), QStringLiteral("&Salir"),
+                                  QStringLiteral("cerrar")};
     forms::CommandButton Command5{QStringLiteral("Command5"), QStringLiteral("&Probar sin grabar..."),
                                   QStringLiteral("ver")};
 };

@@ -11,10 +11,12 @@ class panPruebaImport : public forms::Form
 {
     Q_OBJECT
 public:
-    panPruebaImport(const afiliados::Mapa &mapa, const std::vector<QStringList> &lineas, const QString &resumen);
+    panPruebaImport(const afiliados::Mapa &mapa, const std::vector<QStringList> &lineas,
+                    const QString &resumen);
 
 private:
     QTableWidget Grid1;
     forms::MemoBox txResumen{QStringLiteral("txResumen")};
-    forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Cerrar"), QStringLiteral("cerrar")};
+    forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Cerrar"),
+                                  QStringLiteral("cerrar")};
 };

@@ -42,8 +42,8 @@ void indexar(const Campo &clave)
         return indice.fields.front().compare(clave.columna, Qt::CaseInsensitive) == 0;
     });
     if (!hay)
-        BaseDatos.execute(u"CREATE INDEX %1 ON Pacientes (%2)"_s.arg(conCorchetes(u"Importa "_s + clave.columna),
-                                                                     conCorchetes(clave.columna)));
+        BaseDatos.execute(u"CREATE INDEX %1 ON Pacientes (%2)"_s.arg(
+            conCorchetes(u"Importa "_s + clave.columna), conCorchetes(clave.columna)));
 }
 
 QString enSentencia(const basic::Value &valor)
@@ -67,8 +67,8 @@ class Proceso
 {
 public:
     Proceso(const Pedido &pedido, const Mapa &mapa)
-        : pedido_(pedido), mapa_(mapa), buscar_(u"Select * from Pacientes where %1 = "_s.arg(
-                                            conCorchetes(mapa.clave->columna))),
+        : pedido_(pedido), mapa_(mapa),
+          buscar_(u"Select * from Pacientes where %1 = "_s.arg(conCorchetes(mapa.clave->columna))),
           tieneProfesional_(BaseDatos.tableDef(u"Pacientes").field(u"idProfesional") != nullptr)
     {
     }
@@ -268,8 +268,8 @@ QString Resumen::texto(bool ensayo) const
     renglones += u"Sin cambios: %1"_s.arg(conMiles(iguales));
     renglones += u"Salteadas: %1"_s.arg(conMiles(cantidadDeSalteadas()));
     for (const auto &[motivo, cuenta] : salteadas)
-        renglones +=
-            u"    %1: %2 (la primera, línea %3)"_s.arg(motivo, conMiles(cuenta.lineas), conMiles(cuenta.primera));
+        renglones += u"    %1: %2 (la primera, línea %3)"_s.arg(motivo, conMiles(cuenta.lineas),
+                                                                conMiles(cuenta.primera));
     if (recortados > 0)
         renglones += u"Textos recortados: %1"_s.arg(conMiles(recortados));
     if (!desconocidas.isEmpty())

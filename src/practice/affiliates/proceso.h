@@ -38,9 +38,9 @@ struct Resumen {
 /// How many of all lines are done; false stops the run.
 using Avance = std::function<bool(qint64 hechas, qint64 total)>;
 
-/// Runs over the file, line by line; what is written stays whatever ends it. A line that cannot be taken in is
-/// skipped, told, and left in a file beside the roll, as it stood. Throws basic::Error with what keeps all lines
-/// from being read or written.
+/// Runs over the file, line by line; what is written stays whatever ends it. A line that cannot be taken in
+/// is skipped, told, and left in a file beside the roll, as it stood. Throws basic::Error with what keeps all
+/// lines from being read or written.
 Resumen actualizar(const Pedido &pedido, const Mapa &mapa, const Avance &avance);
 
 /// The first lines of a file, each cut by the map.

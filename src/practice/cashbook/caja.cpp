@@ -69,8 +69,7 @@ std::optional<Sumas> Consulta::sumas() const
 
 Consulta movimientos(basic::Date desde, basic::Date hasta, const QString &cuenta, const QString &orden)
 {
-    const QString dias =
-        u"fecha >= %1 and fecha < %2"_s.arg(dao::cdate(desde), dao::cdate(siguiente(hasta)));
+    const QString dias = u"fecha >= %1 and fecha < %2"_s.arg(dao::cdate(desde), dao::cdate(siguiente(hasta)));
     const QString deLaCuenta = cuenta == todas ? QString() : u" and trim(cuenta) = "_s + dao::quoted(cuenta);
     return {dias + deLaCuenta, orden};
 }

@@ -3,7 +3,8 @@
 #include "core/records/tabla.h"
 #include "practice/cashbook/caja.h"
 
-/// "Pantalla de gastos y entradas": the one cashbook of the practice, with what the movements in sight come to.
+/// "Pantalla de gastos y entradas": the one cashbook of the practice, with what the movements in sight come
+/// to.
 class panCaja : public records::Tabla
 {
     Q_OBJECT

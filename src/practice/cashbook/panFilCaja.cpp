@@ -11,12 +11,13 @@ panFilCaja::panFilCaja() : Form(u"panFilCaja"_s)
 {
     setWindowTitle(u"Filtro de Movimientos"_s);
     Command1.setDefault(true);
-    setContents(this, Column{
-                          Row{Fields{{u"&Desde :"_s, mFecha}}, Fields{{u"&Hasta :"_s, mFechaHasta}}, Stretch()},
-                          Fields{{u"&Ordenar :"_s, mOrden}, {u"&Ver :"_s, mCuenta}},
-                          Stretch(),
-                          Row{Stretch(), Command1, Command2},
-                      });
+    setContents(this,
+                Column{
+                    Row{Fields{{u"&Desde :"_s, mFecha}}, Fields{{u"&Hasta :"_s, mFechaHasta}}, Stretch()},
+                    Fields{{u"&Ordenar :"_s, mOrden}, {u"&Ver :"_s, mCuenta}},
+                    Stretch(),
+                    Row{Stretch(), Command1, Command2},
+                });
     connect(&Command1, &QPushButton::clicked, this, &panFilCaja::mostrar);
     connect(&Command2, &QPushButton::clicked, this, [this] { answer(u"NO"_s); });
 }

@@ -31,14 +31,15 @@ panGastos::panGastos() : Form(u"panGastos"_s)
     mMonto.setAlignment(Qt::AlignRight);
     mDetalle.setText(u"-"_s);
     Command1.setDefault(true);
-    setContents(this, Column{
-                          Label1,
-                          Fields{{u"&Fecha :"_s, Row{mFecha, Space(16), mTipo(salida), mTipo(entrada), Stretch()}},
-                                 {u"Cuen&ta :"_s, Row{Expanding(mCuenta), Command3}},
-                                 {u"&Importe :"_s, Row{mMonto, Stretch()}},
-                                 {u"C&oncepto :"_s, mDetalle}},
-                          Row{Stretch(), Command1, Command2},
-                      });
+    setContents(this,
+                Column{
+                    Label1,
+                    Fields{{u"&Fecha :"_s, Row{mFecha, Space(16), mTipo(salida), mTipo(entrada), Stretch()}},
+                           {u"Cuen&ta :"_s, Row{Expanding(mCuenta), Command3}},
+                           {u"&Importe :"_s, Row{mMonto, Stretch()}},
+                           {u"C&oncepto :"_s, mDetalle}},
+                    Row{Stretch(), Command1, Command2},
+                });
     setMinimumWidth(560);
     connect(&mMonto, &QLineEdit::editingFinished, this, &panGastos::dejarImporte);
     connect(&Command1, &QPushButton::clicked, this, &panGastos::aceptar);

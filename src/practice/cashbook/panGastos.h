@@ -5,8 +5,8 @@
 #include "platform/forms/form.h"
 #include "practice/cashbook/caja.h"
 
-/// "Cargar un movimiento a la Caja": new movements, one after another until it is closed, or the correction of
-/// one.
+/// "Cargar un movimiento a la Caja": new movements, one after another until it is closed, or the correction
+/// of one.
 class panGastos : public forms::Form
 {
     Q_OBJECT

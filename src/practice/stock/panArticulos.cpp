@@ -6,6 +6,7 @@
 #include "core/services/services.h"
 #include "core/session/session.h"
 #include "platform/basic/environment.h"
+#include "practice/stock/listaDeArticulos.h"
 #include "practice/stock/panNueArticulo.h"
 #include "practice/stock/panNueMovStock.h"
 #include "practice/stock/panNueProveedor.h"
@@ -19,6 +20,7 @@ using MODULE11::BaseDatos;
 namespace
 {
 
+constexpr int hojaMovimientos = 1;
 const QString pregunta = u"Elimina este elemento?"_s;
 const QString importes = u"#,##0.00"_s;
 
@@ -31,22 +33,23 @@ std::optional<qint64> clave(const ComboBox &filtro)
 }
 
 /// Fills a filter anew behind its first entry; what was chosen and is still there stays so.
-void rellenar(ComboBox &filtro, const QString &sql, QStringView texto, QStringView columna)
+void rellenar(ComboBox &filtro, const std::function<void()> &agregar)
 {
     const QSignalBlocker silencio(filtro);
     const QVariant antes = filtro.currentData();
     filtro.clear();
     filtro.addItem(stock::todos);
-    services::agregarConClave(filtro, sql, texto, columna);
+    agregar();
     filtro.setCurrentIndex(antes.isValid() ? std::max(0, filtro.findData(antes)) : 0);
 }
 
 } // namespace
 
 panArticulos::panArticulos()
-    : Form(u"panArticulos"_s),
-      rubros(0, {u"Rubros"_s, u"idRubro"_s, u"Nuevo Rubro"_s, u"Ingrese la descripción del rubro/tipo :"_s, pregunta},
-             u"Nuevo &rubro..."_s, u"&Quitar"_s),
+    : Form(u"panArticulos"_s), rubros(0,
+                                      {u"Rubros"_s, u"idRubro"_s, u"Nuevo Rubro"_s,
+                                       u"Ingrese la descripción del rubro/tipo :"_s, pregunta},
+                                      u"Nuevo &rubro..."_s, u"&Quitar"_s),
       unidades(1,
                {u"UnidadMedidas"_s, u"idUnidadMedida"_s, u"Nueva unidad de medida"_s,
                 u"Ingrese la descripción del tipo de unidad de medida :"_s, pregunta},
@@ -58,6 +61,7 @@ panArticulos::panArticulos()
 {
     setWindowTitle(u"Administración de artículos y stock"_s);
     cbPrest.setMinimumWidth(300);
+    stock::ancho(cbArticulo);
     dt1.setValue(basic::Date(basic::today().date().addMonths(-1)));
     setContents(this, Column{
                           Row{Fields{{u"Profesio&nal :"_s, cbPrest}}, Stretch(),
@@ -151,7 +155,6 @@ void panArticulos::load()
     }
     for (stock::TablaChica *tabla : {&rubros, &unidades, &tipos})
         tabla->llenar();
-    llenarTipos();
     leerProveedores();
     mostrarProfesional();
     conectar();
@@ -166,7 +169,7 @@ void panArticulos::conectar()
         connect(dia, &DTPicker::dateChanged, this, &panArticulos::leerMovimientos);
     connect(&DBGrid1, &DBGrid::accepted, this, &panArticulos::modificarArticulo);
     connect(&DBGrid3, &DBGrid::accepted, this, &panArticulos::modificarProveedor);
-    connect(&tipos, &stock::TablaChica::cambiada, this, &panArticulos::llenarTipos);
+    connect(&SSTab1, &QTabWidget::currentChanged, this, &panArticulos::mostrarMovimientos);
     for (stock::TablaChica *tabla : {&rubros, &unidades})
         connect(tabla, &stock::TablaChica::cambiada, this, [this] { leerArticulos(); });
 }
@@ -199,6 +202,14 @@ std::optional<qint64> panArticulos::filaElegida(Data &filas, const QString &colu
 void panArticulos::mostrarProfesional()
 {
     leerArticulos();
+    mostrarMovimientos();
+}
+
+/// They are read when somebody looks at them.
+void panArticulos::mostrarMovimientos()
+{
+    if (SSTab1.currentIndex() != hojaMovimientos)
+        return;
     llenarFiltros();
     leerMovimientos();
 }
@@ -212,17 +223,11 @@ void panArticulos::leerArticulos(std::optional<qint64> elegido)
 
 void panArticulos::llenarFiltros()
 {
-    rellenar(cbArticulo,
-             u"Select idArticulo, Descripcion from articulos where idprofesional = %1 ORDER BY descripcion"_s.arg(
-                 profesional().value_or(-1)),
-             u"Descripcion", u"idArticulo");
-}
-
-void panArticulos::llenarTipos()
-{
-    rellenar(cbTipoMov, u"Select * from TipoMovimientos ORDER BY Descripcion"_s, u"Descripcion",
-             u"idTipoMovimiento");
-    leerMovimientos();
+    rellenar(cbArticulo, [this] { stock::agregarArticulos(cbArticulo, profesional().value_or(-1)); });
+    rellenar(cbTipoMov, [this] {
+        services::agregarConClave(cbTipoMov, u"Select * from TipoMovimientos ORDER BY Descripcion"_s,
+                                  u"Descripcion", u"idTipoMovimiento");
+    });
 }
 
 void panArticulos::leerMovimientos()
@@ -248,7 +253,6 @@ void panArticulos::nuevoArticulo()
     if (ficha.tag() != u"SI")
         return;
     leerArticulos(ficha.idArticulo());
-    llenarFiltros();
 }
 
 void panArticulos::modificarArticulo()
@@ -263,7 +267,6 @@ void panArticulos::modificarArticulo()
     if (ficha.tag() != u"SI")
         return;
     leerArticulos(*articulo);
-    llenarFiltros();
 }
 
 void panArticulos::borrarArticulo()
@@ -291,7 +294,7 @@ void panArticulos::mover(stock::Sentido sentido)
     if (captura.tag() != u"SI")
         return;
     leerArticulos(articulo);
-    leerMovimientos();
+    mostrarMovimientos();
 }
 
 void panArticulos::nuevoProveedor()

@@ -9,8 +9,8 @@
 #include "practice/stock/stock.h"
 #include "practice/stock/tablaChica.h"
 
-/// "Administración de artículos y stock" of each professional: articles, their movements, the suppliers and the
-/// small tables that they take names from.
+/// "Administración de artículos y stock" of each professional: articles, their movements, the suppliers and
+/// the small tables that they take names from.
 class panArticulos : public forms::Form
 {
     Q_OBJECT
@@ -37,10 +37,10 @@ private:
 
     void mostrarProfesional();
     void leerArticulos(std::optional<qint64> elegido = {});
+    void mostrarMovimientos();
     void leerMovimientos();
     void leerProveedores(std::optional<qint64> elegido = {});
     void llenarFiltros();
-    void llenarTipos();
 
     void nuevoArticulo();
     void modificarArticulo();

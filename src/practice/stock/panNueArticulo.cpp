@@ -36,7 +36,8 @@ struct Lista {
     QStringView columna, consulta, texto;
 };
 constexpr Lista rubros{u"idRubro", u"Select * from Rubros order by Descripcion", u"Descripcion"};
-constexpr Lista unidades{u"idUnidadMedida", u"Select * from UnidadMedidas order by Descripcion", u"Descripcion"};
+constexpr Lista unidades{u"idUnidadMedida", u"Select * from UnidadMedidas order by Descripcion",
+                         u"Descripcion"};
 constexpr Lista proveedores{u"idProveedor", u"Select * from Proveedores order by Empresa", u"Empresa"};
 const QString ninguno = u"<Sin Asignar>"_s;
 
@@ -96,10 +97,15 @@ panNueArticulo::panNueArticulo(qint64 idProfesional, std::optional<qint64> idArt
         Text1(cActual).setToolTip(u"Cambia con las entradas y salidas"_s);
     }
     Command1.setDefault(true);
-    const auto campo = [this](int indice) { return FieldRow(tabla[indice].rotulo.toString(), Text1(indice)); };
+    const auto campo = [this](int indice) {
+        return FieldRow(tabla[indice].rotulo.toString(), Text1(indice));
+    };
     setContents(this, Column{
-                          Fields{campo(cCodigo), campo(cDescripcion), {u"&Rubro :"_s, cbRubro},
-                                 {u"&Unidad de medida :"_s, cbUnidad}, {u"&Proveedor :"_s, cbProveedor}},
+                          Fields{campo(cCodigo),
+                                 campo(cDescripcion),
+                                 {u"&Rubro :"_s, cbRubro},
+                                 {u"&Unidad de medida :"_s, cbUnidad},
+                                 {u"&Proveedor :"_s, cbProveedor}},
                           Row{Fields{campo(cActual), campo(cMinimo), campo(cIdeal)},
                               Fields{campo(cCosto), campo(cCostoTotal), campo(cVenta)}},
                           Stretch(),

@@ -7,8 +7,8 @@
 
 #include <optional>
 
-/// An article of the stock: a new one of a professional, or the data of one. The stock itself is typed for a new
-/// one only; later it changes by its movements. Answers "SI" once it is written.
+/// An article of the stock: a new one of a professional, or the data of one. The stock itself is typed for a
+/// new one only; later it changes by its movements. Answers "SI" once it is written.
 class panNueArticulo : public forms::Form
 {
     Q_OBJECT

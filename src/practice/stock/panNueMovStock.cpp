@@ -4,7 +4,7 @@
 #include "core/services/services.h"
 #include "core/session/session.h"
 #include "platform/forms/layout.h"
-#include "platform/forms/wrong.h"
+#include "practice/stock/listaDeArticulos.h"
 
 #include <QHeaderView>
 
@@ -34,26 +34,29 @@ panNueMovStock::panNueMovStock(stock::Sentido sentido, qint64 idProfesional, std
     Grid1.setMinimumHeight(200);
     txCant.setText(una);
     txCant.setFixedWidth(90);
-    cbDescripcion.setMinimumWidth(300);
+    stock::ancho(cbCodigo);
+    stock::ancho(cbDescripcion);
     disponer();
     enlazar();
 }
 
 void panNueMovStock::disponer()
 {
-    setContents(this, Column{
-                          Row{Fields{{u"&Fecha :"_s, dtFecha}}, Fields{{u"&Tipo de movimiento :"_s, cbTipoMov}},
-                              Fields{{u"Co&mprobante :"_s, txComprobante}}},
-                          Row{Above(u"Có&digo :"_s, cbCodigo), Expanding(Above(u"D&escripción :"_s, cbDescripcion)),
-                              Above(u"Ca&ntidad :"_s, txCant)},
-                          Row{Stretch(), Command1, Command4},
-                          Expanding(Grid1),
-                          Row{Stretch(), Command2, Command3},
-                      });
+    setContents(this,
+                Column{
+                    Row{Fields{{u"&Fecha :"_s, dtFecha}}, Fields{{u"&Tipo de movimiento :"_s, cbTipoMov}},
+                        Fields{{u"Co&mprobante :"_s, txComprobante}}},
+                    Row{Above(u"Có&digo :"_s, cbCodigo), Expanding(Above(u"D&escripción :"_s, cbDescripcion)),
+                        Above(u"Ca&ntidad :"_s, txCant)},
+                    Row{Stretch(), Command1, Command4},
+                    Expanding(Grid1),
+                    Row{Stretch(), Command2, Command3},
+                });
     resize(760, 480);
 }
 
-/// Both lists have the articles in one order: their entries are in step, and two articles of one code stay two.
+/// Both lists have the articles in one order: their entries are in step, and two articles of one code stay
+/// two.
 void panNueMovStock::enlazar()
 {
     connect(&cbCodigo, &QComboBox::currentIndexChanged, &cbDescripcion, &QComboBox::setCurrentIndex);
@@ -67,18 +70,9 @@ void panNueMovStock::enlazar()
 
 void panNueMovStock::load()
 {
-    services::agregarConClave(cbTipoMov, u"Select * from TipoMovimientos ORDER BY Descripcion"_s, u"Descripcion",
-                              u"idTipoMovimiento");
-    dao::Recordset articulos = MODULE11::BaseDatos.openRecordset(
-        u"Select idArticulo, Codigo, Descripcion from Articulos where idProfesional = %1 ORDER BY Descripcion"_s.arg(
-            idProfesional_));
-    MODULE11::BaseDatos.readTogether([&] {
-        for (qint64 fila = 0; articulos.hasRow(fila); ++fila) {
-            const qint64 id = articulos.valueAt(fila, 0).integer();
-            cbCodigo.addItem(articulos.valueAt(fila, 1).text(), id);
-            cbDescripcion.addItem(articulos.valueAt(fila, 2).text(), id);
-        }
-    });
+    services::agregarConClave(cbTipoMov, u"Select * from TipoMovimientos ORDER BY Descripcion"_s,
+                              u"Descripcion", u"idTipoMovimiento");
+    stock::agregarArticulos(cbDescripcion, idProfesional_, &cbCodigo);
     cbTipoMov.setCurrentIndex(-1);
     cbDescripcion.setCurrentIndex(idArticulo_ ? cbDescripcion.findData(*idArticulo_) : -1);
     cbCodigo.setCurrentIndex(cbDescripcion.currentIndex());

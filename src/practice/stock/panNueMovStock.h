@@ -6,8 +6,8 @@
 
 #include <QTableWidget>
 
-/// What came in or went out: a list of articles with their quantities, put together before it is noted. Answers
-/// "SI" once it is.
+/// What came in or went out: a list of articles with their quantities, put together before it is noted.
+/// Answers "SI" once it is.
 class panNueMovStock : public forms::Form
 {
     Q_OBJECT

@@ -16,8 +16,8 @@ struct Campo {
     int largo;
 };
 constexpr Campo tabla[] = {
-    {u"Empresa", u"&Empresa :", 50},     {u"Persona", u"&Persona :", 50},   {u"Domicilio", u"&Domicilio :", 50},
-    {u"Telefono", u"&Teléfono :", 50}, {u"Email", u"E&mail :", 60}, {u"Cuit", u"CU&IT :", 15},
+    {u"Empresa", u"&Empresa :", 50},   {u"Persona", u"&Persona :", 50}, {u"Domicilio", u"&Domicilio :", 50},
+    {u"Telefono", u"&Teléfono :", 50}, {u"Email", u"E&mail :", 60},     {u"Cuit", u"CU&IT :", 15},
 };
 enum { cEmpresa };
 

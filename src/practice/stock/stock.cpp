@@ -15,8 +15,9 @@ namespace
 
 void mover(qint64 idArticulo, double cantidad)
 {
-    BaseDatos.execute(u"UPDATE Articulos SET StockActual = Nz(StockActual, 0) + %1 WHERE idArticulo = %2"_s.arg(
-        basic::sqlNumber(cantidad), QString::number(idArticulo)));
+    BaseDatos.execute(
+        u"UPDATE Articulos SET StockActual = Nz(StockActual, 0) + %1 WHERE idArticulo = %2"_s.arg(
+            basic::sqlNumber(cantidad), QString::number(idArticulo)));
 }
 
 QString clausula(const QString &campo, const std::optional<qint64> &clave)
@@ -31,8 +32,7 @@ void registrar(const Movimiento &movimiento)
     dao::Batch juntos(BaseDatos);
     dao::Recordset filas = BaseDatos.openRecordset(u"MovStock"_s);
     for (const Renglon &renglon : movimiento.renglones) {
-        const double cantidad =
-            movimiento.sentido == Sentido::Entrada ? renglon.cantidad : -renglon.cantidad;
+        const double cantidad = movimiento.sentido == Sentido::Entrada ? renglon.cantidad : -renglon.cantidad;
         filas.addNew();
         filas[u"idArticulo"] = renglon.idArticulo;
         filas[u"Cantidad"] = cantidad;
@@ -65,7 +65,7 @@ QString movimientos(const Filtro &filtro)
 {
     return u"SELECT MovStock.Fecha, Articulos.Codigo, Articulos.Descripcion AS Articulo, MovStock.Cantidad, "
            u"TipoMovimientos.Descripcion AS Tipo, MovStock.Comprobante, MovStock.idMovStock FROM (Articulos "
-           u"RIGHT JOIN MovStock ON Articulos.idArticulo = MovStock.idArticulo) LEFT JOIN TipoMovimientos ON "
+           u"INNER JOIN MovStock ON Articulos.idArticulo = MovStock.idArticulo) LEFT JOIN TipoMovimientos ON "
            u"MovStock.idTipoMovimiento = TipoMovimientos.idTipoMovimiento WHERE Articulos.idProfesional = %1 "
            u"AND MovStock.Fecha >= %2 AND MovStock.Fecha < %3"_s.arg(
                QString::number(filtro.idProfesional), dao::cdate(filtro.desde),

@@ -51,8 +51,7 @@ void TablaChica::agregar()
     const QString texto = inputBox(textos_.pedido, textos_.titulo, {}, largo).value_or(QString()).trimmed();
     if (texto.isEmpty())
         return;
-    BaseDatos.execute(
-        u"INSERT INTO %1 (Descripcion) VALUES (%2)"_s.arg(textos_.tabla, dao::quoted(texto)));
+    BaseDatos.execute(u"INSERT INTO %1 (Descripcion) VALUES (%2)"_s.arg(textos_.tabla, dao::quoted(texto)));
     llenar();
     emit cambiada();
 }

@@ -7,7 +7,8 @@
 namespace stock
 {
 
-/// One of the small tables of the stock, a description a row: its list, and the buttons that add and take off.
+/// One of the small tables of the stock, a description a row: its list, and the buttons that add and take
+/// off.
 class TablaChica : public QWidget
 {
     Q_OBJECT
