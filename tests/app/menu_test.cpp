@@ -27,7 +27,6 @@ const std::set<std::string> notBuiltYet{
     "panEditorMMedia",
     "panEscolar",
     "panEstadisticas",
-    "panEvalDeportiva",
     "panEvalEvolFisica",
     "panFacturacion",
     "panGArchivos",
@@ -41,9 +40,7 @@ const std::set<std::string> notBuiltYet{
     "panOft",
     "panPrestaciones",
     "panProtBase",
-    "panRiesgoOperatorio",
     "panServices",
-    "panTestCardio",
     "panVidaSexual",
     "tooth",
 };
