@@ -105,8 +105,8 @@ constexpr Entry entries[] = {
     {2, "Fichas Perinatales", "menuFiPer", Modal, "panfichaPer"},
     {1, "Miscelaneas Cardiología", "", Folder},
     {2, "Evaluación deportiva", "menuEvalDepor", ModalWithTag, "panEvalDeportiva"},
-    {2, "Evaluación de Riesgo Cardíaco", "menuEvalRiesgoCardio", ModalWithTag, "panTestCardio"},
-    {2, "Test Riesgo Operatorio", "menuTestRiesOpe", ModalWithTag, "panRiesgoOperatorio"},
+    {2, "Evaluación de Riesgo Cardíaco", "menuEvalRiesgoCardio", Modal, "panTestCardio"},
+    {2, "Test Riesgo Operatorio", "menuTestRiesOpe", Modal, "panRiesgoOperatorio"},
     {1, "Miscelaneas Ginecológicas", "", Folder},
     {2, "Calculadora de riesgo gestacional", "menuMisCalGes", ModalWithTag, "panCalRiesgoGesta"},
 
