@@ -19,7 +19,6 @@ const std::set<std::string> notBuiltYet{
     "panAlimentacion",
     "panArticulos",
     "panCaja",
-    "panCalRiesgoGesta",
     "panCardioPrin",
     "panControlSano",
     "panDiario",
@@ -30,8 +29,6 @@ const std::set<std::string> notBuiltYet{
     "panEvalEvolFisica",
     "panFacturacion",
     "panGArchivos",
-    "panGinecoExamen",
-    "panGinecoOtros",
     "panIMC",
     "panImagenes",
     "panImportAfiliados",
@@ -41,7 +38,6 @@ const std::set<std::string> notBuiltYet{
     "panPrestaciones",
     "panProtBase",
     "panServices",
-    "panVidaSexual",
     "tooth",
 };
 

@@ -35,6 +35,9 @@
 #include "practice/appointments/panDispTurnos.h"
 #include "practice/appointments/panNueTurno.h"
 #include "practice/professionals/panNueProfesional.h"
+#include "specialties/gynaecology/panExaGineco.h"
+#include "specialties/gynaecology/panNueExGesta.h"
+#include "specialties/gynaecology/panNueExamenGineco.h"
 #include "specialties/risk/panSelRiesgoCardio.h"
 #include "subsystems.h"
 
@@ -77,6 +80,11 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panObservaRecien"), opening<panObservaRecien>()},
         {QStringLiteral("panTomaTension"), opening<panTomaTension>()},
         {QStringLiteral("panNueVisual"), opening<panNueVisual>()},
+        {QStringLiteral("panExaGineco"), opening<panExaGineco>()},
+        {QStringLiteral("panExaColpo"), opening<panExaColpo>()},
+        {QStringLiteral("panExaMamas"), opening<panExaMamas>()},
+        {QStringLiteral("panNueExGesta"), opening<panNueExGesta>()},
+        {QStringLiteral("panNueExamenGineco"), opening<panNueExamenGineco>()},
         {QStringLiteral("panSelRiesgoCardio1"), opening<panSelRiesgoCardio1>()},
         {QStringLiteral("panSelRiesgoCardio2"), opening<panSelRiesgoCardio2>()},
         {QStringLiteral("panInfRelVac"), [] { return std::make_unique<panInfRelVac>(QString()); }},

@@ -175,6 +175,18 @@ constexpr const char *columnasAjenasDePresion[] = {
     "ALTER TABLE Presion DROP COLUMN Fecha",
 };
 
+// The notes of the gynaecological sub-specialties are dated: they belong to the examinations.
+constexpr const char *columnasDeExamenGO[] = {
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_Menopausia MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_Mastologia MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_Infecciosas MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_Esterilidad MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_GinInfJuvenil MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_EnfVaginaVulva MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_EnfUteroAnexos MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_Oncologia MEMO",
+};
+
 constexpr const char *tablasDeVacunas[] = {
     "CREATE TABLE EdadesVacunas (Vacuna TEXT(20), Dosis TEXT(30), edad_recomendada_dias LONG, edad_minima_dias LONG, edad_maxima_dias LONG, intervalo_minimo_dias LONG, grupo TEXT(255))",
     "CREATE INDEX VacunaDosis ON EdadesVacunas (Vacuna, Dosis)",
@@ -305,6 +317,7 @@ void ActualizaBase()
     ejecuta(columnasAjenasDePresion);
     basic::ignoring(yaHecho, liberaFichaPerinatal);
     basic::ignoring(yaHecho, fraccionaPresiones);
+    ejecuta(columnasDeExamenGO);
     ejecuta(tablasDeVacunas);
     ejecuta(tablasDeLaboratorio);
     reparaTipoDeUsuarios();
