@@ -265,6 +265,18 @@ void liberaFichaPerinatal()
             cambiaTipo(u"Perinatal"_s, columna.name, u"TEXT(30)"_s, u"[%1] & ''"_s);
 }
 
+/// A test that was not made is neither positive nor negative. Where there was no third answer, one that was not
+/// positive counts as made if its value was written.
+void distingueScreeningNoHecho()
+{
+    const dao::TableDef perinatal = BaseDatos.tableDef(u"Perinatal");
+    for (const QString &campo : {u"Screening - TSH Neonatal"_s, u"Screening - Fenilanalina Neonatal"_s})
+        if (const dao::FieldDef *columna = perinatal.field(campo);
+            columna && columna->type == dao::FieldType::Bit)
+            cambiaTipo(u"Perinatal"_s, campo, u"TEXT(2)"_s,
+                       u"IIf([%1], 'SI', IIf([%1 (Valor)] & '' <> '', 'NO', Null))"_s);
+}
+
 /// A pressure may be the mean of several takings.
 void fraccionaPresiones()
 {
@@ -304,6 +316,7 @@ void ActualizaBase()
     ejecuta(columnasDelResumen);
     ejecuta(columnasAjenasDePresion);
     basic::ignoring(yaHecho, liberaFichaPerinatal);
+    basic::ignoring(yaHecho, distingueScreeningNoHecho);
     basic::ignoring(yaHecho, fraccionaPresiones);
     ejecuta(tablasDeVacunas);
     ejecuta(tablasDeLaboratorio);
