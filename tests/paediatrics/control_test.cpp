@@ -26,8 +26,8 @@ std::string nombres(const Problemas &problemas)
 TEST(Control, aBandEndsWithItsLastDay)
 {
     const std::pair<qint64, const char *> edades[] = {
-        {0, "Recien Nacido"},     {30, "Recien Nacido"},   {31, "Lactante"},      {730, "Lactante"},
-        {731, "Pre y Escolar"},   {4380, "Pre y Escolar"}, {4381, "Adolescente"}, {36500, "Adolescente"},
+        {0, "Recien Nacido"},   {30, "Recien Nacido"},   {31, "Lactante"},      {730, "Lactante"},
+        {731, "Pre y Escolar"}, {4380, "Pre y Escolar"}, {4381, "Adolescente"}, {36500, "Adolescente"},
     };
     for (const auto &[dias, franja] : edades)
         EXPECT_EQ(rotulo(franjaDe(dias)).toStdString(), franja) << dias;
@@ -86,7 +86,8 @@ TEST_F(ControlTest, maturationIsNotedOnceADay)
     guardarMaduracionSexual(7, hoy, u"b"_s);
     guardarMaduracionSexual(7, ayer, u"c"_s);
     EXPECT_EQ(maduracionSexual(7), u"b"_s);
-    EXPECT_EQ(column(u"Select Resultado from [Maduracion Sexual] order by fecha"_s), (QStringList{u"c"_s, u"b"_s}));
+    EXPECT_EQ(column(u"Select Resultado from [Maduracion Sexual] order by fecha"_s),
+              (QStringList{u"c"_s, u"b"_s}));
 }
 
 TEST_F(ControlTest, personalHistoryLeavesTheAllergyRecordAlone)

@@ -113,8 +113,7 @@ bool editaPaciente(qint64 numero)
             return false;
         }
         dao::Recordset pediatria = filas(u"Select * from Pediatria where numero = "_s, numero);
-        ficha.mostrar(*paciente, pediatria.eof() ? nullptr : &pediatria,
-                      patologiasFamiliares(numero));
+        ficha.mostrar(*paciente, pediatria.eof() ? nullptr : &pediatria, patologiasFamiliares(numero));
     }
     for (;;) {
         ficha.showModal();

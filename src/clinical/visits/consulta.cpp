@@ -151,7 +151,8 @@ Copiado tomarDelPaciente(const QString &numero, basic::Date fechaDeVisita)
     copiado.mutual = pacientes[u"Obra social"].text();
     if (const basic::Value nacimiento = pacientes[u"Fecha de Nacimiento"]; !nacimiento.isBlank())
         copiado.edad = basic::today().wholeDays() - nacimiento.date().wholeDays();
-    pacientes.edit([&] { pacientes[u"Ultima fecha visita"] = fechaDeVisita; }); // even one older than the stored
+    pacientes.edit(
+        [&] { pacientes[u"Ultima fecha visita"] = fechaDeVisita; }); // even one older than the stored
     return copiado;
 }
 

@@ -32,10 +32,11 @@ panAdole::panAdole()
                             .tabla = u"Adolescente"_s,
                             .columnaDePaciente = u"paciente"_s,
                             .columnaDeNombre = u"aspecto"_s,
+                            .siONo = u"Alarma"_s,
                             .rotulo = u"As&pecto"_s,
                             .sugerencias = aspectos,
                             .columnas = {{u"Aspecto"_s, u"aspecto"_s, {}, 260},
-                                         {u"Alarma"_s, u"Alarma"_s, {}, 80},
+                                         {u"Alarma"_s, u"SiONo"_s, {}, 80},
                                          {u"Observaciones"_s, u"observaciones"_s, {}, 300}}})
 {
     Data1.bind(Check1, u"Alarma"_s);

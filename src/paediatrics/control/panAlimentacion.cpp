@@ -11,6 +11,7 @@ panAlimentacion::panAlimentacion()
                             .tabla = u"Alimentacion"_s,
                             .columnaDePaciente = u"paciente"_s,
                             .columnaDeNombre = u"Alimento"_s,
+                            .siONo = u"tolerado"_s,
                             .rotulo = u"Ali&mento"_s,
                             .sugerencias = {u"Pecho materno"_s, u"Leche de fórmula"_s, u"Leche de vaca"_s,
                                             u"Cereales sin gluten"_s, u"Cereales con gluten"_s, u"Frutas"_s,
@@ -18,7 +19,7 @@ panAlimentacion::panAlimentacion()
                                             u"Legumbres"_s, u"Yogur"_s, u"Quesos"_s, u"Frutos secos"_s},
                             .columnas = {{u"Alimento"_s, u"Alimento"_s, {}, 190},
                                          {u"Tiempo"_s, u"Tiempo"_s, {}, 120},
-                                         {u"Tolera"_s, u"tolerado"_s, {}, 80},
+                                         {u"Tolera"_s, u"SiONo"_s, {}, 80},
                                          {u"Fecha"_s, u"fecha"_s, u"dd/mm/yyyy"_s, 90},
                                          {u"Observaciones"_s, u"observaciones"_s, {}, 200}}})
 {

@@ -174,12 +174,12 @@ Item panControlSano::examenFisico()
     rotular(List3, u"Datos positivos del examen físico"_s);
     connect(&Text1, &QLineEdit::returnPressed, this, &panControlSano::agregarDato);
     return Column{
-        Expanding(Group(
-            u"Datos positivos del examen físico"_s,
-            Column{Row{Expanding(Fields{{u"Dato positivo :"_s, Text1}}),
-                       boton(6, u"Agregar"_s, u"agregar"_s, [this] { agregarDato(); })},
-                   Row{Expanding(List3),
-                       Column{boton(7, u"Quitar"_s, u"quitar"_s, [this] { quitarDe(List3); }), Stretch()}}})),
+        Expanding(Group(u"Datos positivos del examen físico"_s,
+                        Column{Row{Expanding(Fields{{u"Dato positivo :"_s, Text1}}),
+                                   boton(6, u"Agregar"_s, u"agregar"_s, [this] { agregarDato(); })},
+                               Expanding(Row{Expanding(List3), Column{boton(7, u"Quitar"_s, u"quitar"_s,
+                                                                            [this] { quitarDe(List3); }),
+                                                                      Stretch()}})})),
         Group(u"Última tensión arterial"_s,
               Column{lblTension, Row{boton(11, u"Tensión arterial..."_s, u"cardiologia"_s,
                                            [this] { screens::showModal("panTension", tag()); }),
@@ -310,5 +310,7 @@ void panControlSano::imprimir()
         papel.escribir(u'\n' + QString::fromUtf8(nombre), 11, true);
         papel.escribir(lineas.join(u'\n'), 10);
     }
+    if (hitos_.muestraEdad())
+        papel.dibujar(hitos_);
     papel.terminar();
 }

@@ -13,9 +13,11 @@ namespace sano
 {
 
 RenglonesDelPaciente::RenglonesDelPaciente(Clase clase)
-    : ListaDelPaciente(clase.ventana, clase.titulo, clase.columnas,
-                       u"Select * from [%2] where [%3] = %1 order by [%4]"_s.arg(
-                           u"%1"_s, clase.tabla, clase.columnaDePaciente, clase.columnaDeNombre)),
+    : ListaDelPaciente(
+          clase.ventana, clase.titulo, clase.columnas,
+          u"Select *%5 from [%2] where [%3] = %1 order by [%4]"_s.arg(
+              u"%1"_s, clase.tabla, clase.columnaDePaciente, clase.columnaDeNombre,
+              clase.siONo.isEmpty() ? QString() : u", IIf([%1], 'Sí', 'No') as SiONo"_s.arg(clase.siONo))),
       clase_(std::move(clase)), Combo1(u"Combo1"_s, clase_.sugerencias, true)
 {
     const dao::TableDef tabla = MODULE11::BaseDatos.tableDef(clase_.tabla);

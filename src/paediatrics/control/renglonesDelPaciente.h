@@ -14,6 +14,7 @@ protected:
     struct Clase {
         QString ventana, titulo;
         QString tabla, columnaDePaciente, columnaDeNombre;
+        QString siONo = {};      ///< a yes/no column, which the list reads as `SiONo`; empty for none
         QString rotulo;          ///< of the name: "Alimento"
         QStringList sugerencias; ///< names that are often asked
         std::vector<forms::GridColumn> columnas;

@@ -32,6 +32,10 @@ public:
     /// An age beyond the picture has no line. The milestones are told by the corrected age where there is
     /// one.
     void mostrarEdad(double diasDeVida, const std::optional<double> &corregida);
+    bool muestraEdad() const
+    {
+        return item(QStringLiteral("edad")) != nullptr;
+    } ///< it lies within the picture
 
 private:
     void trazar();
