@@ -23,7 +23,6 @@ const std::set<std::string> notBuiltYet{
     "panEHC",
     "panEditorMMedia",
     "panEstadisticas",
-    "panEvalDeportiva",
     "panEvalEvolFisica",
     "panFacturacion",
     "panGArchivos",
@@ -37,9 +36,7 @@ const std::set<std::string> notBuiltYet{
     "panOft",
     "panPrestaciones",
     "panProtBase",
-    "panRiesgoOperatorio",
     "panServices",
-    "panTestCardio",
     "panVidaSexual",
     "tooth",
 };
