@@ -12,8 +12,6 @@
 #include "platform/basic/environment.h"
 #include "platform/basic/runtime.h"
 
-#include <QFocusEvent>
-
 using namespace Qt::StringLiterals;
 using namespace forms;
 
@@ -234,7 +232,7 @@ void panControlSano::quitarDe(ListBox &lista)
 
 /// Mother and child, screening and maturation are not part of the visit. What nobody has changed is not
 /// written: it may be another station's by now.
-bool panControlSano::guardarLoPropio()
+void panControlSano::guardarLoPropio()
 {
     sano::Binomio respuestas;
     for (std::size_t i = 0; i < respuestas.size(); ++i)
@@ -251,7 +249,6 @@ bool panControlSano::guardarLoPropio()
         sano::guardarMaduracionSexual(paciente_, mFecha.value(), elegida->text());
         maduracionLeida_ = elegida->text();
     }
-    return true;
 }
 
 /// What was typed and not added yet belongs to the control.
@@ -284,7 +281,8 @@ bool panControlSano::queryUnload()
     const bool pendiente = escrito() != leido_ || !Text1.text().isEmpty() || !Text2.text().isEmpty();
     if (pendiente && !MODULE11::PreguntaSiBorra(u"Cierra sin registrar el control de salud"_s))
         return false;
-    return guardarLoPropio();
+    guardarLoPropio();
+    return true;
 }
 
 #include "moc_panControlSano.cpp"

@@ -57,7 +57,7 @@ private:
 
     Escrito escrito() const;
     sano::Problemas problemasEscritos() const;
-    bool guardarLoPropio();
+    void guardarLoPropio();
     void guardar();
     void imprimir();
 
