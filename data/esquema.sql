@@ -456,8 +456,8 @@ CREATE TABLE Perinatal (IdPaciente LONG, [Nombre de la Madre] TEXT(100), [Edad d
     [Abdomen anormal] BIT, [Orino al nacer] BIT, [Expulso meconio al nacer] BIT,
     [Permanencia con la madre] TEXT(60), [Permanencia en UCI] TEXT(60), [Permanencia  en UCI] TEXT(60),
     [Permanencia en cunera] TEXT(60), [Permanencia de traslado] TEXT(60),
-    [Permanencia en Unidad de observacion] TEXT(60), [Screening - TSH Neonatal] BIT,
-    [Screening - Fenilanalina Neonatal] BIT, [Screening - TSH Neonatal (Valor)] TEXT(30),
+    [Permanencia en Unidad de observacion] TEXT(60), [Screening - TSH Neonatal] TEXT(2),
+    [Screening - Fenilanalina Neonatal] TEXT(2), [Screening - TSH Neonatal (Valor)] TEXT(30),
     [Screening - Fenilanalina Neonatal (Valor)] TEXT(30), FechaUltimaAntitetanica DATE);
 CREATE UNIQUE INDEX PrimaryKey ON Perinatal (IdPaciente) WITH PRIMARY;
 

@@ -19,6 +19,7 @@
 #include "core/windows/panSelProf.h"
 #include "delivered.h"
 #include "paediatrics/anthropometry/panMedidas.h"
+#include "paediatrics/control/panscree.h"
 #include "paediatrics/perinatal/panEvolEmbarazo.h"
 #include "paediatrics/perinatal/panObservaRecien.h"
 #include "paediatrics/perinatal/panOtrosRecien.h"
@@ -75,6 +76,7 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panIngresoUsuario"), opening<panIngresoUsuario>()},
         {QStringLiteral("panSelProf"), opening<panSelProf>()},
         {QStringLiteral("panMedidas"), opening<panMedidas>()},
+        {QStringLiteral("panscree"), opening<panscree>()},
         {QStringLiteral("panEvolEmbarazo"), opening<panEvolEmbarazo>()},
         {QStringLiteral("panOtrosRecien"), opening<panOtrosRecien>()},
         {QStringLiteral("panObservaRecien"), opening<panObservaRecien>()},

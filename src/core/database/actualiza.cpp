@@ -149,8 +149,9 @@ constexpr const char *trasLosTamanos[] = {
 // No rule asks for these; speed does. A visit on the screen asks for its examination by patient and day, a
 // visit deleted takes its rows by number, and a practice of years has a million of them: an index over the
 // patient alone leaves all rows of a child of many visits to be read, one over the day those of all children.
-// The reports list the visits by day and hour: unsorted, their first page waits for a million to be put in order.
-// Who is late for a vaccine is asked dose by dose of all patients at once: the index holds all that is asked.
+// The reports list the visits by day and hour: unsorted, their first page waits for a million to be put in
+// order. Who is late for a vaccine is asked dose by dose of all patients at once: the index holds all that is
+// asked.
 constexpr const char *indicesDeVelocidad[] = {
     "CREATE INDEX PacFecha ON ExFisico (idPaciente, Fecha)",
     "CREATE INDEX idConsulta ON ExFisico (idConsulta)",
@@ -194,8 +195,8 @@ constexpr const char *tablasDeVacunas[] = {
     "CREATE INDEX Lote ON CartasVacunas (Lote)",
 };
 
-// What a practice notes of its laboratory: the tests that it orders together, and from and to what a result is
-// normal. Its tests are those that its table of orders has.
+// What a practice notes of its laboratory: the tests that it orders together, and from and to what a result
+// is normal. Its tests are those that its table of orders has.
 constexpr const char *tablasDeLaboratorio[] = {
     "CREATE TABLE PerfilesLaboratorio (Perfil TEXT(60), Estudio TEXT(64))",
     "CREATE INDEX Perfil ON PerfilesLaboratorio (Perfil)",
@@ -277,6 +278,18 @@ void liberaFichaPerinatal()
             cambiaTipo(u"Perinatal"_s, columna.name, u"TEXT(30)"_s, u"[%1] & ''"_s);
 }
 
+/// A test that was not made is neither positive nor negative. Where there was no third answer, one that was
+/// not positive counts as made if its value was written.
+void distingueScreeningNoHecho()
+{
+    const dao::TableDef perinatal = BaseDatos.tableDef(u"Perinatal");
+    for (const QString &campo : {u"Screening - TSH Neonatal"_s, u"Screening - Fenilanalina Neonatal"_s})
+        if (const dao::FieldDef *columna = perinatal.field(campo);
+            columna && columna->type == dao::FieldType::Bit)
+            cambiaTipo(u"Perinatal"_s, campo, u"TEXT(2)"_s,
+                       u"IIf([%1], 'SI', IIf([%1 (Valor)] & '' <> '', 'NO', Null))"_s);
+}
+
 /// A pressure may be the mean of several takings.
 void fraccionaPresiones()
 {
@@ -316,6 +329,7 @@ void ActualizaBase()
     ejecuta(columnasDelResumen);
     ejecuta(columnasAjenasDePresion);
     basic::ignoring(yaHecho, liberaFichaPerinatal);
+    basic::ignoring(yaHecho, distingueScreeningNoHecho);
     basic::ignoring(yaHecho, fraccionaPresiones);
     ejecuta(columnasDeExamenGO);
     ejecuta(tablasDeVacunas);
