@@ -196,6 +196,18 @@ constexpr const char *columnasAjenasDePresion[] = {
     "ALTER TABLE Presion DROP COLUMN Fecha",
 };
 
+// The notes of the gynaecological sub-specialties are dated: they belong to the examinations.
+constexpr const char *columnasDeExamenGO[] = {
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_Menopausia MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_Mastologia MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_Infecciosas MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_Esterilidad MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_GinInfJuvenil MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_EnfVaginaVulva MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_EnfUteroAnexos MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_Oncologia MEMO",
+};
+
 constexpr const char *tablasDeVacunas[] = {
     "CREATE TABLE EdadesVacunas (Vacuna TEXT(20), Dosis TEXT(30), edad_recomendada_dias LONG, edad_minima_dias LONG, edad_maxima_dias LONG, intervalo_minimo_dias LONG, grupo TEXT(255))",
     "CREATE INDEX VacunaDosis ON EdadesVacunas (Vacuna, Dosis)",
@@ -286,6 +298,18 @@ void liberaFichaPerinatal()
             cambiaTipo(u"Perinatal"_s, columna.name, u"TEXT(30)"_s, u"[%1] & ''"_s);
 }
 
+/// A test that was not made is neither positive nor negative. Where there was no third answer, one that was
+/// not positive counts as made if its value was written.
+void distingueScreeningNoHecho()
+{
+    const dao::TableDef perinatal = BaseDatos.tableDef(u"Perinatal");
+    for (const QString &campo : {u"Screening - TSH Neonatal"_s, u"Screening - Fenilanalina Neonatal"_s})
+        if (const dao::FieldDef *columna = perinatal.field(campo);
+            columna && columna->type == dao::FieldType::Bit)
+            cambiaTipo(u"Perinatal"_s, campo, u"TEXT(2)"_s,
+                       u"IIf([%1], 'SI', IIf([%1 (Valor)] & '' <> '', 'NO', Null))"_s);
+}
+
 /// A pressure may be the mean of several takings.
 void fraccionaPresiones()
 {
@@ -345,7 +369,9 @@ void ActualizaBase()
     ejecuta(columnasDelResumen);
     ejecuta(columnasAjenasDePresion);
     basic::ignoring(yaHecho, liberaFichaPerinatal);
+    basic::ignoring(yaHecho, distingueScreeningNoHecho);
     basic::ignoring(yaHecho, fraccionaPresiones);
+    ejecuta(columnasDeExamenGO);
     ejecuta(tablasDeVacunas);
     ejecuta(tablasDeLaboratorio);
     reparaTipoDeUsuarios();

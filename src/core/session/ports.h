@@ -8,6 +8,7 @@
 #include <array>
 #include <functional>
 #include <optional>
+#include <vector>
 
 /// What one subsystem asks of another with arguments and an answer. The subsystem that has it provides it at
 /// start; a port that nobody provides is false, and what would call it is disabled.
@@ -45,15 +46,17 @@ inline Port<void(std::optional<qint64> paciente)> otorgaTurno;
 inline Port<bool(qint64 paciente)> tomarMedidas;
 /// From and to what the body-mass index is normal at that age; nothing where there are no figures.
 inline Port<std::optional<std::pair<double, double>>(const QString &sexo, qint64 diasDeVida)> imcNormal;
-/// A measure ("12.200 g"; empty when it was never taken), when it was taken and its place among children of the
-/// age in words ("P63, z +0,3, adecuado para la edad"; empty where there are no figures).
+/// A measure ("12.200 g"; empty when it was never taken), when it was taken and its place among children of
+/// the age in words ("P63, z +0,3, adecuado para la edad"; empty where there are no figures).
 struct MedidaEnPalabras {
     QString valor;
     basic::Date fecha;
     QString lugar;
 };
-/// The last weight, height, head circumference and body-mass index that were taken of a patient, in that order.
-inline Port<std::array<MedidaEnPalabras, 4>(qint64 paciente, const QString &sexo, const basic::Date &nacimiento)>
+/// The last weight, height, head circumference and body-mass index that were taken of a patient, in that
+/// order.
+inline Port<std::array<MedidaEnPalabras, 4>(qint64 paciente, const QString &sexo,
+                                            const basic::Date &nacimiento)>
     ultimasMedidas;
 /// Shows the prescription sheet of a patient with a text to begin with: the prescription to keep, without the
 /// point that ends it in the file; nothing when it was closed.
@@ -65,5 +68,19 @@ inline Port<std::optional<Renglon>()> eligeDiagnostico;
 /// The same for a record that begins somewhere else: from the practice's own list under a title when the
 /// setting says so, else from the classification open at a chapter.
 inline Port<std::optional<Renglon>(const QString &titulo, int capitulo)> eligePatologia;
+/// Lets a person choose a treatment, with the dose for the patient in sight; a blank line when none was.
+inline Port<Renglon(const QString &paciente)> eligeTratamiento;
+/// Lets a person edit the parents and the family's pathologies of a patient; true when they were stored.
+inline Port<bool(qint64 paciente)> editaCondicionFamiliar;
+/// A healthy-child control as the visit that it is. The measures are those that were taken last, as the
+/// visits keep them; what goes beyond the fifth line of a list is not kept.
+struct ControlDeSalud {
+    qint64 paciente;
+    basic::Date fecha;
+    QString peso, talla, perimetroCefalico;
+    std::vector<Renglon> diagnosticos, tratamientos;
+};
+/// Records it among the visits; what cannot be written throws dao::Error.
+inline Port<void(const ControlDeSalud &control)> registraControlDeSalud;
 
 } // namespace ports
