@@ -266,3 +266,14 @@ TEST_F(SyntheticPractice, HasCompleteLateAndEmptyVaccinePlans)
               0);
     EXPECT_GT(lateChildren.size(), 5u);
 }
+
+TEST_F(SyntheticPractice, HasACashbookAndAStockThatAgreesWithItsMovements)
+{
+    EXPECT_GT(count(u"Caja where Entrada > 0 and Salida = 0"_s), 100);
+    EXPECT_GT(count(u"Caja where Salida > 0 and Entrada = 0"_s), 50);
+    EXPECT_EQ(count(u"Caja where Cuenta not in (Select Descripcion from Cuentas)"_s), 0);
+    EXPECT_GT(count(u"Articulos where StockActual < StockMinimo"_s), 0);
+    EXPECT_EQ(count(u"Articulos where StockActual <> (Select Sum(Cantidad) from MovStock where "
+                    u"MovStock.idArticulo = Articulos.idArticulo)"_s),
+              0);
+}
