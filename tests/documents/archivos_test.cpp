@@ -67,7 +67,7 @@ std::map<QString, Expected> files()
     const seleccion::Periodo march{basic::Date(QDate(2024, 3, 1)), basic::Date(QDate(2024, 3, 31))};
     return {
         {u"CONS.RPT"_s, {seleccion::deAtenciones(march, {.paciente = u"D'Angelo"_s}), u"\t1.234,50"_s}},
-        {u"articulos1.rpt"_s, {u"{Articulos.idProfesional} = 1"_s, u"Gasa d'hilo\t2,5\t3\t12"_s}},
+        {u"articulos1.rpt"_s, {u"{Articulos.idProfesional} = 1"_s, u"Gasa d'hilo\t\t2,5\t3\t12"_s}},
         {u"caja.rpt"_s, {u"{caja.cuenta} = 'O''Luz'"_s, u"\t1.234,50"_s}},
         {u"cie10.rpt"_s, {u"{Diagnosticos.idDiagnostico} <> ''"_s, u"Total de diagnósticos: 10594"_s}},
         {u"consultorio.rpt"_s, {seleccion::deConsultas(march), u"viernes 15 de marzo de 2024"_s}},

@@ -4,6 +4,9 @@
 #include "practice/cashbook/caja.h"
 #include "practice/stock/stock.h"
 
+#include <algorithm>
+#include <vector>
+
 using namespace Qt::StringLiterals;
 using MODULE11::BaseDatos;
 
@@ -95,14 +98,20 @@ void useArticles(QDate today, Dice &dice)
         bought.renglones.push_back({++id, double(article.ideal)});
     stock::registrar(bought);
     const qint64 used = key("TipoMovimientos", "idTipoMovimiento", u"Consumo"_s);
+    std::vector<int> left;
+    for (const Article &article : articles)
+        left.push_back(article.ideal);
     for (int week = 1; week < weeksOfStock; ++week) {
-        const int which = between(dice, 0, int(std::size(articles)) - 1);
-        const int amount = std::max(1, articles[which].ideal / 8);
+        const auto which = static_cast<std::size_t>(between(dice, 0, int(std::size(articles)) - 1));
+        const int amount = std::min(left[which], std::max(1, articles[which].ideal / 4));
+        if (amount == 0)
+            continue;
+        left[which] -= amount;
         stock::registrar({stock::Sentido::Salida,
                           day(today.addDays(7 * (week - weeksOfStock))),
                           used,
                           u"Semana %1"_s.arg(week),
-                          {{which + 1, double(amount)}}});
+                          {{qint64(which) + 1, double(amount)}}});
     }
 }
 

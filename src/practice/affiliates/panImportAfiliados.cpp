@@ -43,7 +43,7 @@ panImportAfiliados::panImportAfiliados() : Form(u"panImportAfiliados"_s)
     txResumen.setReadOnly(true);
     setContents(this, Column{
                           Label1,
-                          Fields{{u"&Obra social :"_s, cbObraSocial},
+                          Fields{{u"Obra so&cial :"_s, cbObraSocial},
                                  {u"&Archivo :"_s, Row{Expanding(txArchImport), Command1}}},
                           Row{Expanding(pb1), lblnumreg},
                           Expanding(Above(u"&Resultado :"_s, txResumen)),
