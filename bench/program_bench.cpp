@@ -9,6 +9,7 @@
 #include "limits.h"
 #include "measure.h"
 #include "prescriptions.h"
+#include "specialties.h"
 #include "subsystems.h"
 #include "summary.h"
 #include "vaccines.h"
@@ -71,6 +72,7 @@ void measure()
     bench::births(report);
     bench::controls(report);
     bench::summary(report);
+    bench::specialties(report);
     bench::vaccines(report);
     bench::complements(report);
     window.hide();
