@@ -39,21 +39,25 @@ inline Port<std::optional<QString>(dao::Recordset &filas, const QString &nombre,
     buscaEnPacientes;
 /// Opens a patient's record in the window of the practice's choice.
 inline Port<void(qint64 paciente)> abreFicha;
+/// Captures a visit of a patient and records it: its `idConsulta`; nothing when it was cancelled.
+inline Port<std::optional<qint64>(qint64 paciente)> registraConsulta;
 /// Books the next appointment of a patient; without one the patient is chosen in the dialogue.
 inline Port<void(std::optional<qint64> paciente)> otorgaTurno;
 /// Takes a patient's measures and stores them; true when they were.
 inline Port<bool(qint64 paciente)> tomarMedidas;
 /// From and to what the body-mass index is normal at that age; nothing where there are no figures.
 inline Port<std::optional<std::pair<double, double>>(const QString &sexo, qint64 diasDeVida)> imcNormal;
-/// A measure ("12.200 g"; empty when it was never taken), when it was taken and its place among children of the
-/// age in words ("P63, z +0,3, adecuado para la edad"; empty where there are no figures).
+/// A measure ("12.200 g"; empty when it was never taken), when it was taken and its place among children of
+/// the age in words ("P63, z +0,3, adecuado para la edad"; empty where there are no figures).
 struct MedidaEnPalabras {
     QString valor;
     basic::Date fecha;
     QString lugar;
 };
-/// The last weight, height, head circumference and body-mass index that were taken of a patient, in that order.
-inline Port<std::array<MedidaEnPalabras, 4>(qint64 paciente, const QString &sexo, const basic::Date &nacimiento)>
+/// The last weight, height, head circumference and body-mass index that were taken of a patient, in that
+/// order.
+inline Port<std::array<MedidaEnPalabras, 4>(qint64 paciente, const QString &sexo,
+                                            const basic::Date &nacimiento)>
     ultimasMedidas;
 /// Shows the prescription sheet of a patient with a text to begin with: the prescription to keep, without the
 /// point that ends it in the file; nothing when it was closed.
