@@ -58,12 +58,12 @@ void panEdConPrestacion::disponer()
     txMonto.setMaximumWidth(140);
     setContents(this, Column{
                           Group(u"Ingreso de datos para la facturación"_s,
-                                Fields{{u"C&ódigo :"_s, txCgoPrestacion},
+                                Fields{{u"C&ódigo :"_s, Row{txCgoPrestacion, Stretch()}},
                                        {u"&Prestación :"_s, cbPrestacion},
                                        {u"&Obra social :"_s, cbOSocial},
                                        {u"Nº de a&filiado :"_s, txNroAfiliado},
                                        {u"Nº de o&rden :"_s, txNroOrden},
-                                       {u"&Monto :"_s, txMonto},
+                                       {u"&Monto :"_s, Row{txMonto, Stretch()}},
                                        {u"&Estado de la orden :"_s, cbStatus}}),
                           Stretch(),
                           Row{Stretch(), Command1, Command2},

@@ -25,8 +25,6 @@ panNuePrestacion::panNuePrestacion() : Form(u"panNuePrestacion"_s)
     std::vector<FieldRow> campos;
     for (int i = 0; const Columna &columna : columnas) {
         TextBox &campo = Text1.add(i++, columna.tipo == Columna::Texto ? columna.largo : cifras);
-        if (columna.campo != u"Descripcion")
-            campo.setMaximumWidth(150);
         campos.push_back({columna.titulo.toString() + u" :"_s, campo});
     }
     setContents(this, Column{Fields{std::move(campos)}, Stretch(), Row{Stretch(), Command1, Command2}});

@@ -28,7 +28,7 @@ panObras::panObras()
                           Expanding(List1),
                           Fields{{u"N&ombre :"_s, mDato(cNombre)},
                                  {u"O&bservaciones :"_s, mDato(cObservaciones)},
-                                 {u"&Precio de la consulta :"_s, mDato(cPrecio)}},
+                                 {u"&Precio de la consulta :"_s, Row{mDato(cPrecio), Stretch()}}},
                           botones(Row{Command1, Command2}),
                       });
     resize(620, 540);
