@@ -25,7 +25,7 @@ namespace
 
 constexpr int anchoDelListado = 800;
 constexpr int primerAnio = 2000; ///< offered, unless the practice has older visits
-constexpr int anchoDelLado = 320;
+constexpr int anchoDelLado = 350;
 const QColor mesElegido(0x2f, 0x6f, 0xb5), mesLibre(0xe4, 0xea, 0xf1);
 
 } // namespace
@@ -40,14 +40,14 @@ panDiario::panDiario()
     setWindowTitle(u"Gestión Consultorio"_s);
     DBGrid1.setSource(Data1, {{u"Fecha"_s, u"Fecha"_s, u"dd/mm/yyyy"_s, 84},
                               {u"Hora"_s, u"Hora"_s, u"HH:MM"_s, 50},
-                              {u"Paciente"_s, u"Nombre del Paciente"_s, {}, 170},
+                              {u"Paciente"_s, u"Nombre del Paciente"_s, {}, 160},
                               {u"Obra Social"_s, u"Mutual"_s, {}, 110},
-                              {u"Tipo"_s, u"Tipo"_s, {}, 64},
-                              {u"Diagnóstico"_s, u"Diagnostico 1"_s, {}, 140},
-                              {u"Dr."_s, u"Dr"_s, {}, 110},
+                              {u"Tipo"_s, u"Tipo"_s, {}, 62},
                               {u"Monto"_s, u"Monto"_s, u"#,##0.00"_s, 84},
                               {u"Nro Orden"_s, u"NroOrden"_s, {}, 84},
-                              {u"Estado"_s, u"StatusOrden"_s, {}, 90}});
+                              {u"Estado"_s, u"StatusOrden"_s, {}, 90},
+                              {u"Dr."_s, u"Dr"_s, {}, 120},
+                              {u"Diagnóstico"_s, u"Diagnostico 1"_s, {}, 160}});
     disponer();
     resize(1160, 640);
 }
