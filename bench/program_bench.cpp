@@ -7,6 +7,7 @@
 #include "laboratory.h"
 #include "limits.h"
 #include "measure.h"
+#include "money.h"
 #include "prescriptions.h"
 #include "subsystems.h"
 #include "summary.h"
@@ -71,6 +72,7 @@ void measure()
     bench::summary(report);
     bench::vaccines(report);
     bench::complements(report);
+    bench::money(report);
     window.hide();
 }
 
