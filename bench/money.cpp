@@ -125,19 +125,22 @@ void priceList(const Report &report)
     BaseDatos.execute(u"Delete * from Prestaciones where Descripcion LIKE '%1*'"_s.arg(mark));
 }
 
+/// Of one year: a practice bills every month.
 void billing(const Report &report)
 {
     const dao::Recordset busiest = BaseDatos.openRecordset(
         u"Select top 1 Dr, Mutual, count(*) as visitas from Consulta where Facturada = 0 and Mutual <> '' group by Dr, "
         u"Mutual order by 3 desc"_s);
     facturacion::Partes parties{1, 1, busiest.value(0).text(), busiest.value(1).text()};
-    const basic::Date from(QDate(2000, 1, 1)), to(QDate(2100, 1, 1));
+    const int year = yearToShow();
+    const basic::Date from(QDate(year, 1, 1)), to(QDate(year, 12, 31));
     for (const char *which : {"the pending sum of an insurer, first", "the pending sum of an insurer, again"})
         report(which, elapsed([&] {
                    MODULE11::BuscaCampo(facturacion::sumaDePendientes(parties, from, to), u"Total");
                }),
                40);
-    std::cout << "     visits pending of it: " << busiest.value(2).integer() << '\n';
+    const dao::Recordset pending = BaseDatos.openRecordset(facturacion::pendientes(parties, from, to));
+    std::cout << "     visits pending of it: " << pending.rowCount() << '\n';
     BaseDatos.execute(
         u"UPDATE Consulta SET TmpCheck = 'o' WHERE idConsulta IN (SELECT TOP %1 idConsulta FROM Consulta "
         u"WHERE Facturada = 0 ORDER BY idConsulta)"_s.arg(lines));

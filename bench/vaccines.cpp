@@ -150,8 +150,8 @@ void vaccines(const Report &report)
 {
     // An adult: the whole plan is overdue.
     BaseDatos.execute(u"Delete * from Pacientes where Numero = 2147483000"_s);
-    BaseDatos.execute(
-        u"INSERT INTO Pacientes (Numero, [Apellido y Nombres], [Fecha de Nacimiento]) VALUES (2147483000, '<Medición>', cdate('01/01/1980'))"_s);
+    BaseDatos.execute(u"INSERT INTO Pacientes (Numero, [Apellido y Nombres], [Fecha de Nacimiento]) "
+                      u"VALUES (2147483000, '<Medición>', cdate('01/01/1980'))"_s);
     {
         dao::Recordset rows = BaseDatos.openRecordset(u"select * from CalVacunas order by orden"_s,
                                                       dao::Recordset::Kind::Snapshot);

@@ -6,6 +6,7 @@
 #include "documents/register.h"
 #include "paediatrics/register.h"
 #include "practice/register.h"
+#include "specialties/register.h"
 
 void app::prepare()
 {
@@ -13,6 +14,7 @@ void app::prepare()
     clinical::registerScreens();
     paediatrics::registerScreens();
     practice::registerScreens();
+    specialties::registerScreens();
     documents::registerScreens();
     instalarAyuda();
 }

@@ -26,7 +26,6 @@ const std::set<std::string> notBuiltYet{
     "panEditorMMedia",
     "panEscolar",
     "panEstadisticas",
-    "panEvalDeportiva",
     "panEvalEvolFisica",
     "panGArchivos",
     "panGinecoExamen",
@@ -37,9 +36,7 @@ const std::set<std::string> notBuiltYet{
     "panMadNeurol",
     "panOft",
     "panProtBase",
-    "panRiesgoOperatorio",
     "panServices",
-    "panTestCardio",
     "panVidaSexual",
     "tooth",
 };

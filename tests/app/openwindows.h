@@ -40,6 +40,7 @@
 #include "practice/professionals/panNueProfesional.h"
 #include "practice/tariffs/panAumento.h"
 #include "practice/tariffs/panNuePrestacion.h"
+#include "specialties/risk/panSelRiesgoCardio.h"
 #include "subsystems.h"
 
 #include <QMainWindow>
@@ -81,6 +82,8 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panObservaRecien"), opening<panObservaRecien>()},
         {QStringLiteral("panTomaTension"), opening<panTomaTension>()},
         {QStringLiteral("panNueVisual"), opening<panNueVisual>()},
+        {QStringLiteral("panSelRiesgoCardio1"), opening<panSelRiesgoCardio1>()},
+        {QStringLiteral("panSelRiesgoCardio2"), opening<panSelRiesgoCardio2>()},
         {QStringLiteral("panInfRelVac"), [] { return std::make_unique<panInfRelVac>(QString()); }},
         {QStringLiteral("panPoneVacuna"),
          [] { return std::make_unique<panPoneVacuna>(vacunas::Registro(), std::nullopt); }},

@@ -202,4 +202,10 @@ Estado estadoCardiologicoYPeso(const Persona &persona, const std::optional<Norma
         basic::format(indice, u"0.0"), basic::format(imc->desde, u"0.0"), basic::format(imc->hasta, u"0.0"));
 }
 
+bool tieneEvolucionCardiologica(qint64 paciente)
+{
+    return !filas(u"Select top 1 idPaciente from ConsultaCardiologia where idPaciente = %1"_s.arg(paciente))
+                .eof();
+}
+
 } // namespace clinical

@@ -36,4 +36,7 @@ struct Normal {
 /// Cardiological history, and the body-mass index of the last measures against what is normal.
 Estado estadoCardiologicoYPeso(const Persona &persona, const std::optional<Normal> &imc);
 
+/// The athlete's examination begins from a heart record.
+bool tieneEvolucionCardiologica(qint64 paciente);
+
 } // namespace clinical

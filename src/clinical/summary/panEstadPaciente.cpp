@@ -436,6 +436,12 @@ void panEstadPaciente::abrirComando(const Comando &comando)
         return;
     }
     const screens::Window ventana = *screens::Window::find(QString::fromLatin1(comando.ventana));
+    if (QByteArrayView(comando.ventana) == "panEvalDeportiva" &&
+        !clinical::tieneEvolucionCardiologica(numero())) {
+        msgBox(u"Debe generar un nuevo registro primero desde el botón Evolución !"_s, Icon::Information,
+               u"Atención"_s);
+        return;
+    }
     const QString titulo =
         *comando.titulo ? QString::fromUtf8(comando.titulo) + datos_["Text10"]->caption() : QString();
     if (comando.hija) {

@@ -27,6 +27,7 @@ bool needsPatient(const Entry &entry)
     case Kind::PatientChild:
     case Kind::PatientOperation:
     case Kind::PatientOrNothing:
+    case Kind::ModalWithTag: // it opens without one, and has nothing to say
         return true;
     default:
         return false;

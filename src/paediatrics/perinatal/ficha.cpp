@@ -13,48 +13,11 @@ namespace
 
 using MODULE11::BaseDatos;
 
-/// The one row that a patient has in a table.
-struct Fila {
-    QString tabla, clave;
-
-    dao::Recordset de(qint64 paciente, dao::Recordset::Kind clase = dao::Recordset::Kind::Dynaset) const
-    {
-        return BaseDatos.openRecordset(u"Select * from %1 where %2 = %3"_s.arg(tabla, clave).arg(paciente),
-                                       clase);
-    }
-};
-
-const Fila filaPerinatal{u"Perinatal"_s, u"idPaciente"_s};
-const Fila filaPediatria{u"Pediatria"_s, u"numero"_s};
+const records::FilaPropia filaPerinatal{u"Perinatal"_s, u"idPaciente"_s};
+const records::FilaPropia filaPediatria{u"Pediatria"_s, u"numero"_s};
 
 const QString patologiasPerinatales = u"patologias perinatales"_s;
 const QString diagnosticoRN = u"diagnostico RN"_s;
-
-Valores leerFila(const Fila &fila, qint64 paciente)
-{
-    Valores valores;
-    const dao::Recordset filas = fila.de(paciente, dao::Recordset::Kind::Snapshot);
-    if (filas.eof())
-        return valores;
-    for (int i = 0; i < static_cast<int>(filas.fields().size()); ++i)
-        valores[filas.fields()[static_cast<std::size_t>(i)].name] = filas.value(i);
-    return valores;
-}
-
-void escribirFila(const Fila &fila, qint64 paciente, const Valores &valores)
-{
-    dao::Recordset filas = fila.de(paciente);
-    if (filas.eof()) {
-        filas.addNew();
-        filas[fila.clave] = paciente;
-        filas.update();
-        filas.requery();
-    }
-    filas.edit([&] {
-        for (const auto &[columna, valor] : valores)
-            filas[columna] = valor;
-    });
-}
 
 QStringList leerLista(const QString &tabla, qint64 paciente)
 {
@@ -109,24 +72,18 @@ void anotarMedidas(qint64 paciente, const Valores &valores)
 
 } // namespace
 
-basic::Value valor(const Valores &valores, const QString &columna)
-{
-    const auto hallado = valores.find(columna);
-    return hallado != valores.end() ? hallado->second : basic::Value(basic::Null{});
-}
-
 Ficha leer(qint64 paciente)
 {
-    return {leerFila(filaPerinatal, paciente), leerFila(filaPediatria, paciente),
+    return {filaPerinatal.leer(paciente), filaPediatria.leer(paciente),
             leerLista(patologiasPerinatales, paciente), leerLista(diagnosticoRN, paciente)};
 }
 
 void guardar(qint64 paciente, const Ficha &ficha)
 {
     dao::Batch golpe(BaseDatos);
-    escribirFila(filaPerinatal, paciente, ficha.perinatal);
+    filaPerinatal.escribir(paciente, ficha.perinatal);
     if (!ficha.pediatria.empty())
-        escribirFila(filaPediatria, paciente, ficha.pediatria);
+        filaPediatria.escribir(paciente, ficha.pediatria);
     escribirLista(patologiasPerinatales, paciente, ficha.patologias);
     escribirLista(diagnosticoRN, paciente, ficha.diagnosticos);
     anotarMedidas(paciente, ficha.perinatal);

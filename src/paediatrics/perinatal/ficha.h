@@ -1,27 +1,15 @@
 #pragma once
 
-#include "platform/basic/value.h"
+#include "core/records/campos.h"
 
 #include <QStringList>
-
-#include <map>
 
 /// The birth record of a patient.
 namespace perinatal
 {
 
-struct SinMayusculas {
-    bool operator()(const QString &a, const QString &b) const
-    {
-        return a.compare(b, Qt::CaseInsensitive) < 0;
-    }
-};
-
-/// What is kept by column; names go without regard to case.
-using Valores = std::map<QString, basic::Value, SinMayusculas>;
-
-/// The value of a column; Null when it is not among them.
-basic::Value valor(const Valores &valores, const QString &columna);
+using records::valor;
+using records::Valores;
 
 struct Ficha {
     Valores perinatal; ///< the main form's

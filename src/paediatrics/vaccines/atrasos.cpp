@@ -83,11 +83,12 @@ void Atrasos::leerNinos(const Busqueda &busqueda)
 {
     const QDate hoy = hoy_.date();
     pacientes_ = MODULE11::BaseDatos.openRecordset(
-        u"Select Numero, [Apellido y Nombres], [Fecha de Nacimiento], Telefono from Pacientes where %1 and (FechaBaja is null or FechaBaja > %2)"_s
-            .arg(dao::period(u"[Fecha de Nacimiento]"_s,
-                             basic::Date(hoy.addYears(-busqueda.hastaAnios - 1).addDays(1)),
-                             basic::Date(hoy.addYears(-busqueda.desdeAnios))),
-                 dao::cdate(hoy_)),
+        u"Select Numero, [Apellido y Nombres], [Fecha de Nacimiento], Telefono from Pacientes "
+        u"where %1 and (FechaBaja is null or FechaBaja > %2)"_s.arg(
+            dao::period(u"[Fecha de Nacimiento]"_s,
+                        basic::Date(hoy.addYears(-busqueda.hastaAnios - 1).addDays(1)),
+                        basic::Date(hoy.addYears(-busqueda.desdeAnios))),
+            dao::cdate(hoy_)),
         dao::Recordset::Kind::Snapshot);
     for (qint64 fila = 0; pacientes_.hasRow(fila); ++fila)
         ninos_.push_back({pacientes_.valueAt(fila, Numero).integer(),

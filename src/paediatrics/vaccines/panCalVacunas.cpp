@@ -108,8 +108,8 @@ void panCalVacunas::cargar()
         vacunas::calendarios()[static_cast<std::size_t>(Combo1.currentIndex())];
     const auto dosis = vacunas::leerCalendario(calendario).size();
     if (!MODULE11::PreguntaSiBorra(
-            u"Reemplaza el plan del consultorio por el de %1 (%2 dosis)? Las dosis registradas de los pacientes no se tocan."_s
-                .arg(QString::fromUtf8(calendario.pais))
+            u"Reemplaza el plan del consultorio por el de %1 (%2 dosis)? "
+            u"Las dosis registradas de los pacientes no se tocan."_s.arg(QString::fromUtf8(calendario.pais))
                 .arg(dosis)))
         return;
     vacunas::cargarCalendario(calendario);

@@ -28,17 +28,13 @@ QString clausula(Clase clase)
     }
 }
 
-/// The days are told as such beside month and year: an index finds days only.
 QString clausulaDelPeriodo(const Pedido &pedido)
 {
-    const auto [desde, hasta] = pedido.fechas();
-    const QString dias = u"and fecha >= %1 and fecha < %2 "_s.arg(
-        dao::cdate(desde), dao::cdate(basic::Date(hasta.date().addDays(1))));
     switch (pedido.periodo) {
     case Periodo::Mes:
-        return dias + u"and month(fecha) = %1 and year(fecha) = %2 "_s.arg(pedido.mes).arg(pedido.anio);
+        return u"and month(fecha) = %1 and year(fecha) = %2 "_s.arg(pedido.mes).arg(pedido.anio);
     case Periodo::Anio:
-        return dias + u"and year(fecha) = %1 "_s.arg(pedido.anio);
+        return u"and year(fecha) = %1 "_s.arg(pedido.anio);
     default:
         return u"and fecha = %1 "_s.arg(dao::cdate(pedido.dia));
     }

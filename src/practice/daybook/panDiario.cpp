@@ -71,7 +71,7 @@ void panDiario::disponer()
     setContents(lado, Column{
                           Tabs(SSTab1, {{u"&Diario"_s, calendar1},
                                         {u"&Mensual"_s, meses()},
-                                        {u"An&ual"_s, Column{Fields{{u"Añ&o ?"_s, Combo2}}, Stretch(),
+                                        {u"Anua&l"_s, Column{Fields{{u"Añ&o ?"_s, Combo2}}, Stretch(),
                                                              Row{Stretch(), Command8}}}}),
                           filtros(),
                           Stretch(),
@@ -100,12 +100,12 @@ Item panDiario::meses()
 
 Item panDiario::filtros()
 {
-    Option1.add(0, u"&Todas"_s).setChecked(true);
-    Option1.add(1, u"1º Ve&z"_s);
-    Option1.add(2, u"Ulte&rior"_s);
+    Option1.add(0, u"Todas"_s).setChecked(true);
+    Option1.add(1, u"1º Vez"_s);
+    Option1.add(2, u"Ulterior"_s);
     return Group(u"Ver"_s, Column{
-                               Above(u"Obra Social o Prestadora de Servicio de Sa&lud :"_s, Combo3),
-                               Above(u"Profes&ional :"_s, Combo4),
+                               Above(u"Obra Social o Pres&tadora de Servicio de Salud :"_s, Combo3),
+                               Above(u"P&rofesional :"_s, Combo4),
                                Row{Option1(0), Option1(1), Option1(2), Stretch()},
                            });
 }

@@ -81,7 +81,7 @@ private:
     forms::CommandButton &Command11;
     forms::CommandButton &Command7;
     forms::CommandButton &Command12 =
-        records::comando(*this, QStringLiteral("Command12"), QStringLiteral("Cie&rre"),
+        records::comando(*this, QStringLiteral("Command12"), QStringLiteral("&Cierre"),
                          QStringLiteral("informes"), [this] { informarCierre(); });
     forms::CommandButton &Command1 =
         records::comando(*this, QStringLiteral("Command1"), QStringLiteral("&exportar HTML"),

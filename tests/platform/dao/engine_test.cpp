@@ -138,6 +138,27 @@ TEST_F(DaoTest, theEngineKnowsEveryFunctionOfTheDialect)
 
 /// Whatever numbers and texts a function meets, it gives a value or an error of its own; the sanitizers look
 /// on.
+TEST_F(DaoTest, aYearOrAMonthIsReadAsARangeOfDates)
+{
+    run({"CREATE TABLE T (n LONG, Fecha DATE)", "CREATE INDEX Fecha ON T (Fecha)",
+         "INSERT INTO T VALUES (1, #2/29/2024 23:59:59#)", "INSERT INTO T VALUES (2, #3/1/2024#)",
+         "INSERT INTO T VALUES (3, #3/31/2024 23:59:59#)", "INSERT INTO T VALUES (4, #4/1/2024#)",
+         "INSERT INTO T VALUES (5, #12/31/2023 12:00#)", "INSERT INTO T (n) VALUES (6)",
+         "INSERT INTO T VALUES (7, #3/5/1899#)"});
+    EXPECT_EQ(all("Select n from T where month(fecha) = 3 and year(fecha) = 2024 order by n"), "2|3");
+    EXPECT_EQ(all("Select n from T where 2024 = YEAR(T.Fecha) and n > 1 order by n"), "2|3|4");
+    EXPECT_EQ(all("Select n from T where year(fecha) = 2023 or month(fecha) = 4 order by n"), "4|5");
+    EXPECT_EQ(all("Select n from T where not (year(fecha) = 2024) order by n"), "5|7");
+    EXPECT_EQ(all("Select n from T where year(fecha) = 1899"), "7");
+    EXPECT_EQ(all("Select n from T where year(fecha) = 2024 and month(fecha) = 13"), "");
+    EXPECT_EQ(all("Select n from T as a where year(a.fecha) = 2024 and month(a.fecha) = 2"), "1");
+    EXPECT_EQ(all("Select count(*) from T where year(fecha) = 2024 and year(fecha) = 2023"), "0");
+    // The plain condition alone cannot be looked up in an index.
+    EXPECT_TRUE(dao::translate(db, "Select n from T where year(fecha) = 2024").engineSql.contains(">="));
+    EXPECT_FALSE(
+        dao::translate(db, "Select n from T where year(fecha) = 2024 or n = 1").engineSql.contains(">="));
+}
+
 TEST_F(DaoTest, noFunctionIsTakenOutOfItsBounds)
 {
     run({"CREATE TABLE T (n DOUBLE, f DATE, t TEXT(20), m CURRENCY)"});

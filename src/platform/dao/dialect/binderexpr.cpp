@@ -1,4 +1,5 @@
 #include "platform/dao/dialect/binder.h"
+#include "platform/dao/dialect/periods.h"
 
 #include "platform/basic/environment.h"
 #include "platform/basic/runtime.h"
@@ -131,6 +132,7 @@ void Binder::bindCondition(ExprPtr &expr, const Scope &scope)
 {
     bindExpr(expr, scope);
     requireCondition(*expr);
+    addPeriods(expr);
 }
 
 void Binder::bindExpr(ExprPtr &expr, const Scope &scope)

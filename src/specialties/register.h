@@ -1,0 +1,9 @@
+#pragma once
+
+namespace specialties
+{
+
+/// Registers the windows and operations of this subsystem.
+void registerScreens();
+
+} // namespace specialties
