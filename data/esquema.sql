@@ -290,7 +290,9 @@ CREATE INDEX Usuario ON Eventos (Usuario, Fecha);
 CREATE TABLE [Examen Fisico] (paciente LONG, [dato positivo] TEXT(255));
 CREATE INDEX paciente ON [Examen Fisico] (paciente);
 
-CREATE TABLE ExamenGO (idPaciente LONG, Fecha DATE, Examen TEXT(60), Detalle MEMO);
+CREATE TABLE ExamenGO (idPaciente LONG, Fecha DATE, Examen TEXT(60), Detalle MEMO, Obs_Menopausia MEMO,
+    Obs_Mastologia MEMO, Obs_Infecciosas MEMO, Obs_Esterilidad MEMO, Obs_GinInfJuvenil MEMO,
+    Obs_EnfVaginaVulva MEMO, Obs_EnfUteroAnexos MEMO, Obs_Oncologia MEMO);
 CREATE INDEX idPaciente ON ExamenGO (idPaciente);
 
 CREATE TABLE Gestaciones (idPaciente LONG, Gestacion LONG, Ciclo TEXT(30), Altura DOUBLE,
@@ -311,9 +313,7 @@ CREATE TABLE Gineco (idPaciente LONG, [Ciclos Menstruales] TEXT(60), [Ciclos Can
     [Toco Parametrios] TEXT(255), [Nro Lactancias] TEXT(255), [Duracion Lactancias] TEXT(255),
     [Traumatismos Mamarios] TEXT(255), [Otros Problemas Mamarios] TEXT(255),
     [Inspeccion Estatica Mamas] TEXT(255), [Inspeccion Dinamica Mamas] TEXT(255), [Palpado Mamas] TEXT(255),
-    [Papila y Aureola] TEXT(255), Axilas TEXT(255), [Observaciones Mamas] MEMO, Obs_Menopausia MEMO,
-    Obs_Mastologia MEMO, Obs_Infecciosas MEMO, Obs_Esterilidad MEMO, Obs_GinInfJuvenil MEMO,
-    Obs_EnfVaginaVulva MEMO, Obs_EnfUteroAnexos MEMO, Obs_Oncologia MEMO);
+    [Papila y Aureola] TEXT(255), Axilas TEXT(255), [Observaciones Mamas] MEMO);
 CREATE UNIQUE INDEX PrimaryKey ON Gineco (idPaciente) WITH PRIMARY;
 
 CREATE TABLE Grupos (idClasificacion TEXT(2), idGrupo TEXT(4), Grupo TEXT(255));
@@ -456,8 +456,8 @@ CREATE TABLE Perinatal (IdPaciente LONG, [Nombre de la Madre] TEXT(100), [Edad d
     [Abdomen anormal] BIT, [Orino al nacer] BIT, [Expulso meconio al nacer] BIT,
     [Permanencia con la madre] TEXT(60), [Permanencia en UCI] TEXT(60), [Permanencia  en UCI] TEXT(60),
     [Permanencia en cunera] TEXT(60), [Permanencia de traslado] TEXT(60),
-    [Permanencia en Unidad de observacion] TEXT(60), [Screening - TSH Neonatal] BIT,
-    [Screening - Fenilanalina Neonatal] BIT, [Screening - TSH Neonatal (Valor)] TEXT(30),
+    [Permanencia en Unidad de observacion] TEXT(60), [Screening - TSH Neonatal] TEXT(2),
+    [Screening - Fenilanalina Neonatal] TEXT(2), [Screening - TSH Neonatal (Valor)] TEXT(30),
     [Screening - Fenilanalina Neonatal (Valor)] TEXT(30), FechaUltimaAntitetanica DATE);
 CREATE UNIQUE INDEX PrimaryKey ON Perinatal (IdPaciente) WITH PRIMARY;
 

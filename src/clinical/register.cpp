@@ -13,8 +13,10 @@
 #include "clinical/patients/buscaPaciente.h"
 #include "clinical/patients/eligePaciente.h"
 #include "clinical/patients/fichas.h"
+#include "clinical/patients/filaDePaciente.h"
 #include "clinical/patients/hc.h"
 #include "clinical/summary/panEstadPaciente.h"
+#include "clinical/visits/controlDeSalud.h"
 #include "clinical/visits/nuevaConsulta.h"
 #include "clinical/visits/panVisitas.h"
 #include "core/session/ports.h"
@@ -69,4 +71,7 @@ void clinical::registerScreens()
     ports::abreComplemento.provide(complementos::abrir);
     ports::eligeDiagnostico.provide(catalogos::eligeDiagnostico);
     ports::eligePatologia.provide(catalogos::eligePatologia);
+    ports::eligeTratamiento.provide(catalogos::eligeTratamiento);
+    ports::editaCondicionFamiliar.provide(editaCondicionFamiliar);
+    ports::registraControlDeSalud.provide(consultas::registrarControlDeSalud);
 }

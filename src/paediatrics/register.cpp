@@ -11,6 +11,10 @@
 #include "paediatrics/charts/panCurvasOMS.h"
 #include "paediatrics/charts/panMuesCurvas.h"
 #include "paediatrics/charts/panPercentil.h"
+#include "paediatrics/control/panAdole.h"
+#include "paediatrics/control/panAlimentacion.h"
+#include "paediatrics/control/panControlSano.h"
+#include "paediatrics/control/panEscolar.h"
 #include "paediatrics/perinatal/panAntPerinatales.h"
 #include "paediatrics/perinatal/panResPerinat.h"
 #include "paediatrics/perinatal/panfichaPer.h"
@@ -45,6 +49,10 @@ void paediatrics::registerScreens()
     screens::add<panfichaPer>("panfichaPer");
     screens::add<panTension>("panTension");
     screens::add<panVisual>("panVisual");
+    screens::add<panControlSano>("panControlSano");
+    screens::add<panAlimentacion>("panAlimentacion");
+    screens::add<panEscolar>("panEscolar");
+    screens::add<panAdole>("panAdole");
     screens::addOperation("AbrePerinatal", AbrePerinatal);
     screens::add<panPlanVacunas>("panPlanVacunas");
     screens::add<panCalVacunas>("panCalVacunas");

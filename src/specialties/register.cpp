@@ -1,9 +1,14 @@
 #include "specialties/register.h"
 
 #include "core/session/screens.h"
+#include "specialties/gynaecology/fichaGineco.h"
+#include "specialties/gynaecology/panCalRiesgoGesta.h"
+#include "specialties/gynaecology/panGinecoExamen.h"
+#include "specialties/gynaecology/panGinecoGestas.h"
+#include "specialties/gynaecology/panGinecoOtros.h"
+#include "specialties/gynaecology/panVidaSexual.h"
 #include "specialties/risk/panEvalDeportiva.h"
 #include "specialties/risk/panRiesgoOperatorio.h"
-#include "specialties/risk/panSelRiesgoCardio.h"
 #include "specialties/risk/panTestCardio.h"
 
 void specialties::registerScreens()
@@ -11,4 +16,13 @@ void specialties::registerScreens()
     screens::add<panTestCardio>("panTestCardio");
     screens::add<panRiesgoOperatorio>("panRiesgoOperatorio");
     screens::add<panEvalDeportiva>("panEvalDeportiva");
+    screens::add<panAnteGineco>("panAnteGineco");
+    screens::add<panGinecoObs1>("panGinecoObs1");
+    screens::add<panGinecoObs2>("panGinecoObs2");
+    screens::add<panGinecoMamas>("panGinecoMamas");
+    screens::add<panGinecoExamen>("panGinecoExamen");
+    screens::add<panGinecoGestas>("panGinecoGestas");
+    screens::add<panGinecoOtros>("panGinecoOtros");
+    screens::add<panVidaSexual>("panVidaSexual");
+    screens::add<panCalRiesgoGesta>("panCalRiesgoGesta");
 }

@@ -19,6 +19,7 @@
 #include "core/windows/panSelProf.h"
 #include "delivered.h"
 #include "paediatrics/anthropometry/panMedidas.h"
+#include "paediatrics/control/panscree.h"
 #include "paediatrics/perinatal/panEvolEmbarazo.h"
 #include "paediatrics/perinatal/panObservaRecien.h"
 #include "paediatrics/perinatal/panOtrosRecien.h"
@@ -40,6 +41,9 @@
 #include "practice/professionals/panNueProfesional.h"
 #include "practice/tariffs/panAumento.h"
 #include "practice/tariffs/panNuePrestacion.h"
+#include "specialties/gynaecology/panExaGineco.h"
+#include "specialties/gynaecology/panNueExGesta.h"
+#include "specialties/gynaecology/panNueExamenGineco.h"
 #include "specialties/risk/panSelRiesgoCardio.h"
 #include "subsystems.h"
 
@@ -77,11 +81,17 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panIngresoUsuario"), opening<panIngresoUsuario>()},
         {QStringLiteral("panSelProf"), opening<panSelProf>()},
         {QStringLiteral("panMedidas"), opening<panMedidas>()},
+        {QStringLiteral("panscree"), opening<panscree>()},
         {QStringLiteral("panEvolEmbarazo"), opening<panEvolEmbarazo>()},
         {QStringLiteral("panOtrosRecien"), opening<panOtrosRecien>()},
         {QStringLiteral("panObservaRecien"), opening<panObservaRecien>()},
         {QStringLiteral("panTomaTension"), opening<panTomaTension>()},
         {QStringLiteral("panNueVisual"), opening<panNueVisual>()},
+        {QStringLiteral("panExaGineco"), opening<panExaGineco>()},
+        {QStringLiteral("panExaColpo"), opening<panExaColpo>()},
+        {QStringLiteral("panExaMamas"), opening<panExaMamas>()},
+        {QStringLiteral("panNueExGesta"), opening<panNueExGesta>()},
+        {QStringLiteral("panNueExamenGineco"), opening<panNueExamenGineco>()},
         {QStringLiteral("panSelRiesgoCardio1"), opening<panSelRiesgoCardio1>()},
         {QStringLiteral("panSelRiesgoCardio2"), opening<panSelRiesgoCardio2>()},
         {QStringLiteral("panInfRelVac"), [] { return std::make_unique<panInfRelVac>(QString()); }},

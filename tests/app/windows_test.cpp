@@ -2,6 +2,7 @@
 #include "openwindows.h"
 #include "platform/forms/wrong.h"
 
+#include <QButtonGroup>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QStatusTipEvent>
@@ -27,6 +28,13 @@ QString mnemonicText(const QWidget &widget)
     return {};
 }
 
+/// Of a group of buttons that bring sections to the front one letter may lead from one to the next.
+bool takesTurns(const QWidget &widget)
+{
+    const auto *button = qobject_cast<const QPushButton *>(&widget);
+    return button && button->isCheckable() && button->group();
+}
+
 /// The letters that lead to two controls in sight at once.
 QStringList doubledMnemonics(const forms::Form &form)
 {
@@ -35,10 +43,13 @@ QStringList doubledMnemonics(const forms::Form &form)
         if (const QKeySequence keys = QKeySequence::mnemonic(text); !keys.isEmpty())
             uses[keys.toString().back()] += text;
     };
+    std::set<QString> turns;
     for (const QWidget *widget : form.findChildren<QWidget *>()) {
         if (!widget->isVisible())
             continue;
-        note(mnemonicText(*widget));
+        const QString text = mnemonicText(*widget);
+        if (!takesTurns(*widget) || turns.insert(QKeySequence::mnemonic(text).toString()).second)
+            note(text);
         if (const auto *tabs = qobject_cast<const QTabWidget *>(widget))
             for (int page = 0; page < tabs->count(); ++page)
                 note(tabs->tabText(page));
@@ -76,6 +87,9 @@ QStringList outOfReach(forms::Form &form)
         if (qobject_cast<QRadioButton *>(reached)) // from there the arrows lead to the others
             for (QWidget *option : reached->parentWidget()->findChildren<QRadioButton *>())
                 missed.erase(option);
+        if (reached && takesTurns(*reached))
+            for (QWidget *section : static_cast<QPushButton *>(reached)->group()->buttons())
+                missed.erase(section);
         pressTab(form);
     }
     QStringList names;
@@ -148,7 +162,7 @@ TEST_F(WindowsTest, theMainWindowKeepsItsStatusAndSaysWhyAMenuDoesNothing)
             note->isVisible() && !note->isEnabled() ? note->text() : QString();
     }
     EXPECT_EQ(notes[u"Archivos"_s], QString());
-    EXPECT_EQ(notes[u"Paciente"_s], u"Abra una ficha"_s);
+    EXPECT_EQ(notes[u"Antecedentes Perinatales"_s], u"Abra una ficha"_s);
     EXPECT_EQ(notes[u"Odontología"_s], QString()) << "an item, no menu";
     EXPECT_EQ(notes[u"Oftalmología"_s], u"Todavía no está en esta versión"_s);
 }

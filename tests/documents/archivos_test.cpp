@@ -24,6 +24,8 @@ protected:
              "INSERT INTO Consulta (Paciente, [nombre del paciente], Fecha, Hora, [Diagnostico 4], Dr, Monto) "
              "VALUES (1, 'D''Angelo', cdate('15/03/2024'), cdate('10:30:00'), 'Crup d''emblée', "
              "'Dra. O''Higgins', 1234.5)",
+             "INSERT INTO ConsultaGineco (idpaciente, Fecha, Examen, Detalle) VALUES (1, cdate('15/03/2024'), "
+             "'Colposcopía', 'Sin lesiones')",
              "INSERT INTO Turnos (Fecha, Hora, Paciente, Dr) VALUES (cdate('15/03/2024'), '08:00', 'D''Angelo', "
              "'Dra. O''Higgins')",
              "INSERT INTO Eventos (Proceso, Usuario, Fecha, Hora, Suceso) VALUES ('IngresarATurnos', "
@@ -78,6 +80,7 @@ std::map<QString, Expected> files()
          {u"{Facturacion.idFacturacion} = 1"_s, u"D'Angelo\tA-77\t420101\tConsulta d'hospital\t1.234,50"_s}},
         {u"fichap1.rpt"_s, {QString(), u"Institución, ambiente quirúrgico"_s}},
         {u"fichap2.rpt"_s, {QString(), u"Latidos cardíacos"_s}},
+        {u"gineco1.rpt"_s, {u"{ConsultaGineco.idPaciente} = 1"_s, u"Colposcopía"_s}},
         {u"historia.rpt"_s, {u"{Pacientes.Numero} = 1"_s, u"Asma <leve>"_s}},
         {u"pacientes.rpt"_s, {seleccion::dePacientes(1), u"Total de pacientes: 1"_s}},
         {u"patologia.rpt"_s, {seleccion::dePatologia(march, u"Crup d'emblée"_s), u"Crup d'emblée"_s}},

@@ -18,6 +18,29 @@ dao::Recordset filas(const QString &sql, qint64 numero)
     return MODULE11::BaseDatos.openRecordset(sql + QString::number(numero));
 }
 
+void escribeCondicionFamiliar(qint64 numero, const panComFliar &familia)
+{
+    dao::Recordset pediatria = filas(u"Select * from Pediatria where numero = "_s, numero);
+    if (pediatria.eof()) {
+        pediatria.addNew();
+        pediatria[u"numero"] = numero;
+    } else {
+        pediatria.edit();
+    }
+    escribeFamilia(pediatria, familia);
+    pediatria.update();
+    reemplazaPatologiasFamiliares(numero, familia.patologias());
+}
+
+QStringList patologiasFamiliares(qint64 numero)
+{
+    QStringList patologias;
+    for (dao::Recordset fila = filas(u"Select * from [Patologias Familiares] where Paciente = "_s, numero);
+         !fila.eof(); fila.moveNext())
+        patologias += fila[u"Patologia"].text();
+    return patologias;
+}
+
 void escribe(qint64 numero, const panNuePaciente &ficha)
 {
     dao::Batch juntas(MODULE11::BaseDatos);
@@ -25,18 +48,8 @@ void escribe(qint64 numero, const panNuePaciente &ficha)
     if (!paciente)
         throw dao::Error(dao::Error::NoCurrentRecord, u"El paciente ya no está en el registro."_s);
     paciente->edit([&] { escribeIdentidad(*paciente, ficha); });
-    if (const panComFliar *familia = ficha.condicionFamiliar()) {
-        dao::Recordset pediatria = filas(u"Select * from Pediatria where numero = "_s, numero);
-        if (pediatria.eof()) {
-            pediatria.addNew();
-            pediatria[u"numero"] = numero;
-        } else {
-            pediatria.edit();
-        }
-        escribeFamilia(pediatria, *familia);
-        pediatria.update();
-        reemplazaPatologiasFamiliares(numero, familia->patologias());
-    }
+    if (const panComFliar *familia = ficha.condicionFamiliar())
+        escribeCondicionFamiliar(numero, *familia);
     juntas.commit();
 }
 
@@ -99,13 +112,8 @@ bool editaPaciente(qint64 numero)
             MODULE11::MuestraError(u"Paciente no encontrado"_s);
             return false;
         }
-        QStringList patologias;
-        for (dao::Recordset fila =
-                 filas(u"Select * from [Patologias Familiares] where Paciente = "_s, numero);
-             !fila.eof(); fila.moveNext())
-            patologias += fila[u"Patologia"].text();
         dao::Recordset pediatria = filas(u"Select * from Pediatria where numero = "_s, numero);
-        ficha.mostrar(*paciente, pediatria.eof() ? nullptr : &pediatria, patologias);
+        ficha.mostrar(*paciente, pediatria.eof() ? nullptr : &pediatria, patologiasFamiliares(numero));
     }
     for (;;) {
         ficha.showModal();
@@ -116,6 +124,28 @@ bool editaPaciente(qint64 numero)
             return true;
         } catch (const dao::Error &error) {
             MODULE11::MuestraError(u"Los cambios del paciente no se guardaron.\n"_s + error.description());
+        }
+    }
+}
+
+bool editaCondicionFamiliar(qint64 numero)
+{
+    panComFliar familia;
+    {
+        dao::Recordset pediatria = filas(u"Select * from Pediatria where numero = "_s, numero);
+        familia.mostrar(pediatria.eof() ? nullptr : &pediatria, patologiasFamiliares(numero));
+    }
+    for (;;) {
+        familia.showModal();
+        if (familia.tag() != u"SI")
+            return false;
+        try {
+            dao::Batch juntas(MODULE11::BaseDatos);
+            escribeCondicionFamiliar(numero, familia);
+            juntas.commit();
+            return true;
+        } catch (const dao::Error &error) {
+            MODULE11::MuestraError(u"La condición familiar no se guardó.\n"_s + error.description());
         }
     }
 }

@@ -21,4 +21,7 @@ void reemplazaPatologiasFamiliares(qint64 paciente, const QStringList &patologia
 /// not be written, which is told.
 bool editaPaciente(qint64 numero);
 
+/// The same of the family's condition alone, which is part of the sheet.
+bool editaCondicionFamiliar(qint64 numero);
+
 } // namespace clinical

@@ -37,29 +37,6 @@ QStringList antecedentesFamiliares(qint64 paciente)
     return renglones;
 }
 
-QStringList antecedentesPersonales(qint64 paciente)
-{
-    return columna(
-        u"Select * from [Antecedentes Personales] where Paciente = %1 and not (Antecedente is null)"_s,
-        paciente, u"Antecedente");
-}
-
-void guardaAntecedentesPersonales(qint64 paciente, const QStringList &antecedentes)
-{
-    dao::Batch juntos(MODULE11::BaseDatos);
-    MODULE11::BaseDatos.execute(
-        u"Delete * from [antecedentes personales] where paciente = %1 and not (Antecedente is null)"_s.arg(
-            paciente));
-    dao::Recordset filas = MODULE11::BaseDatos.openRecordset(u"Antecedentes personales"_s);
-    for (const QString &antecedente : antecedentes) {
-        filas.addNew();
-        filas[u"Paciente"] = paciente;
-        filas[u"Antecedente"] = antecedente;
-        filas.update();
-    }
-    juntos.commit();
-}
-
 QStringList renglonesPerinatales(qint64 paciente)
 {
     const QStringList patologias =

@@ -8,9 +8,6 @@ namespace clinical
 
 /// The family's pathologies, and what each relative had.
 QStringList antecedentesFamiliares(qint64 paciente);
-QStringList antecedentesPersonales(qint64 paciente);
-/// Writes the whole list of personal history; the allergy record, which stands in the same table, stays.
-void guardaAntecedentesPersonales(qint64 paciente, const QStringList &antecedentes);
 
 /// Pathologies and diagnoses of the newborn, a line of dashes, and what the birth record says. Nothing where
 /// none of it says anything.

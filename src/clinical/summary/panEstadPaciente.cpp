@@ -9,6 +9,7 @@
 #include "clinical/summary/tablasDelResumen.h"
 #include "clinical/summary/vacunasDelPlan.h"
 #include "clinical/visits/nuevaConsulta.h"
+#include "core/services/antecedentesPersonales.h"
 #include "core/security/alarmas.h"
 #include "core/security/eventos.h"
 #include "core/security/niveles.h"
@@ -299,7 +300,7 @@ void panEstadPaciente::mostrarAntecedentes()
     List8.clear();
     List8.addItems(clinical::antecedentesFamiliares(numero()));
     List3.clear();
-    List3.addItems(clinical::antecedentesPersonales(numero()));
+    List3.addItems(services::antecedentesPersonales(numero()));
 }
 
 /// Green is set first: a state that cannot be read is no finding.
@@ -515,7 +516,7 @@ void panEstadPaciente::quitarAntecedente()
 
 void panEstadPaciente::guardarAntecedentes()
 {
-    clinical::guardaAntecedentesPersonales(numero(), List3.lines());
+    services::guardaAntecedentesPersonales(numero(), List3.lines());
 }
 
 bool panEstadPaciente::queryUnload()

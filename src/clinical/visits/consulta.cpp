@@ -80,11 +80,11 @@ qint64 agregarConsulta(dao::Recordset &consultas, const QString &paciente, const
     poner(consultas, u"Fecha"_s, visita.fecha);
     poner(consultas, u"Hora"_s, visita.hora);
     poner(consultas, u"Lugar de Consulta"_s, lugar(visita.consultorio));
-    poner(consultas, u"Tipo"_s, tipo(visita.primera));
+    poner(consultas, u"Tipo"_s, visita.clase.isEmpty() ? tipo(visita.primera) : visita.clase);
     poner(consultas, u"Motivo"_s, visita.motivo);
     poner(consultas, u"Peso"_s, visita.peso);
     poner(consultas, u"Talla"_s, visita.talla);
-    poner(consultas, u"Perimetro cefalico"_s, 0);
+    poner(consultas, u"Perimetro cefalico"_s, visita.perimetroCefalico);
     poner(consultas, u"Estado General"_s, visita.estadoGeneral);
     poner(consultas, u"Alimentacion"_s, visita.alimentacion);
     if (copiado.edad)
@@ -151,7 +151,8 @@ Copiado tomarDelPaciente(const QString &numero, basic::Date fechaDeVisita)
     copiado.mutual = pacientes[u"Obra social"].text();
     if (const basic::Value nacimiento = pacientes[u"Fecha de Nacimiento"]; !nacimiento.isBlank())
         copiado.edad = basic::today().wholeDays() - nacimiento.date().wholeDays();
-    pacientes.edit([&] { pacientes[u"Ultima fecha visita"] = fechaDeVisita; }); // even one older than the stored
+    pacientes.edit(
+        [&] { pacientes[u"Ultima fecha visita"] = fechaDeVisita; }); // even one older than the stored
     return copiado;
 }
 

@@ -41,7 +41,9 @@ struct Visita {
     QString hora;
     bool consultorio = true;
     bool primera = true;
+    QString clase = {}; ///< of a visit that is neither the first nor a later one: the type that is stored
     QString motivo = {}, peso = {}, talla = {}, estadoGeneral = {}, alimentacion = {};
+    QString perimetroCefalico = QStringLiteral("0"); ///< the capture form has no such field
     QString pulso = {}, temperatura = {}, respiracion = {}, especialidad = {};
     Renglones renglones = {};
     std::vector<Hallazgo> examen = {};

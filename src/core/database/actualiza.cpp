@@ -149,10 +149,11 @@ constexpr const char *trasLosTamanos[] = {
 // No rule asks for these; speed does. A visit on the screen asks for its examination by patient and day, a
 // visit deleted takes its rows by number, and a practice of years has a million of them: an index over the
 // patient alone leaves all rows of a child of many visits to be read, one over the day those of all children.
-// The reports list the visits by day and hour: unsorted, their first page waits for a million to be put in order.
-// Who is late for a vaccine is asked dose by dose of all patients at once: the index holds all that is asked.
-// The day book lists its visits by their hour and sums them at every arrow key; the pending ones of an insurer are
-// summed at every change: both indexes hold all that is asked. The marks of a bill are a few among all visits.
+// The reports list the visits by day and hour: unsorted, their first page waits for a million to be put in
+// order. Who is late for a vaccine is asked dose by dose of all patients at once: the index holds all that is
+// asked. The day book lists its visits by their hour and sums them at every arrow key; the pending ones of an
+// insurer are summed at every change: both indexes hold all that is asked. The marks of a bill are a few among all
+// visits.
 constexpr const char *indicesDeVelocidad[] = {
     "CREATE INDEX PacFecha ON ExFisico (idPaciente, Fecha)",
     "CREATE INDEX idConsulta ON ExFisico (idConsulta)",
@@ -180,6 +181,18 @@ constexpr const char *columnasAjenasDePresion[] = {
     "ALTER TABLE Presion DROP COLUMN Fecha",
 };
 
+// The notes of the gynaecological sub-specialties are dated: they belong to the examinations.
+constexpr const char *columnasDeExamenGO[] = {
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_Menopausia MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_Mastologia MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_Infecciosas MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_Esterilidad MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_GinInfJuvenil MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_EnfVaginaVulva MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_EnfUteroAnexos MEMO",
+    "ALTER TABLE ExamenGO ADD COLUMN Obs_Oncologia MEMO",
+};
+
 constexpr const char *tablasDeVacunas[] = {
     "CREATE TABLE EdadesVacunas (Vacuna TEXT(20), Dosis TEXT(30), edad_recomendada_dias LONG, edad_minima_dias LONG, edad_maxima_dias LONG, intervalo_minimo_dias LONG, grupo TEXT(255))",
     "CREATE INDEX VacunaDosis ON EdadesVacunas (Vacuna, Dosis)",
@@ -187,8 +200,8 @@ constexpr const char *tablasDeVacunas[] = {
     "CREATE INDEX Lote ON CartasVacunas (Lote)",
 };
 
-// What a practice notes of its laboratory: the tests that it orders together, and from and to what a result is
-// normal. Its tests are those that its table of orders has.
+// What a practice notes of its laboratory: the tests that it orders together, and from and to what a result
+// is normal. Its tests are those that its table of orders has.
 constexpr const char *tablasDeLaboratorio[] = {
     "CREATE TABLE PerfilesLaboratorio (Perfil TEXT(60), Estudio TEXT(64))",
     "CREATE INDEX Perfil ON PerfilesLaboratorio (Perfil)",
@@ -270,6 +283,18 @@ void liberaFichaPerinatal()
             cambiaTipo(u"Perinatal"_s, columna.name, u"TEXT(30)"_s, u"[%1] & ''"_s);
 }
 
+/// A test that was not made is neither positive nor negative. Where there was no third answer, one that was
+/// not positive counts as made if its value was written.
+void distingueScreeningNoHecho()
+{
+    const dao::TableDef perinatal = BaseDatos.tableDef(u"Perinatal");
+    for (const QString &campo : {u"Screening - TSH Neonatal"_s, u"Screening - Fenilanalina Neonatal"_s})
+        if (const dao::FieldDef *columna = perinatal.field(campo);
+            columna && columna->type == dao::FieldType::Bit)
+            cambiaTipo(u"Perinatal"_s, campo, u"TEXT(2)"_s,
+                       u"IIf([%1], 'SI', IIf([%1 (Valor)] & '' <> '', 'NO', Null))"_s);
+}
+
 /// A pressure may be the mean of several takings.
 void fraccionaPresiones()
 {
@@ -309,7 +334,9 @@ void ActualizaBase()
     ejecuta(columnasDelResumen);
     ejecuta(columnasAjenasDePresion);
     basic::ignoring(yaHecho, liberaFichaPerinatal);
+    basic::ignoring(yaHecho, distingueScreeningNoHecho);
     basic::ignoring(yaHecho, fraccionaPresiones);
+    ejecuta(columnasDeExamenGO);
     ejecuta(tablasDeVacunas);
     ejecuta(tablasDeLaboratorio);
     reparaTipoDeUsuarios();

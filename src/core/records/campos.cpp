@@ -36,6 +36,8 @@ void poner(QWidget &control, const basic::Value &valor)
         elegir(*combo, valor.text());
     else if (auto *memo = qobject_cast<MemoBox *>(&control))
         memo->setPlainText(valor.text());
+    else if (auto *fecha = qobject_cast<DTPicker *>(&control))
+        fecha->setFieldValue(valor);
     else if (auto *linea = qobject_cast<TextBox *>(&control))
         linea->setText(valor.text());
 }
@@ -48,6 +50,8 @@ basic::Value leido(const QWidget &control)
         return combo->value();
     if (const auto *memo = qobject_cast<const MemoBox *>(&control))
         return memo->toPlainText();
+    if (const auto *fecha = qobject_cast<const DTPicker *>(&control))
+        return fecha->fieldValue();
     return qobject_cast<const TextBox *>(&control)->text();
 }
 
@@ -146,11 +150,16 @@ Item Campos::opciones(const QString &columna, const QStringList &palabras, int p
     return Grid(porRenglon, std::move(botones));
 }
 
+FieldRow Campos::renglon(const QString &columna)
+{
+    return {columna + u" :"_s, texto(columna)};
+}
+
 Item Campos::textos(const QStringList &columnas, const std::vector<FieldRow> &otras)
 {
     std::vector<FieldRow> filas;
     for (const QString &columna : columnas)
-        filas.emplace_back(columna + u" :"_s, texto(columna));
+        filas.push_back(renglon(columna));
     filas.insert(filas.end(), otras.begin(), otras.end());
     return Fields(std::move(filas));
 }

@@ -52,9 +52,11 @@ public:
     forms::CheckBox &casilla(const QString &columna, const QString &caption);
     /// The buttons of a column that keeps the place of the one chosen, so many in a row.
     forms::Item opciones(const QString &columna, const QStringList &palabras, int porRenglon);
-    /// A control that the window itself names: text, memo or combo.
+    /// A control that the window itself names: text, memo, combo or date.
     void ligar(const QString &columna, QWidget &control);
-    /// Texts with the column's name for a label, and further rows below them.
+    /// A text with the column's name for a label.
+    forms::FieldRow renglon(const QString &columna);
+    /// Such texts, and further rows below them.
     forms::Item textos(const QStringList &columnas, const std::vector<forms::FieldRow> &otras = {});
 
     /// A column that holds nothing (Null) leaves its field as it is.

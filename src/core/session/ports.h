@@ -8,6 +8,7 @@
 #include <array>
 #include <functional>
 #include <optional>
+#include <vector>
 
 /// What one subsystem asks of another with arguments and an answer. The subsystem that has it provides it at
 /// start; a port that nobody provides is false, and what would call it is disabled.
@@ -69,5 +70,19 @@ inline Port<std::optional<Renglon>()> eligeDiagnostico;
 /// The same for a record that begins somewhere else: from the practice's own list under a title when the
 /// setting says so, else from the classification open at a chapter.
 inline Port<std::optional<Renglon>(const QString &titulo, int capitulo)> eligePatologia;
+/// Lets a person choose a treatment, with the dose for the patient in sight; a blank line when none was.
+inline Port<Renglon(const QString &paciente)> eligeTratamiento;
+/// Lets a person edit the parents and the family's pathologies of a patient; true when they were stored.
+inline Port<bool(qint64 paciente)> editaCondicionFamiliar;
+/// A healthy-child control as the visit that it is. The measures are those that were taken last, as the
+/// visits keep them; what goes beyond the fifth line of a list is not kept.
+struct ControlDeSalud {
+    qint64 paciente;
+    basic::Date fecha;
+    QString peso, talla, perimetroCefalico;
+    std::vector<Renglon> diagnosticos, tratamientos;
+};
+/// Records it among the visits; what cannot be written throws dao::Error.
+inline Port<void(const ControlDeSalud &control)> registraControlDeSalud;
 
 } // namespace ports

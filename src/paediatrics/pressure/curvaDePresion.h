@@ -7,13 +7,6 @@
 namespace presion
 {
 
-/// One measuring.
-struct Toma {
-    basic::Date fecha;
-    double minima, maxima;
-    double valor(Cual cual) const { return cual == Cual::Maxima ? maxima : minima; }
-};
-
 /// Where a value of the reference lies on a picture of this size, which spans 180 months.
 QPointF lugarEnCurva(Cual cual, QSizeF tamano, double meses, double valor);
 /// Where a measuring lies, so many days after birth, of which the picture spans 5475. The pictures were drawn

@@ -19,7 +19,6 @@ namespace
 {
 
 constexpr qint64 diasDeLaCurva = 5475;
-constexpr double diasDelAnio = 365.25;
 constexpr double altoSinCurva = 3300; // twips
 constexpr int anchoDeLista = 320;
 
@@ -128,14 +127,7 @@ std::optional<Toma> panTension::tomaActual()
 
 QString panTension::enPalabras(Cual cual, const Toma &toma) const
 {
-    const QString medida = (cual == Cual::Maxima ? u"Máxima %1: "_s : u"Mínima %1: "_s)
-                               .arg(basic::Value(toma.valor(cual)).text());
-    if (letra_.isNull() || !nacimiento_)
-        return medida + u"sin referencia"_s;
-    const auto dias = static_cast<double>(toma.fecha.wholeDays() - nacimiento_->wholeDays());
-    return medida + presion::enPalabras(cual, letra_, dias / diasDelAnio,
-                                        presion::zDeTalla(paciente(), sexo_, *nacimiento_, toma.fecha),
-                                        toma.valor(cual));
+    return presion::enPalabras(cual, paciente(), sexo_, nacimiento_, toma);
 }
 
 void panTension::rowShown()

@@ -20,6 +20,7 @@ namespace
 {
 
 constexpr double anioCentral = 10;
+constexpr double diasDelAnio = 365.25;
 constexpr double primerAnio = 1, finDeLaReferencia = 18;
 
 /// The regression of one pressure on age and height.
@@ -131,6 +132,19 @@ std::optional<double> zDeTalla(qint64 paciente, const QString &sexo, basic::Date
         tabla->en(static_cast<double>(medida[u"fecha"].date().wholeDays() - nacimiento.wholeDays()));
     return parametros ? std::optional(paediatrics::puntajeZ(*parametros, medida[u"Talla"].number()))
                       : std::nullopt;
+}
+
+QString enPalabras(Cual cual, qint64 paciente, const QString &sexo,
+                   const std::optional<basic::Date> &nacimiento, const Toma &toma)
+{
+    const QString medida = (cual == Cual::Maxima ? u"Máxima %1: "_s : u"Mínima %1: "_s)
+                               .arg(basic::Value(toma.valor(cual)).text());
+    const QChar letra = sexo.isEmpty() ? QChar() : sexo[0].toUpper();
+    if ((letra != u'V' && letra != u'M') || !nacimiento)
+        return medida + u"sin referencia"_s;
+    const auto dias = static_cast<double>(toma.fecha.wholeDays() - nacimiento->wholeDays());
+    return medida + enPalabras(cual, letra, dias / diasDelAnio,
+                               zDeTalla(paciente, sexo, *nacimiento, toma.fecha), toma.valor(cual));
 }
 
 } // namespace presion
