@@ -8,6 +8,7 @@
 #include "laboratory.h"
 #include "limits.h"
 #include "measure.h"
+#include "money.h"
 #include "prescriptions.h"
 #include "specialties.h"
 #include "subsystems.h"
@@ -75,6 +76,7 @@ void measure()
     bench::specialties(report);
     bench::vaccines(report);
     bench::complements(report);
+    bench::money(report);
     window.hide();
 }
 

@@ -5,7 +5,11 @@
 #include "practice/appointments/otorgaTurno.h"
 #include "practice/appointments/panEstadosTurnos.h"
 #include "practice/appointments/panTurnos.h"
+#include "practice/billing/panFacturacion.h"
+#include "practice/daybook/panDiario.h"
 #include "practice/professionals/panProfesionales.h"
+#include "practice/tariffs/panObras.h"
+#include "practice/tariffs/panPrestaciones.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,5 +18,9 @@ void practice::registerScreens()
     screens::add<panTurnos>("panTurnos");
     screens::add<panEstadosTurnos>("panEstadosTurnos");
     screens::add<panProfesionales>("panProfesionales");
+    screens::add<panObras>("panObras");
+    screens::add<panPrestaciones>("panPrestaciones");
+    screens::add<panDiario>("panDiario");
+    screens::add<panFacturacion>("panFacturacion");
     ports::otorgaTurno.provide(OtorgaTurno);
 }

@@ -35,7 +35,12 @@
 #include "practice/appointments/panCambiaEstadoTurno.h"
 #include "practice/appointments/panDispTurnos.h"
 #include "practice/appointments/panNueTurno.h"
+#include "practice/billing/panFacLote.h"
+#include "practice/billing/panMuesDetFactura.h"
+#include "practice/daybook/panEdConPrestacion.h"
 #include "practice/professionals/panNueProfesional.h"
+#include "practice/tariffs/panAumento.h"
+#include "practice/tariffs/panNuePrestacion.h"
 #include "specialties/gynaecology/panExaGineco.h"
 #include "specialties/gynaecology/panNueExGesta.h"
 #include "specialties/gynaecology/panNueExamenGineco.h"
@@ -100,6 +105,12 @@ inline std::map<QString, Opening> windows()
          [] { return std::make_unique<panSelAnteFliar>(1, QStringLiteral("Papa")); }},
         {QStringLiteral("panResFliares"), [] { return std::make_unique<panResFliares>(QStringList()); }},
         {QStringLiteral("panNueProfesional"), opening<panNueProfesional>()},
+        {QStringLiteral("panNuePrestacion"), opening<panNuePrestacion>()},
+        {QStringLiteral("panAumento"), opening<panAumento>()},
+        {QStringLiteral("panEdConPrestacion"), opening<panEdConPrestacion>()},
+        {QStringLiteral("panFacLote"),
+         [] { return std::make_unique<panFacLote>(QStringLiteral("X0001-00000001")); }},
+        {QStringLiteral("panMuesDetFactura"), [] { return std::make_unique<panMuesDetFactura>(1); }},
     };
     for (const std::string_view name : screens::windows) {
         const auto window = screens::Window::find(QString::fromLatin1(name.data(), qsizetype(name.size())));

@@ -1,6 +1,7 @@
 #include "practice.h"
 
 #include "appointments.h"
+#include "bills.h"
 #include "births.h"
 #include "vaccines.h"
 #include "visits.h"
@@ -162,6 +163,8 @@ void fill(const Size &size)
         names += doctor.name;
     addAppointments(size.yearOfAppointments ? aYearOfAppointments(size.today) : tenAfternoons(size.today),
                     names, clients(patients, size.today), dice);
+    addTariffs();
+    addBills(size.today);
     BaseDatos.commitTrans();
 }
 
