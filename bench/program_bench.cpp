@@ -8,7 +8,9 @@
 #include "laboratory.h"
 #include "limits.h"
 #include "measure.h"
+#include "money.h"
 #include "prescriptions.h"
+#include "specialties.h"
 #include "subsystems.h"
 #include "summary.h"
 #include "vaccines.h"
@@ -71,8 +73,10 @@ void measure()
     bench::births(report);
     bench::controls(report);
     bench::summary(report);
+    bench::specialties(report);
     bench::vaccines(report);
     bench::complements(report);
+    bench::money(report);
     window.hide();
 }
 

@@ -6,9 +6,13 @@
 #include "practice/appointments/otorgaTurno.h"
 #include "practice/appointments/panEstadosTurnos.h"
 #include "practice/appointments/panTurnos.h"
+#include "practice/billing/panFacturacion.h"
 #include "practice/cashbook/panCaja.h"
+#include "practice/daybook/panDiario.h"
 #include "practice/professionals/panProfesionales.h"
 #include "practice/stock/panArticulos.h"
+#include "practice/tariffs/panObras.h"
+#include "practice/tariffs/panPrestaciones.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,5 +24,9 @@ void practice::registerScreens()
     screens::add<panCaja>("panCaja");
     screens::add<panImportAfiliados>("panImportAfiliados");
     screens::add<panArticulos>("panArticulos");
+    screens::add<panObras>("panObras");
+    screens::add<panPrestaciones>("panPrestaciones");
+    screens::add<panDiario>("panDiario");
+    screens::add<panFacturacion>("panFacturacion");
     ports::otorgaTurno.provide(OtorgaTurno);
 }

@@ -37,14 +37,19 @@
 #include "practice/appointments/panCambiaEstadoTurno.h"
 #include "practice/appointments/panDispTurnos.h"
 #include "practice/appointments/panNueTurno.h"
+#include "practice/billing/panFacLote.h"
+#include "practice/billing/panMuesDetFactura.h"
 #include "practice/cashbook/panCuentas.h"
 #include "practice/cashbook/panFilCaja.h"
 #include "practice/cashbook/panGastos.h"
 #include "practice/cashbook/panInfCaja.h"
+#include "practice/daybook/panEdConPrestacion.h"
 #include "practice/professionals/panNueProfesional.h"
 #include "practice/stock/panNueArticulo.h"
 #include "practice/stock/panNueMovStock.h"
 #include "practice/stock/panNueProveedor.h"
+#include "practice/tariffs/panAumento.h"
+#include "practice/tariffs/panNuePrestacion.h"
 #include "specialties/gynaecology/panExaGineco.h"
 #include "specialties/gynaecology/panNueExGesta.h"
 #include "specialties/gynaecology/panNueExamenGineco.h"
@@ -123,6 +128,12 @@ inline std::map<QString, Opening> windows()
              return std::make_unique<panPruebaImport>(afiliados::Mapa(), std::vector<QStringList>(),
                                                       QString());
          }},
+        {QStringLiteral("panNuePrestacion"), opening<panNuePrestacion>()},
+        {QStringLiteral("panAumento"), opening<panAumento>()},
+        {QStringLiteral("panEdConPrestacion"), opening<panEdConPrestacion>()},
+        {QStringLiteral("panFacLote"),
+         [] { return std::make_unique<panFacLote>(QStringLiteral("X0001-00000001")); }},
+        {QStringLiteral("panMuesDetFactura"), [] { return std::make_unique<panMuesDetFactura>(1); }},
     };
     for (const std::string_view name : screens::windows) {
         const auto window = screens::Window::find(QString::fromLatin1(name.data(), qsizetype(name.size())));

@@ -77,6 +77,20 @@ private:
     static inline std::unique_ptr<QTemporaryDir> folder_;
 };
 
+TEST_F(SyntheticPractice, BillsItsLastMonthsAtInventedPrices)
+{
+    EXPECT_EQ(count(u"Prestaciones where Descripcion NOT LIKE '*(precio inventado)'"_s), 0);
+    EXPECT_GT(count(u"Facturacion where Cobrada = TRUE"_s), 0);
+    EXPECT_GT(count(u"Facturacion where Cobrada = FALSE"_s), 0);
+    EXPECT_EQ(count(u"DetalleFacturacion"_s), count(u"Consulta where Facturada = TRUE"_s));
+    EXPECT_EQ(query(u"Select sum(Total) from Facturacion"_s)[0].value(),
+              query(u"Select sum(Importe) from DetalleFacturacion"_s)[0].value());
+    EXPECT_EQ(query(u"Select sum(Entrada) from Caja where Cuenta = 'Facturacion'"_s)[0].value(),
+              query(u"Select sum(Total) from Facturacion where Cobrada = TRUE"_s)[0].value());
+    EXPECT_EQ(
+        count(u"Consulta where TmpCheck = 'o' or (Facturada = TRUE and Fecha >= cdate('01/03/2026'))"_s), 0);
+}
+
 TEST_F(SyntheticPractice, HasTheVisitsAndExaminationsAskedFor)
 {
     EXPECT_EQ(count(u"Consulta"_s), visits + chronic);

@@ -1,6 +1,7 @@
 #include "practice.h"
 
 #include "appointments.h"
+#include "bills.h"
 #include "births.h"
 #include "cashandstock.h"
 #include "vaccines.h"
@@ -166,6 +167,8 @@ void fill(const Size &size)
         names += doctor.name;
     addAppointments(size.yearOfAppointments ? aYearOfAppointments(size.today) : tenAfternoons(size.today),
                     names, clients(patients, size.today), dice);
+    addTariffs();
+    addBills(size.today);
     BaseDatos.commitTrans();
 }
 

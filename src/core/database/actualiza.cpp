@@ -151,7 +151,9 @@ constexpr const char *trasLosTamanos[] = {
 // patient alone leaves all rows of a child of many visits to be read, one over the day those of all children.
 // The reports list the visits by day and hour: unsorted, their first page waits for a million to be put in
 // order. Who is late for a vaccine is asked dose by dose of all patients at once: the index holds all that is
-// asked. The cashbook adds its amounts at each step: from an index that holds them.
+// asked. The day book lists its visits by their hour and sums them at every arrow key; the pending ones of an
+// insurer are summed at every change: both indexes hold all that is asked. The marks of a bill are a few among all
+// visits. The cashbook adds its amounts at each step: from an index that holds them.
 constexpr const char *indicesDeVelocidad[] = {
     "CREATE INDEX PacFecha ON ExFisico (idPaciente, Fecha)",
     "CREATE INDEX idConsulta ON ExFisico (idConsulta)",
@@ -161,6 +163,9 @@ constexpr const char *indicesDeVelocidad[] = {
     "CREATE INDEX idCaja ON Caja (idCaja)",
     "CREATE INDEX FechaMontos ON Caja (Fecha, Cuenta, Entrada, Salida)",
     "CREATE INDEX ArticuloFecha ON MovStock (idArticulo, Fecha)",
+    "CREATE INDEX DiaDelConsultorio ON Consulta (Fecha, Dr, Mutual, Monto, Hora)",
+    "CREATE INDEX PorFacturar ON Consulta (Dr, Mutual, Facturada, Fecha, Monto)",
+    "CREATE INDEX Marcadas ON Consulta (TmpCheck, Facturada)",
 };
 
 // The allergy record of a patient and the lines of the patient's history stand in one table: the record has
