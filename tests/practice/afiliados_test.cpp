@@ -27,7 +27,7 @@ protected:
              "INSERT INTO CamposImport VALUES ('Es turista o esporadico', 49, 1, FALSE)",
              "INSERT INTO CamposImport VALUES ('Obra Social', 1, 10, FALSE)",
              "INSERT INTO Pacientes (Numero, [Apellido y Nombres], [Numero de Afiliado], [Obra Social], "
-             "[Fecha de Nacimiento]) VALUES (7, 'Viejo Nombre', 'A 1', 'PAMI', cdate('01/02/1980'))"});
+             "[Fecha de Nacimiento]) VALUES (7, 'Viejo Nombre', 'A 1', 'Prepaga', cdate('01/02/1980'))"});
     }
 
     static QString line(const char *key, const char *name, const char *rest)
@@ -45,7 +45,7 @@ protected:
     }
     static afiliados::Resumen take(const QString &file, bool trial = false)
     {
-        return afiliados::actualizar({u"OSDE d'Oro"_s, file, trial}, afiliados::leerMapa(),
+        return afiliados::actualizar({u"Mutual d'Oro"_s, file, trial}, afiliados::leerMapa(),
                                      [](qint64, qint64) { return true; });
     }
     static QString affiliate(const QString &key)
@@ -69,8 +69,8 @@ TEST_F(RollTest, lettersAreToldAndPositionsCountCharacters)
         EXPECT_EQ(afiliados::letrasDe(QStringEncoder(letters)(lines)), set);
         BaseDatos.execute(u"Delete * from Pacientes where Numero > 7"_s);
         EXPECT_EQ(take(write(lines.split(u'\n'), letters)).nuevos, 2);
-        EXPECT_EQ(affiliate(u"N1"_s), u"Muñoz Ibáñez, Ángel,Varon,15/03/1990,11222333,OSDE d'Oro");
-        EXPECT_EQ(affiliate(u"N2"_s), u"Núñez, María José,Mujer,15/03/1991,22333444,OSDE d'Oro");
+        EXPECT_EQ(affiliate(u"N1"_s), u"Muñoz Ibáñez, Ángel,Varon,15/03/1990,11222333,Mutual d'Oro");
+        EXPECT_EQ(affiliate(u"N2"_s), u"Núñez, María José,Mujer,15/03/1991,22333444,Mutual d'Oro");
     }
     QFile marked(write({line("N1", "Otro", "")}));
     ASSERT_TRUE(marked.open(QIODevice::ReadOnly));
@@ -95,7 +95,7 @@ TEST_F(RollTest, aKnownAffiliateChangesANewOneIsAddedAndASecondRunDoesNothing)
     EXPECT_EQ(first.nuevos, 1);
     EXPECT_EQ(first.modificados, 1);
     // what is no day leaves the known one's as it is
-    EXPECT_EQ(affiliate(u"A 1"_s), u"Nuevo Nombre,Varon,01/02/1980,123,OSDE d'Oro");
+    EXPECT_EQ(affiliate(u"A 1"_s), u"Nuevo Nombre,Varon,01/02/1980,123,Mutual d'Oro");
     EXPECT_EQ(
         rows(u"Select Numero, idProfesional, [Fecha de Nacimiento], Sexo from Pacientes where [Numero de "
              u"Afiliado] = 'O''HIG'"_s),
@@ -163,7 +163,7 @@ TEST_F(RollTest, whatIsWrittenStaysWhenItIsStopped)
     for (int i = 0; i < 3000; ++i)
         lines += line(qPrintable(u"K%1"_s.arg(i)), "Alguien", "M");
     const afiliados::Resumen summary =
-        afiliados::actualizar({u"OSDE"_s, write(lines), false}, afiliados::leerMapa(),
+        afiliados::actualizar({u"Mutual"_s, write(lines), false}, afiliados::leerMapa(),
                               [](qint64 done, qint64) { return done < 100; });
     EXPECT_TRUE(summary.detenido);
     EXPECT_LT(summary.lineas, 3000);
@@ -181,12 +181,12 @@ TEST_F(RollTest, unattendedItWorksOrLeavesWhyNotInTheEvents)
     EXPECT_EQ(answer(), u"NO");
     EXPECT_EQ(one(u"Select Suceso from Eventos where Proceso = 'ImportarAfiliados'"_s),
               u"Ingrese la mutual u Obra Social correspondiente!");
-    run({"INSERT INTO [Obra Social] (Descripcion) VALUES ('OSDE d''Oro')", "Delete * from Eventos",
+    run({"INSERT INTO [Obra Social] (Descripcion) VALUES ('Mutual d''Oro')", "Delete * from Eventos",
          "DROP INDEX idProfesional ON Pacientes", "ALTER TABLE Pacientes DROP COLUMN idProfesional"});
-    settings::saveSetting(u"Miscelaneas"_s, u"OBRASOCIAL"_s, u"OSDE d'Oro"_s);
+    settings::saveSetting(u"Miscelaneas"_s, u"OBRASOCIAL"_s, u"Mutual d'Oro"_s);
     settings::saveSetting(u"Miscelaneas"_s, u"RutaArchivoTXTImportar"_s, write({line("Z1", "Zeta", "M")}));
     EXPECT_EQ(answer(), u"SI"); // an old file has no such column
-    EXPECT_EQ(one(u"Select [Obra Social] from Pacientes where [Numero de Afiliado] = 'Z1'"_s), u"OSDE d'Oro");
+    EXPECT_EQ(one(u"Select [Obra Social] from Pacientes where [Numero de Afiliado] = 'Z1'"_s), u"Mutual d'Oro");
     run({"Delete * from CamposImport"});
     EXPECT_EQ(answer(), u"NO");
     EXPECT_EQ(column(u"Select Suceso from Eventos where Proceso = 'ImportarAfiliados' order by Suceso"_s),
