@@ -18,7 +18,6 @@ const std::set<std::string> notBuiltYet{
     "panCardioPrin",
     "panEHC",
     "panEditorMMedia",
-    "panEstadisticas",
     "panEvalEvolFisica",
     "panGArchivos",
     "panIMC",

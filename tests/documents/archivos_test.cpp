@@ -97,6 +97,8 @@ std::map<QString, Expected> files()
         {u"recibo.rpt"_s, {u"{Caja.idCaja} = 1"_s, u"$ 1.234,50"_s}},
         {u"reposicion.rpt"_s,
          {u"{Articulos.StockActual} < {Articulos.StockMinimo}"_s, u"Gasa d'hilo\t2,5\t12\t9,5"_s}},
+        {u"turnosestadistica.rpt"_s,
+         {u"{Profesionales.Nombre} = 'Dra. O''Higgins'"_s, u"Turnos de Dra. O'Higgins: 1"_s}},
         {u"turnos.rpt"_s, {seleccion::deTurnos(march, {}), u"Turnos de Dra. O'Higgins: 1"_s}},
         {u"vacunas.rpt"_s, {u"{CartasVacunas.Lote} = 'L'"_s, u"BCG\t1 MES\t2 meses"_s}},
     };
