@@ -43,7 +43,7 @@ void verificar(const QString &archivo, const QString &conexion)
 {
     dao::Database copia;
     copia.open(archivo, false, true, conexion);
-    if (const QStringList fallas = copia.check(); !fallas.isEmpty())
+    if (const QStringList fallas = copia.check(dao::Database::Check::Pages); !fallas.isEmpty())
         falla(u"La copia no está sana: %1"_s.arg(fallas.first()));
 }
 

@@ -361,11 +361,12 @@ qint64 EmbeddedEngine::dataVersion()
     return number(dataVersion_, u"PRAGMA data_version");
 }
 
-QStringList EmbeddedEngine::check()
+QStringList EmbeddedEngine::check(bool whole)
 {
     QStringList faults;
     for (const char16_t *sql : {u"PRAGMA cipher_integrity_check", u"PRAGMA integrity_check"}) {
-        if (!enciphered_ && sql[7] == u'c')
+        const bool ofPages = sql[7] == u'c'; // only an enciphered page carries its own proof
+        if (ofPages ? !enciphered_ : enciphered_ && !whole)
             continue;
         try {
             const auto statement = prepare(QString::fromUtf16(sql));

@@ -52,7 +52,7 @@ public:
     void saveQuery(const QString &name, const QString &text) override;
     Table createScratchTable(const std::vector<FieldDef> &columns) override;
     void dropScratchTable(const Table &table) noexcept override;
-    QStringList check() override;
+    QStringList check(bool whole) override;
     bool readOnly() const override;
     bool spoiled() const override;
     void setPatience(int ms) override { waiting_.patienceMs = ms; }

@@ -227,9 +227,9 @@ void Database::readTogether(const std::function<void()> &loop)
     engine.commit();
 }
 
-QStringList Database::check()
+QStringList Database::check(Check depth)
 {
-    return d_->engine().check();
+    return d_->engine().check(depth == Check::Whole);
 }
 
 const FieldDef *TableDef::field(QStringView fieldName) const

@@ -107,7 +107,7 @@ public:
     virtual Table createScratchTable(const std::vector<FieldDef> &columns) = 0;
     virtual void dropScratchTable(const Table &table) noexcept = 0;
 
-    virtual QStringList check() = 0;
+    virtual QStringList check(bool whole) = 0;
     virtual bool readOnly() const = 0;
     /// A damaged page was met, after which this connection reads nothing more, sound pages included.
     virtual bool spoiled() const = 0;
