@@ -1,6 +1,9 @@
 #include "specialties/register.h"
 
 #include "core/session/screens.h"
+#include "specialties/cardiology/panAnteCardio.h"
+#include "specialties/cardiology/panGraMed.h"
+#include "specialties/cardiology/panIMC.h"
 #include "specialties/gynaecology/fichaGineco.h"
 #include "specialties/gynaecology/panCalRiesgoGesta.h"
 #include "specialties/gynaecology/panGinecoExamen.h"
@@ -13,6 +16,9 @@
 
 void specialties::registerScreens()
 {
+    screens::add<panAnteCardio>("panAnteCardio");
+    screens::add<panIMC>("panIMC");
+    screens::add<panGraMed>("panGraMed");
     screens::add<panTestCardio>("panTestCardio");
     screens::add<panRiesgoOperatorio>("panRiesgoOperatorio");
     screens::add<panEvalDeportiva>("panEvalDeportiva");

@@ -23,7 +23,6 @@ const std::set<std::string> notBuiltYet{
     "panEstadisticas",
     "panEvalEvolFisica",
     "panGArchivos",
-    "panIMC",
     "panImagenes",
     "panImportAfiliados",
     "panMadNeurol",

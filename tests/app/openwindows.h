@@ -41,6 +41,8 @@
 #include "practice/professionals/panNueProfesional.h"
 #include "practice/tariffs/panAumento.h"
 #include "practice/tariffs/panNuePrestacion.h"
+#include "specialties/cardiology/panListaPeso.h"
+#include "specialties/cardiology/panNuePeso.h"
 #include "specialties/gynaecology/panExaGineco.h"
 #include "specialties/gynaecology/panNueExGesta.h"
 #include "specialties/gynaecology/panNueExamenGineco.h"
@@ -87,6 +89,8 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panObservaRecien"), opening<panObservaRecien>()},
         {QStringLiteral("panTomaTension"), opening<panTomaTension>()},
         {QStringLiteral("panNueVisual"), opening<panNueVisual>()},
+        {QStringLiteral("panListaPeso"), opening<panListaPeso>()},
+        {QStringLiteral("panNuePeso"), opening<panNuePeso>()},
         {QStringLiteral("panExaGineco"), opening<panExaGineco>()},
         {QStringLiteral("panExaColpo"), opening<panExaColpo>()},
         {QStringLiteral("panExaMamas"), opening<panExaMamas>()},
