@@ -2,6 +2,7 @@
 
 #include "core/session/screens.h"
 #include "specialties/cardiology/panAnteCardio.h"
+#include "specialties/cardiology/panCardioPrin.h"
 #include "specialties/cardiology/panGraMed.h"
 #include "specialties/cardiology/panIMC.h"
 #include "specialties/gynaecology/fichaGineco.h"
@@ -17,6 +18,7 @@
 void specialties::registerScreens()
 {
     screens::add<panAnteCardio>("panAnteCardio");
+    screens::add<panCardioPrin>("panCardioPrin");
     screens::add<panIMC>("panIMC");
     screens::add<panGraMed>("panGraMed");
     screens::add<panTestCardio>("panTestCardio");

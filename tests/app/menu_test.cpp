@@ -17,7 +17,6 @@ const std::set<std::string> notBuiltYet{
     "panAlgorritmos",
     "panArticulos",
     "panCaja",
-    "panCardioPrin",
     "panEHC",
     "panEditorMMedia",
     "panEstadisticas",
