@@ -259,7 +259,8 @@ void panCardioPrin::mostrarDiagrama()
     if (const auto pendiente = pendientes_.find(mostrada_); pendiente != pendientes_.end())
         dibujo_.mostrar(pendiente->second);
     else
-        dibujo_.mostrar(mostrada_ ? torax::leer(archivoMostrado_) : std::vector<torax::Elemento>());
+        dibujo_.mostrar(mostrada_ ? torax::leer(basic::programFile(archivoMostrado_))
+                                  : std::vector<torax::Elemento>());
 }
 
 /// By the day that is stored, which may be another since the record was shown.
@@ -267,7 +268,7 @@ QString panCardioPrin::archivoDe(qint64 consulta, QStringView extension) const
 {
     const basic::Value fecha = MODULE11::BuscaCampo(
         u"Select Fecha from ConsultaCardiologia where idConsulta = %1"_s.arg(consulta), u"Fecha");
-    return basic::programFile(torax::archivo(paciente(), fecha.date(), extension));
+    return torax::archivo(paciente(), fecha.date(), extension);
 }
 
 void panCardioPrin::nuevo()
@@ -348,7 +349,7 @@ void panCardioPrin::guardarDiagramas()
 {
     for (auto pendiente = pendientes_.begin(); pendiente != pendientes_.end();) {
         if (pendiente->first != mostrada_)
-            torax::guardar(archivoDe(pendiente->first, u".DAT"), pendiente->second);
+            torax::guardar(basic::programFile(archivoDe(pendiente->first, u".DAT")), pendiente->second);
         pendiente = pendiente->first != mostrada_ ? pendientes_.erase(pendiente) : std::next(pendiente);
     }
     if (mostrada_ == 0)
@@ -357,10 +358,10 @@ void panCardioPrin::guardarDiagramas()
     const bool mudado = archivo != archivoMostrado_;
     if (!mudado && !dibujo_.cambiado() && !pendientes_.contains(mostrada_))
         return;
-    if (mudado && QFile::exists(archivo) &&
+    if (mudado && QFile::exists(basic::programFile(archivo)) &&
         !askBox(u"Ya existe un diagrama de esa fecha. Lo reemplaza ?"_s, u"Atención"_s, Answer::No))
         return;
-    torax::guardar(archivo, dibujo_.elementos());
+    torax::guardar(basic::programFile(archivo), dibujo_.elementos());
     pendientes_.erase(mostrada_);
     archivoMostrado_ = archivo;
     dibujo_.guardado();

@@ -1,5 +1,6 @@
 #include "specialties/cardiology/panRxDiag.h"
 
+#include "platform/basic/environment.h"
 #include "platform/forms/boxes.h"
 
 using namespace Qt::StringLiterals;
@@ -21,12 +22,12 @@ void panRxDiag::activate()
     if (leido_ || tag().isEmpty())
         return;
     leido_ = true;
-    dibujo_.mostrar(torax::leer(tag()));
+    dibujo_.mostrar(torax::leer(basic::programFile(tag())));
 }
 
 void panRxDiag::guardar()
 {
-    torax::guardar(tag(), dibujo_.elementos());
+    torax::guardar(basic::programFile(tag()), dibujo_.elementos());
     dibujo_.guardado();
 }
 

@@ -3,7 +3,8 @@
 #include "platform/forms/form.h"
 #include "specialties/cardiology/dibujoDeTorax.h"
 
-/// "Diagrama Gráfico Rx": what is drawn on the picture of a chest X-ray, kept in the file that is the tag.
+/// "Diagrama Gráfico Rx": what is drawn on the picture of a chest X-ray, kept in the file of the
+/// program's folder that is the tag.
 class panRxDiag : public forms::Form
 {
     Q_OBJECT
