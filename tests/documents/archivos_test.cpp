@@ -40,7 +40,12 @@ protected:
              "INSERT INTO DetalleFacturacion (idFactura, idPaciente, NroOrden, idPrestacion, Importe) VALUES (1, 1, "
              "'A-77', 1, 1234.5)",
              "INSERT INTO CartasVacunas (Lote, Paciente, Renglon, Vacuna, Dosis, Atraso) VALUES ('L', 1, 1, 'BCG', "
-             "'1 MES', '2 meses')"});
+             "'1 MES', '2 meses')",
+             "INSERT INTO Caja (Fecha, Cuenta, Detalle, Entrada, Salida) VALUES (cdate('15/03/2024'), 'O''Luz', "
+             "'Marzo', 0, 1234.5)",
+             "INSERT INTO Proveedores (Empresa) VALUES ('D''Alba')",
+             "INSERT INTO Articulos (idProfesional, Descripcion, idProveedor, StockActual, StockMinimo, StockIdeal) "
+             "VALUES (1, 'Gasa d''hilo', 1, 2.5, 3, 12)"});
     }
 
     static reports::Report report(const QString &file, const QString &formula)
@@ -70,6 +75,8 @@ std::map<QString, Expected> files()
     const seleccion::Periodo march{basic::Date(QDate(2024, 3, 1)), basic::Date(QDate(2024, 3, 31))};
     return {
         {u"CONS.RPT"_s, {seleccion::deAtenciones(march, {.paciente = u"D'Angelo"_s}), u"\t1.234,50"_s}},
+        {u"articulos1.rpt"_s, {u"{Articulos.idProfesional} = 1"_s, u"Gasa d'hilo\t\t2,5\t3\t12"_s}},
+        {u"caja.rpt"_s, {u"{caja.cuenta} = 'O''Luz'"_s, u"\t1.234,50"_s}},
         {u"cie10.rpt"_s, {u"{Diagnosticos.idDiagnostico} <> ''"_s, u"Total de diagnósticos: 10594"_s}},
         {u"cierre.rpt"_s,
          {seleccion::deConsultas(march), u"Total de Dra. O'Higgins: 1\t\t\t\t\t\t\t1.234,50\t0,00"_s}},
@@ -87,6 +94,11 @@ std::map<QString, Expected> files()
         {u"prestaciones.rpt"_s, {u"{prestaciones.descripcion} <> ''"_s, u"420101\tConsulta d'hospital"_s}},
         {u"profesionales.rpt"_s, {QString(), u"Dra. O'Higgins"_s}},
         {u"receta.rpt"_s, {u"{recetario.idReceta} = 1"_s, u"Amoxicilina <500> & reposo"_s}},
+        {u"recibo.rpt"_s, {u"{Caja.idCaja} = 1"_s, u"$ 1.234,50"_s}},
+        {u"reposicion.rpt"_s,
+         {u"{Articulos.StockActual} < {Articulos.StockMinimo}"_s, u"Gasa d'hilo\t2,5\t12\t9,5"_s}},
+        {u"turnosestadistica.rpt"_s,
+         {u"{Profesionales.Nombre} = 'Dra. O''Higgins'"_s, u"Turnos de Dra. O'Higgins: 1"_s}},
         {u"turnos.rpt"_s, {seleccion::deTurnos(march, {}), u"Turnos de Dra. O'Higgins: 1"_s}},
         {u"vacunas.rpt"_s, {u"{CartasVacunas.Lote} = 'L'"_s, u"BCG\t1 MES\t2 meses"_s}},
     };

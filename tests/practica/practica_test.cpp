@@ -280,3 +280,24 @@ TEST_F(SyntheticPractice, HasCompleteLateAndEmptyVaccinePlans)
               0);
     EXPECT_GT(lateChildren.size(), 5u);
 }
+
+TEST_F(SyntheticPractice, HasACashbookAndAStockThatAgreesWithItsMovements)
+{
+    EXPECT_GT(count(u"Caja where Entrada > 0 and Salida = 0"_s), 100);
+    EXPECT_GT(count(u"Caja where Salida > 0 and Entrada = 0"_s), 50);
+    EXPECT_EQ(count(u"Caja where Cuenta not in (Select Descripcion from Cuentas)"_s), 0);
+    EXPECT_GT(count(u"Articulos where StockActual < StockMinimo"_s), 0);
+    EXPECT_EQ(count(u"Articulos where StockActual <> (Select Sum(Cantidad) from MovStock where "
+                    u"MovStock.idArticulo = Articulos.idArticulo)"_s),
+              0);
+}
+
+TEST_F(SyntheticPractice, FollowsAChildForItsHeart)
+{
+    const QString records = u"ConsultaCardiologia c inner join AntecedentesCardiologicos a "
+                            "on c.idpaciente = a.idPaciente"_s;
+    EXPECT_EQ(count(records), 3);
+    EXPECT_EQ(
+        count(records + u" inner join Consulta v on (v.paciente = c.idpaciente and v.Fecha = c.Fecha)"_s), 3)
+        << "at visits of its own";
+}

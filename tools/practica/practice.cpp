@@ -3,6 +3,8 @@
 #include "appointments.h"
 #include "bills.h"
 #include "births.h"
+#include "hearts.h"
+#include "cashandstock.h"
 #include "vaccines.h"
 #include "visits.h"
 
@@ -156,8 +158,12 @@ void fill(const Size &size)
     addBirths(patients, growth, dice);
     addPressures();
     addSightTests(patients, dice);
+    addHeartPatient(patients);
     Dice ofVaccines(size.seed); // of their own: what the others throw stays as it is
     addVaccines(patients, size.vaccinated, size.today, ofVaccines);
+    Dice ofMoney(size.seed);
+    addCash(size.today, ofMoney);
+    addStock(size.today, ofMoney);
     QStringList names;
     for (const Doctor &doctor : doctors())
         names += doctor.name;
