@@ -8,6 +8,7 @@
 #include "platform/basic/runtime.h"
 #include "platform/dao/sqltext.h"
 #include "platform/forms/boxes.h"
+#include "specialties/cardiology/cambios.h"
 #include "specialties/cardiology/panNueRegCardio.h"
 #include "specialties/cardiology/panRxDiag.h"
 
@@ -101,22 +102,24 @@ panCardioPrin::panCardioPrin()
     mFecha.setFixedWidth(130);
     setContents(
         this,
-        Column{Row{lblPaciente, Stretch(), Fields{{u"&Fecha :"_s, mFecha}}},
-               Expanding(
-                   Row{Column{Expanding(DBGrid1),
-                              command(u"Command1"_s, u"&Nuevo..."_s, u"agregar"_s, [this] { nuevo(); }),
-                              rowCommand(u"Command2"_s, u"&Quitar"_s, u"quitar"_s, [this] { deleteRow(); })},
-                       Expanding(Tabs(SSTab1, {{u"Electrocardiograma"_s, electro()},
-                                               {u"Pulsos periféricos"_s, pulsos()},
-                                               {u"Focos"_s, focos()},
-                                               {u"Examen"_s, examen()},
-                                               {u"Tórax"_s, hallazgosDelTorax()},
-                                               {u"Diagrama"_s, diagrama()}}))}),
-               Row{rowCommand(u"Command3"_s, u"&Guardar Cambios"_s, u"guardar"_s, [this] { guardar(); }),
-                   rowCommand(u"Command12"_s, u"&Rx..."_s, u"abrir"_s, [this] { abrirRx(); }),
-                   command(u"Command10"_s, u"&Evaluación deportiva..."_s, u"abrir"_s,
-                           [this] { evaluacionDeportiva(); }),
-                   Stretch(), closes(u"Command4"_s, u"&Cerrar"_s)}});
+        Column{
+            Row{lblPaciente, Stretch(), Fields{{u"&Fecha :"_s, mFecha}}},
+            Expanding(Row{
+                Column{Expanding(DBGrid1),
+                       command(u"Command1"_s, u"&Nuevo..."_s, u"agregar"_s, [this] { nuevo(); }),
+                       rowCommand(u"Command2"_s, u"&Quitar"_s, u"quitar"_s, [this] { deleteRow(); })},
+                Expanding(Tabs(SSTab1, {{u"Electrocardiograma"_s, electro()},
+                                        {u"Pulsos periféricos"_s, pulsos()},
+                                        {u"Focos"_s, focos()},
+                                        {u"Examen"_s, examen()},
+                                        {u"Tórax"_s, hallazgosDelTorax()},
+                                        {u"Diagrama"_s, diagrama()},
+                                        {u"Cambios"_s, Above(u"Desde el registro anterior :"_s, List1)}}))}),
+            Row{rowCommand(u"Command3"_s, u"&Guardar Cambios"_s, u"guardar"_s, [this] { guardar(); }),
+                rowCommand(u"Command12"_s, u"&Rx..."_s, u"abrir"_s, [this] { abrirRx(); }),
+                command(u"Command10"_s, u"&Evaluación deportiva..."_s, u"abrir"_s,
+                        [this] { evaluacionDeportiva(); }),
+                Stretch(), closes(u"Command4"_s, u"&Cerrar"_s)}});
     connect(&Text18, &QLineEdit::editingFinished, this, &panCardioPrin::exigirNumero);
     SSTab1.setEnabled(false);
     mFecha.setEnabled(false);
@@ -240,11 +243,19 @@ void panCardioPrin::rowShown()
     mFecha.setEnabled(hay);
     Image3.mostrar(hay ? Data1.recordset()[u"Electro - Imagen"].text() : QString());
     const qint64 consulta = hay ? Data1.recordset()[u"idConsulta"].integer() : 0;
+    mostrarCambios(consulta);
     if (consulta == mostrada_)
         return;
     apartarDiagrama();
     mostrada_ = consulta;
     mostrarDiagrama();
+}
+
+void panCardioPrin::mostrarCambios(qint64 consulta)
+{
+    List1.clear();
+    if (consulta != 0)
+        List1.addItems(corazon::cambios(paciente(), consulta));
 }
 
 void panCardioPrin::apartarDiagrama()

@@ -42,6 +42,7 @@ private:
     bool hayDiagramasSinGuardar() const { return !pendientes_.empty() || dibujo_.cambiado(); }
     void apartarDiagrama();
     void mostrarDiagrama();
+    void mostrarCambios(qint64 consulta);
     void exigirNumero();
     QString archivoDe(qint64 consulta, QStringView extension) const;
 
@@ -59,6 +60,7 @@ private:
     forms::TextBox mImagen{QStringLiteral("mImagen")};
     forms::MemoBox mInterpretacion{QStringLiteral("mInterpretacion")};
     Trazado Image3{QStringLiteral("Image3")};
+    forms::ListBox List1{QStringLiteral("List1")}; ///< what changed since the record before
     forms::Canvas figura_;
     DibujoDeTorax dibujo_{QStringLiteral("torax")};
 };
