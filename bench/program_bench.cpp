@@ -5,6 +5,7 @@
 #include "births.h"
 #include "complements.h"
 #include "controls.h"
+#include "figures.h"
 #include "laboratory.h"
 #include "limits.h"
 #include "measure.h"
@@ -74,6 +75,7 @@ void measure()
     bench::controls(report);
     bench::summary(report);
     bench::specialties(report);
+    bench::figures(report);
     bench::vaccines(report);
     bench::complements(report);
     bench::money(report);

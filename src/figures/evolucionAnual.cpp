@@ -34,14 +34,13 @@ std::array<qint64, 12> vecesPorMes(Nombrado que, const QString &nombre, int anio
     dao::Recordset visitas = MODULE11::BaseDatos.openRecordset(
         u"Select month(Fecha), %1 from Consulta where year(Fecha) = %2%3"_s.arg(columnas(que))
             .arg(anio)
-            .arg(delSexo(sexo)));
-    MODULE11::BaseDatos.readTogether([&] {
-        for (qint64 fila = 0; visitas.hasRow(fila); ++fila)
-            for (int lugar = 1; lugar <= lugaresDeLaVisita; ++lugar)
-                if (const basic::Value valor = visitas.valueAt(fila, lugar);
-                    !valor.isNull() && valor.text() == nombre)
-                    ++veces[static_cast<std::size_t>(visitas.valueAt(fila, 0).integer() - 1)];
-    });
+            .arg(delSexo(sexo)),
+        dao::Recordset::Kind::Snapshot);
+    for (qint64 fila = 0; visitas.hasRow(fila); ++fila)
+        for (int lugar = 1; lugar <= lugaresDeLaVisita; ++lugar)
+            if (const basic::Value valor = visitas.valueAt(fila, lugar);
+                !valor.isNull() && valor.text() == nombre)
+                ++veces[static_cast<std::size_t>(visitas.valueAt(fila, 0).integer() - 1)];
     return veces;
 }
 

@@ -37,7 +37,7 @@ constexpr Fuente fuentes[] = {
 
 constexpr const char *titulosDeNombres[] = {"Prevalencia x Diagnósticos", "Prevalencia x Sintomas",
                                             "Prevalencia x Tratamientos"};
-constexpr std::size_t porciones = 10;
+constexpr std::size_t masNombrados = 10;
 constexpr qint64 entreAvisos = 20000;
 
 using Cuentas = QHash<QString, qint64>;
@@ -93,6 +93,31 @@ QString casos(const QString &nombre, qint64 cantidad, QStringView forma)
     return u"%1 - %2 casos."_s.arg(nombre, basic::format(cantidad, forma));
 }
 
+/// A slice of the visits, and the condition that puts a visit in it.
+struct Porcion {
+    QString nombre, condicion;
+};
+
+/// All slices in one walk over the visits.
+Figura contada(Figura figura, const std::vector<Porcion> &porciones, const Seleccion &seleccion,
+               basic::Date hoy)
+{
+    QStringList sumas{u"count(*)"_s};
+    for (const Porcion &porcion : porciones)
+        sumas += u"sum(iif(%1, 1, 0))"_s.arg(porcion.condicion);
+    const dao::Recordset fila = BaseDatos.openRecordset(
+        u"Select %1 from consulta where %2"_s.arg(sumas.join(u", "_s), condicionDeVisitas(seleccion, hoy)));
+    if (fila.value(0).integer() == 0)
+        return figura;
+    figura.sobre = sobre(fila.value(0).integer(), u"consultas"_s);
+    int columna = 1;
+    for (const Porcion &porcion : porciones) {
+        const qint64 suyas = fila.value(columna++).integer();
+        figura.datos.push_back({casos(porcion.nombre, suyas, u"##,###,##0"), static_cast<double>(suyas)});
+    }
+    return figura;
+}
+
 /// Leaves the counts in the catalogue's scratch column: a name that it does not have counts for nothing.
 void dejarEnElCatalogo(const QString &tabla, const Cuentas &cuentas)
 {
@@ -121,7 +146,7 @@ std::vector<Dato> losMasNombrados(const QString &tabla)
                 .arg(tabla));
         !fila.eof(); fila.moveNext()) {
         const qint64 cantidad = fila[u"Estadistica"].integer();
-        if (datos.size() < porciones)
+        if (datos.size() < masNombrados)
             datos.push_back(
                 {casos(fila[u"Descripcion"].text(), cantidad, u"##,###"), static_cast<double>(cantidad)});
         else
@@ -170,37 +195,19 @@ QString condicionDePacientes(const Seleccion &seleccion, basic::Date hoy)
 
 Figura porSexo(const Seleccion &seleccion, basic::Date hoy)
 {
-    Figura figura{u"Prevalencia x Sexo"_s, {}, u"Sexo"_s, u"Consultas"_s, {}};
-    const QString visitas = u"Select count(*) from consulta where "_s + condicionDeVisitas(seleccion, hoy);
-    const qint64 total = cuantos(visitas);
-    if (total == 0)
-        return figura;
-    figura.sobre = sobre(total, u"consultas"_s);
-    for (const auto &[sexo, nombre] : {std::pair{u"Varon"_s, u"Varones"_s}, {u"Mujer"_s, u"Mujeres"_s}}) {
-        const qint64 suyos = cuantos(visitas + u" and sexo = "_s + dao::quoted(sexo));
-        figura.datos.push_back({casos(nombre, suyos, u"##,###,##0"), static_cast<double>(suyos)});
-    }
-    return figura;
+    return contada({u"Prevalencia x Sexo"_s, {}, u"Sexo"_s, u"Consultas"_s, {}},
+                   {{u"Varones"_s, u"sexo = 'Varon'"_s}, {u"Mujeres"_s, u"sexo = 'Mujer'"_s}}, seleccion,
+                   hoy);
 }
 
 Figura porEdades(const Seleccion &seleccion, basic::Date hoy)
 {
-    Figura figura{u"Prevalencia x Grupo Etáreo"_s, {}, u"Edad"_s, u"Consultas"_s, {}};
-    QStringList sumas{u"count(*)"_s};
+    std::vector<Porcion> porciones;
     for (const GrupoDeEdad &grupo : grupos)
-        sumas += u"sum(iif(edad >= %1 and edad <= %2, 1, 0))"_s.arg(grupo.desde).arg(grupo.hasta);
-    const dao::Recordset fila = BaseDatos.openRecordset(
-        u"Select %1 from consulta where %2"_s.arg(sumas.join(u", "_s), condicionDeVisitas(seleccion, hoy)));
-    if (fila.value(0).integer() == 0)
-        return figura;
-    figura.sobre = sobre(fila.value(0).integer(), u"consultas"_s);
-    int columna = 1;
-    for (const GrupoDeEdad &grupo : grupos) {
-        const qint64 suyos = fila.value(columna++).integer();
-        figura.datos.push_back(
-            {casos(QString::fromLatin1(grupo.porcion), suyos, u"##,###,##0"), static_cast<double>(suyos)});
-    }
-    return figura;
+        porciones.push_back({QString::fromLatin1(grupo.porcion),
+                             u"edad >= %1 and edad <= %2"_s.arg(grupo.desde).arg(grupo.hasta)});
+    return contada({u"Prevalencia x Grupo Etáreo"_s, {}, u"Edad"_s, u"Consultas"_s, {}}, porciones, seleccion,
+                   hoy);
 }
 
 std::optional<Figura> porNombre(Nombrado que, const Seleccion &seleccion, basic::Date hoy,

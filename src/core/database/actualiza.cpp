@@ -159,6 +159,7 @@ constexpr const char *indicesDeVelocidad[] = {
     "CREATE INDEX idConsulta ON ExFisico (idConsulta)",
     "CREATE INDEX fechaPaciente ON Recetario (fecha, Paciente)",
     "CREATE INDEX FechaHora ON Consulta (Fecha, Hora)",
+    "CREATE INDEX Poblacion ON Consulta (Sexo, Edad, Tipo, Fecha)",
     "CREATE INDEX PorDosis ON Vacunas (Vacuna, Dosis, Paciente, fecha, observaciones)",
     "CREATE INDEX idCaja ON Caja (idCaja)",
     "CREATE INDEX FechaMontos ON Caja (Fecha, Cuenta, Entrada, Salida)",
