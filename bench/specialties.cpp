@@ -4,6 +4,9 @@
 #include "platform/basic/environment.h"
 #include "platform/basic/runtime.h"
 #include "platform/forms/controls.h"
+#include "platform/forms/dbgrid.h"
+#include "specialties/cardiology/panCardioPrin.h"
+#include "specialties/cardiology/panGraMed.h"
 #include "specialties/gynaecology/panExaGineco.h"
 #include "specialties/gynaecology/panGinecoGestas.h"
 #include "specialties/risk/panEvalDeportiva.h"
@@ -12,7 +15,9 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QRadioButton>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <iostream>
@@ -29,6 +34,9 @@ namespace
 constexpr double patienceForAClick = 16, patienceForTheSportsForm = 150;
 constexpr double patienceForAGestation = 120, patienceToSave = 80, patienceForADrawing = 120;
 constexpr int controls = 40, examinations = 100000, marks = 100;
+constexpr double patienceForAHeartRecord = 50, patienceForWeights = 200;
+constexpr int yearsOfWeights = 20;
+constexpr QSize tenMegapixels(3872, 2592);
 const QString mark = u"<Medición>"_s;
 
 void click(QWidget &control)
@@ -143,6 +151,65 @@ void drawing(const QString &patient, const Report &report)
     BaseDatos.execute(u"Delete * from ConsultaGineco where Examen = '%1'"_s.arg(mark));
 }
 
+/// What a person sees after the step is the tracing, so it is painted too.
+void heart(const QString &patient, const Report &report)
+{
+    const QTemporaryDir folder;
+    QImage tracing(tenMegapixels, QImage::Format_RGB32);
+    tracing.fill(Qt::white);
+    QPainter painter(&tracing);
+    for (int x = 0; x < tracing.width(); x += 8)
+        painter.drawLine(x, 0, x + 40, tracing.height());
+    painter.end();
+    dao::Batch together(BaseDatos);
+    dao::Recordset records = BaseDatos.openRecordset(u"ConsultaCardiologia"_s);
+    for (int i = 0; i < 2; ++i) {
+        const QString file = folder.filePath(u"%1.jpg"_s.arg(i));
+        tracing.save(file);
+        records.addNew();
+        records[u"idPaciente"] = patient.toLongLong();
+        records[u"Fecha"] = basic::dateAdd(u"d", -i, basic::today());
+        records[u"Electro - Imagen"] = file;
+        records[u"Otros Torax"] = mark;
+        records.update();
+    }
+    together.commit();
+    panCardioPrin window;
+    window.setTag(patient);
+    modally([&] { window.showModal(); },
+            [&](forms::Form &form) {
+                form.grab();
+                auto &dates = in<forms::DBGrid>(form, "DBGrid1");
+                report("step to another heart record with a 10-megapixel tracing", elapsed([&] {
+                           dates.setCurrentRow(1);
+                           form.grab();
+                       }),
+                       patienceForAHeartRecord);
+                form.unload();
+            });
+    BaseDatos.execute(u"Delete * from ConsultaCardiologia where [Otros Torax] = '%1'"_s.arg(mark));
+}
+
+void weights(const QString &patient, const Report &report)
+{
+    dao::Batch together(BaseDatos);
+    dao::Recordset measures = BaseDatos.openRecordset(u"Medidas"_s);
+    for (int day = 0; day < yearsOfWeights * 365; ++day) {
+        measures.addNew();
+        measures[u"Paciente"] = patient.toLongLong();
+        measures[u"fecha"] = basic::dateAdd(u"d", -day, basic::today());
+        measures[u"Peso"] = 70000 + day % 500;
+        measures[u"Lugar de Consulta"] = mark;
+        measures.update();
+    }
+    together.commit();
+    panGraMed window;
+    window.setTag(patient);
+    report("panGraMed over 20 years weighed daily, open to first paint", untilPainted(window),
+           patienceForWeights);
+    BaseDatos.execute(u"Delete * from Medidas where [Lugar de Consulta] = '%1'"_s.arg(mark));
+}
+
 } // namespace
 
 void specialties(const Report &report)
@@ -153,6 +220,8 @@ void specialties(const Report &report)
         return;
     }
     const QString patient = patients.value(0).text();
+    heart(patient, report);
+    weights(patient, report);
     risks(patient, report);
     pregnancy(patient, report);
     drawing(patient, report);

@@ -39,6 +39,7 @@ void AbrePerinatal()
 void paediatrics::registerScreens()
 {
     ports::tomarMedidas.provide(TomarMedidas);
+    ports::calculaImc.provide(CalcularIMC);
     ports::imcNormal.provide(imcNormal);
     ports::ultimasMedidas.provide(ultimasMedidas);
     screens::add<panCrecimiento>("panCrecimiento");

@@ -1,6 +1,10 @@
 #include "specialties/register.h"
 
 #include "core/session/screens.h"
+#include "specialties/cardiology/panAnteCardio.h"
+#include "specialties/cardiology/panCardioPrin.h"
+#include "specialties/cardiology/panGraMed.h"
+#include "specialties/cardiology/panIMC.h"
 #include "specialties/gynaecology/fichaGineco.h"
 #include "specialties/gynaecology/panCalRiesgoGesta.h"
 #include "specialties/gynaecology/panGinecoExamen.h"
@@ -13,6 +17,10 @@
 
 void specialties::registerScreens()
 {
+    screens::add<panAnteCardio>("panAnteCardio");
+    screens::add<panCardioPrin>("panCardioPrin");
+    screens::add<panIMC>("panIMC");
+    screens::add<panGraMed>("panGraMed");
     screens::add<panTestCardio>("panTestCardio");
     screens::add<panRiesgoOperatorio>("panRiesgoOperatorio");
     screens::add<panEvalDeportiva>("panEvalDeportiva");

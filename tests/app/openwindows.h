@@ -50,6 +50,10 @@
 #include "practice/stock/panNueProveedor.h"
 #include "practice/tariffs/panAumento.h"
 #include "practice/tariffs/panNuePrestacion.h"
+#include "specialties/cardiology/panListaPeso.h"
+#include "specialties/cardiology/panNuePeso.h"
+#include "specialties/cardiology/panNueRegCardio.h"
+#include "specialties/cardiology/panRxDiag.h"
 #include "specialties/gynaecology/panExaGineco.h"
 #include "specialties/gynaecology/panNueExGesta.h"
 #include "specialties/gynaecology/panNueExamenGineco.h"
@@ -96,6 +100,10 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panObservaRecien"), opening<panObservaRecien>()},
         {QStringLiteral("panTomaTension"), opening<panTomaTension>()},
         {QStringLiteral("panNueVisual"), opening<panNueVisual>()},
+        {QStringLiteral("panListaPeso"), opening<panListaPeso>()},
+        {QStringLiteral("panNuePeso"), opening<panNuePeso>()},
+        {QStringLiteral("panNueRegCardio"), opening<panNueRegCardio>()},
+        {QStringLiteral("panRxDiag"), opening<panRxDiag>()},
         {QStringLiteral("panExaGineco"), opening<panExaGineco>()},
         {QStringLiteral("panExaColpo"), opening<panExaColpo>()},
         {QStringLiteral("panExaMamas"), opening<panExaMamas>()},

@@ -291,3 +291,13 @@ TEST_F(SyntheticPractice, HasACashbookAndAStockThatAgreesWithItsMovements)
                     u"MovStock.idArticulo = Articulos.idArticulo)"_s),
               0);
 }
+
+TEST_F(SyntheticPractice, FollowsAChildForItsHeart)
+{
+    const QString records = u"ConsultaCardiologia c inner join AntecedentesCardiologicos a "
+                            "on c.idpaciente = a.idPaciente"_s;
+    EXPECT_EQ(count(records), 3);
+    EXPECT_EQ(
+        count(records + u" inner join Consulta v on (v.paciente = c.idpaciente and v.Fecha = c.Fecha)"_s), 3)
+        << "at visits of its own";
+}

@@ -3,6 +3,7 @@
 #include "appointments.h"
 #include "bills.h"
 #include "births.h"
+#include "hearts.h"
 #include "cashandstock.h"
 #include "vaccines.h"
 #include "visits.h"
@@ -157,6 +158,7 @@ void fill(const Size &size)
     addBirths(patients, growth, dice);
     addPressures();
     addSightTests(patients, dice);
+    addHeartPatient(patients);
     Dice ofVaccines(size.seed); // of their own: what the others throw stays as it is
     addVaccines(patients, size.vaccinated, size.today, ofVaccines);
     Dice ofMoney(size.seed);

@@ -34,6 +34,7 @@ constexpr Comando todos[] = {
     {"Label50", "Tst Rsgo Quirúrgico", Lugar::Cardiologia, "panRiesgoOperatorio", "", "", false, "Picture19", "RiesgoQuirurgico"},
     {"Label52", "Evaluac. Deportiva", Lugar::Cardiologia, "panEvalDeportiva", "", "", false, "Picture18", "EvalDeportiva"},
     {"Label87", "I.M.C.", Lugar::Cardiologia, "panIMC", "", "", false, "Picture21", "Antropometria"},
+    {"Label45", "Evolución", Lugar::Cardiologia, "panCardioPrin"},
     {"Label89", "RX de Torax...", Lugar::Cardiologia, "panCardioPrin", "", "", false, "Picture8", "Rx de Torax"},
     {"Label26", "Tensión Arterial", Lugar::Cardiologia, "panTension", "", "Percentilación de la tensión arterial de ", false, "Picture9", "ElectroCardioGrama"},
     {"Label64", "Captura Video", Lugar::Cardiologia, "pancapVideo"},

@@ -46,6 +46,8 @@ inline Port<std::optional<qint64>(qint64 paciente)> registraConsulta;
 inline Port<void(std::optional<qint64> paciente)> otorgaTurno;
 /// Takes a patient's measures and stores them; true when they were.
 inline Port<bool(qint64 paciente)> tomarMedidas;
+/// Body-mass index of a weight in grams and a height in centimetres; 0 when either is 0 or Null.
+inline Port<double(const basic::Value &peso, const basic::Value &talla)> calculaImc;
 /// From and to what the body-mass index is normal at that age; nothing where there are no figures.
 inline Port<std::optional<std::pair<double, double>>(const QString &sexo, qint64 diasDeVida)> imcNormal;
 /// A measure ("12.200 g"; empty when it was never taken), when it was taken and its place among children of
