@@ -145,7 +145,8 @@ inline std::map<QString, Opening> windows()
     };
     for (const std::string_view name : screens::windows) {
         const auto window = screens::Window::find(QString::fromLatin1(name.data(), qsizetype(name.size())));
-        if (screens::has(*window))
+        // The backup tells what it is about before it shows: its script sees it.
+        if (screens::has(*window) && name != "panBackup")
             all[window->text()] = [window = *window] { return screens::make(window); };
     }
     return all;

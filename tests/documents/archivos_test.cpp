@@ -26,8 +26,10 @@ protected:
              "'Dra. O''Higgins', 1234.5)",
              "INSERT INTO ConsultaGineco (idpaciente, Fecha, Examen, Detalle) VALUES (1, cdate('15/03/2024'), "
              "'Colposcopía', 'Sin lesiones')",
-             "INSERT INTO Turnos (Fecha, Hora, Paciente, Dr) VALUES (cdate('15/03/2024'), '08:00', 'D''Angelo', "
-             "'Dra. O''Higgins')",
+             "INSERT INTO [Obra Social] (Descripcion) VALUES ('Plan d''Oro')",
+             "INSERT INTO Turnos (Fecha, Hora, Paciente, Dr, idProfesional, idMutual) SELECT cdate('15/03/2024'), "
+             "'08:00', 'D''Angelo', 'Dra. O''Higgins', 1, idObraSocial FROM [Obra Social] WHERE Descripcion = "
+             "'Plan d''Oro'",
              "INSERT INTO Eventos (Proceso, Usuario, Fecha, Hora, Suceso) VALUES ('IngresarATurnos', "
              "'D''Angelo', cdate('15/03/2024'), '08:20', 'INGRESO CORRECTO')",
              "INSERT INTO Recetario (idPaciente, Paciente, fecha, Receta, Dr) VALUES (1, 'D''Angelo', "
