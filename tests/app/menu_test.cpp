@@ -30,7 +30,6 @@ const std::set<std::string> notBuiltYet{
     "panImportAfiliados",
     "panMadNeurol",
     "panObras",
-    "panOft",
     "panPrestaciones",
     "panProtBase",
     "panServices",

@@ -204,6 +204,12 @@ constexpr const char *tablasDeLaboratorio[] = {
     "CREATE UNIQUE INDEX Estudio ON RangosLaboratorio (Estudio)",
 };
 
+// Motives and prescriptions that the practice writes again and again in its eye visits.
+constexpr const char *tablasDeOftalmologia[] = {
+    "CREATE TABLE AuxiliarOftalmo (Clase TEXT(4), Descripcion TEXT(255))",
+    "CREATE INDEX Clase ON AuxiliarOftalmo (Clase, Descripcion)",
+};
+
 /// A statement that has taken effect fails, and so does one that names a column that never was.
 constexpr std::initializer_list<int> yaHecho = {
     dao::Error::TableExists,   dao::Error::IndexExists,  dao::Error::FieldExists,   dao::Error::FieldNotFound,
@@ -211,7 +217,7 @@ constexpr std::initializer_list<int> yaHecho = {
     dao::Error::DuplicateKey,  dao::Error::IndexNotFound};
 
 constexpr int largoDeClave = 60;
-constexpr int largoDeResultado = 255;
+constexpr int largoDeResultado = 255, largoDeCorreccion = 255;
 
 void ejecuta(const QString &sentencia)
 {
@@ -300,6 +306,21 @@ void fraccionaPresiones()
             cambiaTipo(u"TomaPresion"_s, campo, u"DOUBLE"_s, u"[%1]"_s);
 }
 
+/// An eye visit is known by its number, and a correction may be told in many words. Numbers that nobody gave
+/// out are given out anew: no other table keeps them.
+void reparaConsultasOftalmologicas()
+{
+    const dao::TableDef visitas = BaseDatos.tableDef(u"ConsultaOftalmo");
+    if (const dao::FieldDef *id = visitas.field(u"idConsulta"); id && id->type != dao::FieldType::Counter) {
+        ejecuta(u"DROP INDEX idConsulta ON ConsultaOftalmo"_s);
+        BaseDatos.execute(u"ALTER TABLE ConsultaOftalmo DROP COLUMN idConsulta"_s);
+        BaseDatos.execute(u"ALTER TABLE ConsultaOftalmo ADD COLUMN idConsulta COUNTER"_s);
+        BaseDatos.execute(u"CREATE INDEX idConsulta ON ConsultaOftalmo (idConsulta)"_s);
+    }
+    for (int n = 1; n <= 4; ++n)
+        BaseDatos.widenText(u"ConsultaOftalmo"_s, u"Auxiliar%1"_s.arg(n), largoDeCorreccion);
+}
+
 /// Accounts of older versions have no type; they count as doctors.
 void reparaTipoDeUsuarios()
 {
@@ -334,6 +355,8 @@ void ActualizaBase()
     ejecuta(columnasDeExamenGO);
     ejecuta(tablasDeVacunas);
     ejecuta(tablasDeLaboratorio);
+    ejecuta(tablasDeOftalmologia);
+    basic::ignoring(yaHecho, reparaConsultasOftalmologicas);
     reparaTipoDeUsuarios();
     basic::ignoring(yaHecho, [] { BaseDatos.widenText(u"Usuarios"_s, u"Clave"_s, largoDeClave); });
     basic::ignoring(yaHecho, alargaResultados);
