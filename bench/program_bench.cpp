@@ -5,6 +5,7 @@
 #include "births.h"
 #include "complements.h"
 #include "controls.h"
+#include "eyes.h"
 #include "laboratory.h"
 #include "limits.h"
 #include "measure.h"
@@ -69,6 +70,7 @@ void measure()
     bench::prescriptions(report);
     bench::laboratory(report);
     bench::births(report);
+    bench::eyes(report);
     bench::controls(report);
     bench::summary(report);
     bench::vaccines(report);

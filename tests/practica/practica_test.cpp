@@ -79,7 +79,10 @@ private:
 
 TEST_F(SyntheticPractice, HasTheVisitsAndExaminationsAskedFor)
 {
-    EXPECT_EQ(count(u"Consulta"_s), visits + chronic);
+    const qint64 ofTheEyes = count(u"ConsultaOftalmo"_s);
+    EXPECT_GT(ofTheEyes, 0);
+    EXPECT_EQ(count(u"Consulta where EspecialidadPLUS = 'Oftalmología'"_s), ofTheEyes);
+    EXPECT_EQ(count(u"Consulta"_s), visits + chronic + ofTheEyes);
     EXPECT_EQ(count(u"Consulta where paciente = 1"_s), chronic);
 
     std::map<qint64, QStringList> titles;

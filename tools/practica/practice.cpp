@@ -2,6 +2,7 @@
 
 #include "appointments.h"
 #include "births.h"
+#include "eyes.h"
 #include "vaccines.h"
 #include "visits.h"
 
@@ -157,6 +158,8 @@ void fill(const Size &size)
     addSightTests(patients, dice);
     Dice ofVaccines(size.seed); // of their own: what the others throw stays as it is
     addVaccines(patients, size.vaccinated, size.today, ofVaccines);
+    Dice ofEyes(size.seed);
+    addEyeVisits(patients, size.today, ofEyes);
     QStringList names;
     for (const Doctor &doctor : doctors())
         names += doctor.name;
