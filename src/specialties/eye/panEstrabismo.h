@@ -32,7 +32,7 @@ private:
     forms::Canvas Picture1;
     forms::TextBox Text1{QStringLiteral("Text1"), 6};
     forms::TextBox Text2{QStringLiteral("Text2"), 6};
-    forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("Al &centro"),
+    forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("Al ce&ntro"),
                                   QStringLiteral("centro")};
     forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("&Cancelar"),
                                   QStringLiteral("cancelar")};

@@ -60,6 +60,7 @@ winModConsulta::winModConsulta() : Form(u"winModConsulta"_s)
                              Row{Command7, Command8, Command9, Stretch(), Command5, Command6}});
     resize(1000, 640);
     conectar();
+    antes_ = escrito();
 }
 
 Item winModConsulta::textosPropios(Textos clase, ComboBox &lista, MemoBox &memo, const QString &agregar,
