@@ -9,7 +9,9 @@
 #include "laboratory.h"
 #include "limits.h"
 #include "measure.h"
+#include "money.h"
 #include "prescriptions.h"
+#include "specialties.h"
 #include "subsystems.h"
 #include "summary.h"
 #include "vaccines.h"
@@ -73,8 +75,10 @@ void measure()
     bench::eyes(report);
     bench::controls(report);
     bench::summary(report);
+    bench::specialties(report);
     bench::vaccines(report);
     bench::complements(report);
+    bench::money(report);
     window.hide();
 }
 

@@ -4,6 +4,7 @@
 #include "core/session/register.h"
 #include "core/windows/ayuda.h"
 #include "documents/register.h"
+#include "figures/register.h"
 #include "paediatrics/register.h"
 #include "practice/register.h"
 #include "specialties/register.h"
@@ -16,5 +17,6 @@ void app::prepare()
     practice::registerScreens();
     specialties::registerScreens();
     documents::registerScreens();
+    figures::registerScreens();
     instalarAyuda();
 }

@@ -17,6 +17,7 @@
 #include "clinical/patients/hc.h"
 #include "clinical/summary/panEstadPaciente.h"
 #include "clinical/visits/controlDeSalud.h"
+#include "clinical/visits/nuevaConsulta.h"
 #include "clinical/visits/panVisitas.h"
 #include "core/session/ports.h"
 #include "core/session/screens.h"
@@ -31,6 +32,15 @@ void TablaDiagnosticos()
     panDiagnosticos diagnosticos;
     diagnosticos.soloMantenimiento();
     diagnosticos.showModal();
+}
+
+std::optional<qint64> capturaConsulta(qint64 paciente)
+{
+    const auto registrada = consultas::capturaYRegistra(QString::number(paciente));
+    if (!registrada)
+        return std::nullopt;
+    consultas::avisaExamenSinGuardar(*registrada);
+    return registrada->idConsulta;
 }
 
 } // namespace
@@ -56,6 +66,8 @@ void clinical::registerScreens()
     ports::eligePaciente.provide(EligePaciente);
     ports::buscaEnPacientes.provide(BuscaEnPacientes);
     ports::pideNombreDePaciente.provide(PideNombreDePaciente);
+    ports::abreFicha.provide(AbreFichaDe);
+    ports::registraConsulta.provide(capturaConsulta);
     ports::abreComplemento.provide(complementos::abrir);
     ports::eligeDiagnostico.provide(catalogos::eligeDiagnostico);
     ports::eligePatologia.provide(catalogos::eligePatologia);

@@ -32,10 +32,24 @@
 #include "platform/forms/controls.h"
 #include "platform/forms/dbgrid.h"
 #include "platform/forms/form.h"
+#include "practice/affiliates/panConfCamposImport.h"
+#include "practice/affiliates/panPruebaImport.h"
 #include "practice/appointments/panCambiaEstadoTurno.h"
 #include "practice/appointments/panDispTurnos.h"
 #include "practice/appointments/panNueTurno.h"
+#include "practice/billing/panFacLote.h"
+#include "practice/billing/panMuesDetFactura.h"
+#include "practice/cashbook/panCuentas.h"
+#include "practice/cashbook/panFilCaja.h"
+#include "practice/cashbook/panGastos.h"
+#include "practice/cashbook/panInfCaja.h"
+#include "practice/daybook/panEdConPrestacion.h"
 #include "practice/professionals/panNueProfesional.h"
+#include "practice/stock/panNueArticulo.h"
+#include "practice/stock/panNueMovStock.h"
+#include "practice/stock/panNueProveedor.h"
+#include "practice/tariffs/panAumento.h"
+#include "practice/tariffs/panNuePrestacion.h"
 #include "specialties/eye/impri2.h"
 #include "specialties/eye/panEstrabismo.h"
 #include "specialties/eye/panEvolOftalmo.h"
@@ -112,6 +126,26 @@ inline std::map<QString, Opening> windows()
          [] { return std::make_unique<panSelAnteFliar>(1, QStringLiteral("Papa")); }},
         {QStringLiteral("panResFliares"), [] { return std::make_unique<panResFliares>(QStringList()); }},
         {QStringLiteral("panNueProfesional"), opening<panNueProfesional>()},
+        {QStringLiteral("panGastos"), opening<panGastos>()},
+        {QStringLiteral("panFilCaja"), opening<panFilCaja>()},
+        {QStringLiteral("panInfCaja"), opening<panInfCaja>()},
+        {QStringLiteral("panCuentas"), opening<panCuentas>()},
+        {QStringLiteral("panNueArticulo"), [] { return std::make_unique<panNueArticulo>(1, std::nullopt); }},
+        {QStringLiteral("panNueProveedor"), [] { return std::make_unique<panNueProveedor>(std::nullopt); }},
+        {QStringLiteral("panNueMovStock"),
+         [] { return std::make_unique<panNueMovStock>(stock::Sentido::Entrada, 1, std::nullopt); }},
+        {QStringLiteral("panConfCamposImport"), opening<panConfCamposImport>()},
+        {QStringLiteral("panPruebaImport"),
+         [] {
+             return std::make_unique<panPruebaImport>(afiliados::Mapa(), std::vector<QStringList>(),
+                                                      QString());
+         }},
+        {QStringLiteral("panNuePrestacion"), opening<panNuePrestacion>()},
+        {QStringLiteral("panAumento"), opening<panAumento>()},
+        {QStringLiteral("panEdConPrestacion"), opening<panEdConPrestacion>()},
+        {QStringLiteral("panFacLote"),
+         [] { return std::make_unique<panFacLote>(QStringLiteral("X0001-00000001")); }},
+        {QStringLiteral("panMuesDetFactura"), [] { return std::make_unique<panMuesDetFactura>(1); }},
     };
     for (const std::string_view name : screens::windows) {
         const auto window = screens::Window::find(QString::fromLatin1(name.data(), qsizetype(name.size())));

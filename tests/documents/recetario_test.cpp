@@ -24,7 +24,7 @@ protected:
         DeliveredBase::SetUp();
         basic::setClock(QDateTime(QDate(2024, 3, 5), QTime(9, 4, 7)));
         run({"Delete * from POSRECETARIO",
-             "INSERT INTO Pacientes (Numero, [Apellido y Nombres], [Obra Social]) VALUES (7, \"D'Angelo Luz\", 'OSDE')"});
+             "INSERT INTO Pacientes (Numero, [Apellido y Nombres], [Obra Social]) VALUES (7, \"D'Angelo Luz\", 'Mutual')"});
     }
 };
 
@@ -86,7 +86,7 @@ TEST_F(Recetario, fieldsShowTheirDataAndTheirLabelsWhereThereIsNone)
     EXPECT_EQ(textoDe(u"<FECHA>"_s, 7), u"Martes 5 de Marzo de 2024"_s);
     EXPECT_EQ(textoDe(u"<HORA>"_s, 7), u"09:04:07"_s);
     EXPECT_EQ(textoDe(u"<NOMBRE>"_s, 7), u"D'Angelo Luz"_s);
-    EXPECT_EQ(textoDe(u"<OSOCIAL>"_s, 7), u"OSDE"_s);
+    EXPECT_EQ(textoDe(u"<OSOCIAL>"_s, 7), u"Mutual"_s);
     EXPECT_EQ(textoDe(u"<NOAFILIADO>"_s, 7), QString()); // a patient without a number
     EXPECT_EQ(textoDe(u"<NOMBRE>"_s, 8), u"<NOMBRE>"_s); // nobody
     EXPECT_EQ(textoDe(u"<EDAD>"_s, 7), u"<EDAD>"_s);

@@ -18,7 +18,7 @@ protected:
         DeliveredBase::SetUp();
         run({"INSERT INTO Consulta (Paciente, [nombre del paciente], Fecha, [Diagnostico 1], Dr, Mutual, "
              "idPrestacion, StatusOrden) VALUES (1, 'D''Angelo, Luz', cdate('01/03/2024'), 'Otitis', "
-             "'Dra. O''Higgins', 'OSDE', 7, 'PENDIENTE')",
+             "'Dra. O''Higgins', 'Mutual', 7, 'PENDIENTE')",
              "INSERT INTO Consulta (Paciente, [nombre del paciente], Fecha, [Diagnostico 5], Dr, Mutual) "
              "VALUES (2, 'Ñandú, Ana', cdate('31/03/2024'), 'Otitis', 'Dr. Paz', '')",
              "INSERT INTO Consulta (Paciente, [nombre del paciente], Fecha, [Diagnostico 3], Dr) "
@@ -57,12 +57,12 @@ TEST_F(SeleccionesTest, theFormulasAreThoseOfTheReportFiles)
     EXPECT_EQ(seleccion::deTurnos(march, filtros),
               u"{Turnos.Fecha} >= date(2024,3,1) and {Turnos.Fecha} <= date(2024,3,31) and  true  and  true "
               u" and  true "_s);
-    filtros = {u"Dra. O'Higgins"_s, u"D'Angelo, Luz"_s, u"OSDE"_s, 7, u"PENDIENTE"_s};
+    filtros = {u"Dra. O'Higgins"_s, u"D'Angelo, Luz"_s, u"Mutual"_s, 7, u"PENDIENTE"_s};
     EXPECT_EQ(seleccion::deAtenciones(march, filtros),
               u"{Consulta.Fecha} >= date(2024,3,1) and {Consulta.Fecha} <= date(2024,3,31) and "
               u"{Consulta.Dr} = 'Dra. O''Higgins' and {consulta.idPrestacion} = 7 and "
               u"{consulta.statusorden} = 'PENDIENTE' and {Consulta.[Nombre del Paciente]} = 'D''Angelo, Luz' "
-              u"and {Consulta.Mutual} = 'OSDE'"_s);
+              u"and {Consulta.Mutual} = 'Mutual'"_s);
 }
 
 TEST_F(SeleccionesTest, aPeriodHoldsItsFirstAndItsLastDay)
@@ -89,7 +89,7 @@ TEST_F(SeleccionesTest, eachFilterNarrowsAndApostrophesAreLetters)
     EXPECT_EQ(places(seleccion::deTurnos(march, {.paciente = injected})), QString());
     EXPECT_EQ(visits(seleccion::deAtenciones(march, {})), u"1|2|4"_s);
     EXPECT_EQ(visits(seleccion::deAtenciones(march, {.profesional = u"Dr. Paz"_s})), u"2|4"_s);
-    for (const Filtros &filtros : {Filtros{.paciente = u"D'Angelo, Luz"_s}, Filtros{.obraSocial = u"OSDE"_s},
+    for (const Filtros &filtros : {Filtros{.paciente = u"D'Angelo, Luz"_s}, Filtros{.obraSocial = u"Mutual"_s},
                                    Filtros{.idPrestacion = 7}, Filtros{.estadoDeOrden = u"PENDIENTE"_s}})
         EXPECT_EQ(visits(seleccion::deAtenciones(march, filtros)), u"1"_s);
 }

@@ -79,6 +79,20 @@ private:
     static inline std::unique_ptr<QTemporaryDir> folder_;
 };
 
+TEST_F(SyntheticPractice, BillsItsLastMonthsAtInventedPrices)
+{
+    EXPECT_EQ(count(u"Prestaciones where Descripcion NOT LIKE '*(precio inventado)'"_s), 0);
+    EXPECT_GT(count(u"Facturacion where Cobrada = TRUE"_s), 0);
+    EXPECT_GT(count(u"Facturacion where Cobrada = FALSE"_s), 0);
+    EXPECT_EQ(count(u"DetalleFacturacion"_s), count(u"Consulta where Facturada = TRUE"_s));
+    EXPECT_EQ(query(u"Select sum(Total) from Facturacion"_s)[0].value(),
+              query(u"Select sum(Importe) from DetalleFacturacion"_s)[0].value());
+    EXPECT_EQ(query(u"Select sum(Entrada) from Caja where Cuenta = 'Facturacion'"_s)[0].value(),
+              query(u"Select sum(Total) from Facturacion where Cobrada = TRUE"_s)[0].value());
+    EXPECT_EQ(
+        count(u"Consulta where TmpCheck = 'o' or (Facturada = TRUE and Fecha >= cdate('01/03/2026'))"_s), 0);
+}
+
 TEST_F(SyntheticPractice, HasTheVisitsAndExaminationsAskedFor)
 {
     const qint64 ofTheEyes = count(u"ConsultaOftalmo"_s);
@@ -273,4 +287,15 @@ TEST_F(SyntheticPractice, HasCompleteLateAndEmptyVaccinePlans)
                     "where v.fecha < p.[Fecha de Nacimiento] or v.fecha > cdate('04/03/2026')"_s),
               0);
     EXPECT_GT(lateChildren.size(), 5u);
+}
+
+TEST_F(SyntheticPractice, HasACashbookAndAStockThatAgreesWithItsMovements)
+{
+    EXPECT_GT(count(u"Caja where Entrada > 0 and Salida = 0"_s), 100);
+    EXPECT_GT(count(u"Caja where Salida > 0 and Entrada = 0"_s), 50);
+    EXPECT_EQ(count(u"Caja where Cuenta not in (Select Descripcion from Cuentas)"_s), 0);
+    EXPECT_GT(count(u"Articulos where StockActual < StockMinimo"_s), 0);
+    EXPECT_EQ(count(u"Articulos where StockActual <> (Select Sum(Cantidad) from MovStock where "
+                    u"MovStock.idArticulo = Articulos.idArticulo)"_s),
+              0);
 }

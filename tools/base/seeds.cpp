@@ -41,6 +41,7 @@ constexpr Source sources[] = {
     {"diagnosticos.csv", "DIAGPERSONALES"},
     {"tratamientos.csv", "Tratamientos"},
     {"estudios.csv", "TablaEstudios"},
+    {"cuentas.csv", "Cuentas"},
     {"recetario.csv", "POSRECETARIO"},
     {"recetario_media_hoja.csv", "POSRECETARIOMEDIA"},
 };

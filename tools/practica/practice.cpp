@@ -1,7 +1,9 @@
 #include "practice.h"
 
 #include "appointments.h"
+#include "bills.h"
 #include "births.h"
+#include "cashandstock.h"
 #include "eyes.h"
 #include "vaccines.h"
 #include "visits.h"
@@ -160,11 +162,16 @@ void fill(const Size &size)
     addVaccines(patients, size.vaccinated, size.today, ofVaccines);
     Dice ofEyes(size.seed);
     addEyeVisits(patients, size.today, ofEyes);
+    Dice ofMoney(size.seed);
+    addCash(size.today, ofMoney);
+    addStock(size.today, ofMoney);
     QStringList names;
     for (const Doctor &doctor : doctors())
         names += doctor.name;
     addAppointments(size.yearOfAppointments ? aYearOfAppointments(size.today) : tenAfternoons(size.today),
                     names, clients(patients, size.today), dice);
+    addTariffs();
+    addBills(size.today);
     BaseDatos.commitTrans();
 }
 

@@ -143,11 +143,14 @@ void NuevaFicha()
 
 void AbreFicha()
 {
-    const std::optional<qint64> numero = EligePaciente();
-    if (!numero)
-        return;
-    if (auto paciente = services::paciente(*numero))
-        abrir(ventanaDelAjuste(), *numero, (*paciente)[u"Apellido y Nombres"].text());
+    if (const std::optional<qint64> numero = EligePaciente())
+        AbreFichaDe(*numero);
+}
+
+void AbreFichaDe(qint64 numero)
+{
+    if (auto paciente = services::paciente(numero))
+        abrir(ventanaDelAjuste(), numero, (*paciente)[u"Apellido y Nombres"].text());
     else
         MODULE11::MuestraError(u"Paciente no encontrado"_s);
 }

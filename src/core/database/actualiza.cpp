@@ -151,13 +151,21 @@ constexpr const char *trasLosTamanos[] = {
 // patient alone leaves all rows of a child of many visits to be read, one over the day those of all children.
 // The reports list the visits by day and hour: unsorted, their first page waits for a million to be put in
 // order. Who is late for a vaccine is asked dose by dose of all patients at once: the index holds all that is
-// asked.
+// asked. The day book lists its visits by their hour and sums them at every arrow key; the pending ones of an
+// insurer are summed at every change: both indexes hold all that is asked. The marks of a bill are a few
+// among all visits. The cashbook adds its amounts at each step: from an index that holds them.
 constexpr const char *indicesDeVelocidad[] = {
     "CREATE INDEX PacFecha ON ExFisico (idPaciente, Fecha)",
     "CREATE INDEX idConsulta ON ExFisico (idConsulta)",
     "CREATE INDEX fechaPaciente ON Recetario (fecha, Paciente)",
     "CREATE INDEX FechaHora ON Consulta (Fecha, Hora)",
     "CREATE INDEX PorDosis ON Vacunas (Vacuna, Dosis, Paciente, fecha, observaciones)",
+    "CREATE INDEX idCaja ON Caja (idCaja)",
+    "CREATE INDEX FechaMontos ON Caja (Fecha, Cuenta, Entrada, Salida)",
+    "CREATE INDEX ArticuloFecha ON MovStock (idArticulo, Fecha)",
+    "CREATE INDEX DiaDelConsultorio ON Consulta (Fecha, Dr, Mutual, Monto, Hora)",
+    "CREATE INDEX PorFacturar ON Consulta (Dr, Mutual, Facturada, Fecha, Monto)",
+    "CREATE INDEX Marcadas ON Consulta (TmpCheck, Facturada)",
 };
 
 // The allergy record of a patient and the lines of the patient's history stand in one table: the record has
@@ -166,6 +174,23 @@ constexpr const char *antecedentesDeVariasFilas[] = {
     "DROP INDEX PrimaryKey ON [Antecedentes Personales]",
     "CREATE INDEX paciente ON [Antecedentes Personales] (paciente)",
 };
+
+// The plan of accounts is kept as the other catalogues are, by a key.
+constexpr const char *clavesDeCatalogos[] = {"ALTER TABLE Cuentas ADD COLUMN idCuenta COUNTER"};
+
+/// What a new stock begins with.
+struct Inicio {
+    const char *tabla;
+    std::initializer_list<const char *> descripciones;
+};
+constexpr std::initializer_list<const char *> tiposDeMovimiento = {
+    "Ajuste de inventario", "Compra", "Consumo", "Devolución", "Donación", "Vencimiento"};
+constexpr std::initializer_list<const char *> unidades = {"Ampolla", "Caja",  "Comprimido", "Frasco",
+                                                          "Litro",   "Metro", "Paquete",    "Unidad"};
+constexpr std::initializer_list<const char *> rubros = {"Descartables", "Instrumental", "Librería",
+                                                        "Limpieza",     "Medicamentos", "Vacunas"};
+constexpr Inicio iniciosDeStock[] = {
+    {"TipoMovimientos", tiposDeMovimiento}, {"UnidadMedidas", unidades}, {"Rubros", rubros}};
 
 constexpr const char *columnasDelResumen[] = {"ALTER TABLE Gineco ADD COLUMN Paridad TEXT(30)"};
 
@@ -321,6 +346,21 @@ void reparaConsultasOftalmologicas()
         BaseDatos.widenText(u"ConsultaOftalmo"_s, u"Auxiliar%1"_s.arg(n), largoDeCorreccion);
 }
 
+/// Once, with the tables: what a practice has taken off does not come back.
+void iniciaStock()
+{
+    for (const Inicio &inicio : iniciosDeStock)
+        for (const char *descripcion : inicio.descripciones)
+            BaseDatos.execute(u"INSERT INTO %1 (Descripcion) VALUES (%2)"_s.arg(
+                QString::fromUtf8(inicio.tabla), dao::quoted(QString::fromUtf8(descripcion))));
+}
+
+/// A stock that was never written is none.
+void reparaStock()
+{
+    ejecuta(u"UPDATE Articulos SET StockActual = 0 WHERE StockActual IS NULL"_s);
+}
+
 /// Accounts of older versions have no type; they count as doctors.
 void reparaTipoDeUsuarios()
 {
@@ -344,9 +384,14 @@ void ActualizaBase()
         alargaCampoDeTurnos(u"Coseguro"_s, 20);
         alargaCampoDeTurnos(u"Motivo"_s, 50);
     });
+    const bool stockNuevo = !BaseDatos.tableNames().contains(u"TipoMovimientos"_s, Qt::CaseInsensitive);
     ejecuta(trasLosTamanos);
+    if (stockNuevo)
+        iniciaStock();
+    reparaStock();
     ejecuta(indicesDeVelocidad);
     ejecuta(antecedentesDeVariasFilas);
+    ejecuta(clavesDeCatalogos);
     ejecuta(columnasDelResumen);
     ejecuta(columnasAjenasDePresion);
     basic::ignoring(yaHecho, liberaFichaPerinatal);

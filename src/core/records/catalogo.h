@@ -61,7 +61,7 @@ protected:
     void llenar();
     void elegirFila(qint64 id); ///< the row with this key, besides what is chosen where several may be
     void aceptar();
-    void guardar();
+    virtual void guardar(); ///< "&Guardar"
     QString nombre() const { return mDato(0).text().trimmed(); }
     forms::Item botones(forms::Item otros);
 

@@ -49,6 +49,16 @@ bool VerificaNivel(const QString &clave)
     return permitido;
 }
 
+bool TieneNivel(const QString &clave)
+{
+    if (NivelActual == 0)
+        return true;
+    dao::Recordset niveles = BaseDatos.openRecordset(u"Niveles"_s);
+    niveles.setIndex(u"nivel");
+    niveles.seek(u"=", NivelActual);
+    return !niveles.noMatch() && niveles.ordinal(clave) >= 0 && niveles[clave].truth();
+}
+
 QString entradaDeNivel(dao::Recordset &niveles)
 {
     return basic::format(niveles[u"Nivel"], u"00") + u" - "_s + niveles[u"Descripcion"].text();

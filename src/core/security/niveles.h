@@ -11,6 +11,8 @@ namespace MODULE11
 /// Whether the logged-in user's level grants the right of this key; tells and logs its own refusal, and logs
 /// the grant. Everything is granted while there are no users.
 bool VerificaNivel(const QString &clave);
+/// The same without a word, for what is shown only to those who have the right.
+bool TieneNivel(const QString &clave);
 
 /// A user of this level or above is suspended; below it lies the level that a restored user gets back.
 constexpr qint64 suspendido = 1000;

@@ -12,15 +12,17 @@ namespace
 {
 
 bool ended = false;
-std::function<void()> leaveLoop = [] { QCoreApplication::exit(0); };
+int status = 0;
+std::function<void()> leaveLoop = [] { QCoreApplication::exit(status); };
 
 } // namespace
 
-void terminar()
+void terminar(int estado)
 {
     if (ended)
         return;
     ended = true;
+    status = estado;
     BaseDatos.close();
     DescargaVentanas();
     leaveLoop();
@@ -29,6 +31,11 @@ void terminar()
 bool terminado()
 {
     return ended;
+}
+
+int estadoFinal()
+{
+    return status;
 }
 
 void setAlTerminar(std::function<void()> leave)

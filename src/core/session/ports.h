@@ -40,6 +40,8 @@ inline Port<std::optional<QString>(dao::Recordset &filas, const QString &nombre,
     buscaEnPacientes;
 /// Opens a patient's record in the window of the practice's choice.
 inline Port<void(qint64 paciente)> abreFicha;
+/// Captures a visit of a patient and records it: its `idConsulta`; nothing when it was cancelled.
+inline Port<std::optional<qint64>(qint64 paciente)> registraConsulta;
 /// Books the next appointment of a patient; without one the patient is chosen in the dialogue.
 inline Port<void(std::optional<qint64> paciente)> otorgaTurno;
 /// Takes a patient's measures and stores them; true when they were.

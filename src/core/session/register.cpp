@@ -1,4 +1,5 @@
 #include "core/session/register.h"
+#include "core/maintenance/panBackup.h"
 
 #include "core/security/panAdmAlarmas.h"
 #include "core/security/panNiveles.h"
@@ -13,6 +14,7 @@ using namespace Qt::StringLiterals;
 void core::registerScreens()
 {
     screens::add<panPersonaliza>("panPersonaliza");
+    screens::add<panBackup>("panBackup");
     screens::add<asistente>("asistente");
     screens::add<acerca>("acerca");
     screens::add<panUsuarios>("panUsuarios");

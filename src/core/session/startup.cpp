@@ -95,13 +95,11 @@ bool entrar()
     return conLaBase([&entro] { entro = ingresar(); }) && entro;
 }
 
+/// Nobody is asked for a name, and nobody watches: whoever started the program reads its status.
 void importar()
 {
-    if (screens::has("panImportAfiliados"))
-        screens::showModal("panImportAfiliados", u"AUTO"_s);
-    else
-        MuestraError(u"La importación de afiliados no está disponible en esta versión."_s);
-    terminar();
+    const bool hecho = screens::showModal("panImportAfiliados", u"AUTO"_s) == u"SI";
+    terminar(hecho ? EXIT_SUCCESS : EXIT_FAILURE);
 }
 
 void avisarPantallaChica()

@@ -75,6 +75,16 @@ panMuesCurvas::panMuesCurvas() : Form(u"panMuesCurvas"_s)
     connect(&Command4, &QPushButton::clicked, this, [this] { screens::showModal("panCurvasOMS", sujeto()); });
 }
 
+/// Called for a group, there is no patient: the measures of all are shown.
+void panMuesCurvas::load()
+{
+    if (tag() == u"VARON" || tag() == u"MUJER") {
+        Check1.setChecked(true);
+        Option2(tag() == u"VARON" ? varones : mujeres).setChecked(true);
+        forms::setTag(&Command3, tag());
+    }
+}
+
 void panMuesCurvas::activate()
 {
     if (!Check1.isChecked())

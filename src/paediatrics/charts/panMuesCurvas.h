@@ -13,6 +13,7 @@ public:
     panMuesCurvas();
 
 protected:
+    void load() override;
     void activate() override;
 
 private:

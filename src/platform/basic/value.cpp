@@ -10,7 +10,7 @@ namespace basic
 namespace
 {
 
-const QDate epoch(1899, 12, 30);
+constexpr QDate epoch = QDate::fromJulianDay(2415019); // 1899-12-30, known before anything runs
 constexpr int secondsPerDay = 86400;
 
 template <class... Cases>
