@@ -5,6 +5,7 @@
 #include "births.h"
 #include "complements.h"
 #include "controls.h"
+#include "eyes.h"
 #include "figures.h"
 #include "laboratory.h"
 #include "limits.h"
@@ -72,6 +73,7 @@ void measure()
     bench::prescriptions(report);
     bench::laboratory(report);
     bench::births(report);
+    bench::eyes(report);
     bench::controls(report);
     bench::summary(report);
     bench::specialties(report);

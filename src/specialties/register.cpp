@@ -1,10 +1,15 @@
 #include "specialties/register.h"
 
+#include "core/session/ports.h"
 #include "core/session/screens.h"
 #include "specialties/cardiology/panAnteCardio.h"
 #include "specialties/cardiology/panCardioPrin.h"
 #include "specialties/cardiology/panGraMed.h"
 #include "specialties/cardiology/panIMC.h"
+#include "specialties/eye/panOft.h"
+#include "specialties/eye/registrarOftalmo.h"
+#include "specialties/eye/visita.h"
+#include "specialties/eye/visor.h"
 #include "specialties/gynaecology/fichaGineco.h"
 #include "specialties/gynaecology/panCalRiesgoGesta.h"
 #include "specialties/gynaecology/panGinecoExamen.h"
@@ -24,6 +29,11 @@ void specialties::registerScreens()
     screens::add<panTestCardio>("panTestCardio");
     screens::add<panRiesgoOperatorio>("panRiesgoOperatorio");
     screens::add<panEvalDeportiva>("panEvalDeportiva");
+    screens::add<panOft>("panOft");
+    screens::add<pangraBioX>("pangraBioX");
+    screens::add<panGraFondoX>("panGraFondoX");
+    ports::registrarOftalmo.provide(registrarOftalmo);
+    ports::ultimaVisitaOftalmo.provide(oftalmo::ultimaVisita);
     screens::add<panAnteGineco>("panAnteGineco");
     screens::add<panGinecoObs1>("panGinecoObs1");
     screens::add<panGinecoObs2>("panGinecoObs2");

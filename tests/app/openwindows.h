@@ -54,6 +54,11 @@
 #include "specialties/cardiology/panNuePeso.h"
 #include "specialties/cardiology/panNueRegCardio.h"
 #include "specialties/cardiology/panRxDiag.h"
+#include "specialties/eye/impri2.h"
+#include "specialties/eye/panEstrabismo.h"
+#include "specialties/eye/panEvolOftalmo.h"
+#include "specialties/eye/pangraBio.h"
+#include "specialties/eye/winModConsulta.h"
 #include "specialties/gynaecology/panExaGineco.h"
 #include "specialties/gynaecology/panNueExGesta.h"
 #include "specialties/gynaecology/panNueExamenGineco.h"
@@ -104,6 +109,13 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panNuePeso"), opening<panNuePeso>()},
         {QStringLiteral("panNueRegCardio"), opening<panNueRegCardio>()},
         {QStringLiteral("panRxDiag"), opening<panRxDiag>()},
+        {QStringLiteral("winModConsulta"), opening<winModConsulta>()},
+        {QStringLiteral("pangraBio"), opening<pangraBio>()},
+        {QStringLiteral("panGraFondo"), opening<panGraFondo>()},
+        {QStringLiteral("pantextoojo"), opening<pantextoojo>()},
+        {QStringLiteral("panEstrabismo"), opening<panEstrabismo>()},
+        {QStringLiteral("panEvolOftalmo"), opening<panEvolOftalmo>()},
+        {QStringLiteral("impri2"), [] { return std::make_unique<impri2>(1, 1); }},
         {QStringLiteral("panExaGineco"), opening<panExaGineco>()},
         {QStringLiteral("panExaColpo"), opening<panExaColpo>()},
         {QStringLiteral("panExaMamas"), opening<panExaMamas>()},

@@ -164,7 +164,7 @@ TEST_F(WindowsTest, theMainWindowKeepsItsStatusAndSaysWhyAMenuDoesNothing)
     EXPECT_EQ(notes[u"Archivos"_s], QString());
     EXPECT_EQ(notes[u"Antecedentes Perinatales"_s], u"Abra una ficha"_s);
     EXPECT_EQ(notes[u"Odontología"_s], QString()) << "an item, no menu";
-    EXPECT_EQ(notes[u"Oftalmología"_s], u"Todavía no está en esta versión"_s);
+    EXPECT_EQ(notes[u"Oftalmología"_s], u"Abra una ficha"_s);
 }
 
 TEST_F(WindowsTest, passwordsAreSeenOnlyWhenAskedFor)

@@ -34,6 +34,8 @@ protected:
              "'D''Angelo', cdate('15/03/2024'), '08:20', 'INGRESO CORRECTO')",
              "INSERT INTO Recetario (idPaciente, Paciente, fecha, Receta, Dr) VALUES (1, 'D''Angelo', "
              "cdate('15/03/2024'), 'Amoxicilina <500> & reposo', 'Dra. O''Higgins')",
+             "INSERT INTO ConsultaOftalmo (paciente, Fecha, motivo, aguVisOdCCC) VALUES (1, cdate('15/03/2024'), "
+             "'Control d''anteojos & <lentes>', '8/10')",
              "INSERT INTO Prestaciones (Codigo, Descripcion, [Honorarios Especialista]) VALUES ('420101', 'Consulta "
              "d''hospital', 1234.5)",
              "INSERT INTO [Obra Social] (Descripcion) VALUES ('Mutual d''Oc')",
@@ -91,6 +93,7 @@ std::map<QString, Expected> files()
         {u"fichap2.rpt"_s, {QString(), u"Latidos cardíacos"_s}},
         {u"gineco1.rpt"_s, {u"{ConsultaGineco.idPaciente} = 1"_s, u"Colposcopía"_s}},
         {u"historia.rpt"_s, {u"{Pacientes.Numero} = 1"_s, u"Asma <leve>"_s}},
+        {u"oftalmo.rpt"_s, {u"{ConsultaOftalmo.idConsulta} = 1"_s, u"Control d'anteojos & <lentes>"_s}},
         {u"pacientes.rpt"_s, {seleccion::dePacientes(1), u"Total de pacientes: 1"_s}},
         {u"patologia.rpt"_s, {seleccion::dePatologia(march, u"Crup d'emblée"_s), u"Crup d'emblée"_s}},
         {u"prestaciones.rpt"_s, {u"{prestaciones.descripcion} <> ''"_s, u"420101\tConsulta d'hospital"_s}},

@@ -23,6 +23,8 @@ namespace
 {
 
 const QDate today(2026, 3, 4);
+/// Those of the paediatricians; the eye's have a record of their own.
+const QString paediatric = u"(EspecialidadPLUS is null or EspecialidadPLUS <> 'Oftalmología')"_s;
 constexpr int patients = 60, visits = 600, examinations = 200, chronic = 80;
 
 /// A small practice, filled once.
@@ -93,7 +95,10 @@ TEST_F(SyntheticPractice, BillsItsLastMonthsAtInventedPrices)
 
 TEST_F(SyntheticPractice, HasTheVisitsAndExaminationsAskedFor)
 {
-    EXPECT_EQ(count(u"Consulta"_s), visits + chronic);
+    const qint64 ofTheEyes = count(u"ConsultaOftalmo"_s);
+    EXPECT_GT(ofTheEyes, 0);
+    EXPECT_EQ(count(u"Consulta where EspecialidadPLUS = 'Oftalmología'"_s), ofTheEyes);
+    EXPECT_EQ(count(u"Consulta"_s), visits + chronic + ofTheEyes);
     EXPECT_EQ(count(u"Consulta where paciente = 1"_s), chronic);
 
     std::map<qint64, QStringList> titles;
@@ -109,7 +114,8 @@ TEST_F(SyntheticPractice, HasTheVisitsAndExaminationsAskedFor)
         inOrderOfTheFields += title;
 
     QDate earliestExamined = today, latestOther;
-    for (dao::Recordset rows = query(u"Select * from Consulta"_s); !rows.eof(); rows.moveNext()) {
+    for (dao::Recordset rows = query(u"Select * from Consulta where "_s + paediatric); !rows.eof();
+         rows.moveNext()) {
         const auto examined = titles.find(rows[u"idConsulta"].integer());
         if (examined != titles.end()) {
             EXPECT_EQ(examined->second, inOrderOfTheFields);
@@ -138,7 +144,8 @@ TEST_F(SyntheticPractice, SlotsResolveInTheCataloguesAndCopyTheirDoses)
         {u"Tratamiento "_s, u"idTratamiento"_s, catalogue(u"Tratamientos"_s, u"idTratamiento"_s, true)},
     };
     int treated = 0, dosed = 0;
-    for (dao::Recordset rows = query(u"Select * from Consulta"_s); !rows.eof(); rows.moveNext())
+    for (dao::Recordset rows = query(u"Select * from Consulta where "_s + paediatric); !rows.eof();
+         rows.moveNext())
         for (const auto &group : groups)
             for (int slot = 1; slot <= 5; ++slot) {
                 const QString digit = QString::number(slot);
@@ -174,8 +181,8 @@ TEST_F(SyntheticPractice, VisitsLieInTheirPatientsLives)
         const QDate end = left ? std::min(today, patient[u"FechaBaja"].date().date()) : today;
         discharged += left ? 1 : 0;
         std::set<QDate> days;
-        dao::Recordset rows = query(
-            u"Select * from Consulta where paciente = %1 order by Fecha"_s.arg(patient[u"Numero"].text()));
+        dao::Recordset rows = query(u"Select * from Consulta where paciente = %1 and %2 order by Fecha"_s.arg(
+            patient[u"Numero"].text(), paediatric));
         for (; !rows.eof(); rows.moveNext()) {
             const QDate day = rows[u"Fecha"].date().date();
             EXPECT_GT(day, birth);
@@ -204,7 +211,8 @@ TEST_F(SyntheticPractice, IsWhatAPaediatricianWouldWrite)
          !rows.eof(); rows.moveNext())
         antibiotics.insert(rows[0].integer());
     int febrile = 0, onAntibiotics = 0;
-    for (dao::Recordset rows = query(u"Select * from Consulta"_s); !rows.eof(); rows.moveNext()) {
+    for (dao::Recordset rows = query(u"Select * from Consulta where "_s + paediatric); !rows.eof();
+         rows.moveNext()) {
         bool fever = false, antibiotic = false;
         for (int slot = 1; slot <= 5; ++slot) {
             const QString digit = QString::number(slot);

@@ -94,9 +94,9 @@ TEST_F(MarcasTest, areRewrittenWholeAndByTheirExamination)
 TEST(Marcas, everySymbolHasItsPicture)
 {
     EXPECT_EQ(gineco::cuello().paleta.size(), 24u);
-    for (const gineco::Diagrama *diagrama : {&gineco::cuello(), &gineco::mamas()}) {
+    for (const dibujo::Plano *diagrama : {&gineco::cuello(), &gineco::mamas()}) {
         EXPECT_TRUE(QFile::exists(u":/gineco/%1.svg"_s.arg(diagrama->fondo)));
-        for (const gineco::Simbolo &simbolo : diagrama->paleta)
+        for (const dibujo::Simbolo &simbolo : diagrama->paleta)
             EXPECT_TRUE(QFile::exists(u":/gineco/%1.svg"_s.arg(simbolo.dibujo)))
                 << simbolo.termino.toUtf8().constData();
     }

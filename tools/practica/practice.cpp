@@ -5,6 +5,7 @@
 #include "births.h"
 #include "hearts.h"
 #include "cashandstock.h"
+#include "eyes.h"
 #include "vaccines.h"
 #include "visits.h"
 
@@ -161,6 +162,8 @@ void fill(const Size &size)
     addHeartPatient(patients);
     Dice ofVaccines(size.seed); // of their own: what the others throw stays as it is
     addVaccines(patients, size.vaccinated, size.today, ofVaccines);
+    Dice ofEyes(size.seed);
+    addEyeVisits(patients, size.today, ofEyes);
     Dice ofMoney(size.seed);
     addCash(size.today, ofMoney);
     addStock(size.today, ofMoney);

@@ -9,10 +9,10 @@
 #include "clinical/summary/tablasDelResumen.h"
 #include "clinical/summary/vacunasDelPlan.h"
 #include "clinical/visits/nuevaConsulta.h"
-#include "core/services/antecedentesPersonales.h"
 #include "core/security/alarmas.h"
 #include "core/security/eventos.h"
 #include "core/security/niveles.h"
+#include "core/services/antecedentesPersonales.h"
 #include "core/services/hallazgosPerinatales.h"
 #include "core/services/paciente.h"
 #include "core/services/panSelFecha.h"
@@ -436,6 +436,10 @@ void panEstadPaciente::abrirComando(const Comando &comando)
         llenar();
         return;
     }
+    if (QByteArrayView(comando.control) == "label84") {
+        abrirUltimaLectura();
+        return;
+    }
     const screens::Window ventana = *screens::Window::find(QString::fromLatin1(comando.ventana));
     if (QByteArrayView(comando.ventana) == "panEvalDeportiva" &&
         !clinical::tieneEvolucionCardiologica(numero())) {
@@ -458,6 +462,21 @@ void panEstadPaciente::abrirComando(const Comando &comando)
     llenar();
 }
 
+/// The reading check is a part of the last visit.
+void panEstadPaciente::abrirUltimaLectura()
+{
+    if (const auto ultima = ports::ultimaVisitaOftalmo(numero()))
+        abrirVisitaOftalmologica(*ultima);
+    else
+        MODULE11::MuestraError(u"El paciente no tiene consultas oftalmológicas."_s);
+}
+
+void panEstadPaciente::abrirVisitaOftalmologica(qint64 idConsulta)
+{
+    if (ports::registrarOftalmo && ports::registrarOftalmo(numero(), idConsulta))
+        llenar();
+}
+
 void panEstadPaciente::marcarAlarma(const Comando &comando)
 {
     if (numero() == 0)
@@ -475,7 +494,7 @@ void panEstadPaciente::nuevaConsulta()
     if (numero() == 0 || !MODULE11::VerificaNivel(u"AgregarConsultas"_s))
         return;
     if (lblEspec.caption() == u"Oftalmología") {
-        boton("label22").click();
+        abrirVisitaOftalmologica(0);
         return;
     }
     if (const auto registrada = consultas::capturaYRegistra(tag(), lblEspec.caption())) {

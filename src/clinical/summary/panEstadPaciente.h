@@ -61,6 +61,8 @@ private:
     void mostrarSemaforos();
     void mostrarVacunas();
     void mostrarOftalmologia();
+    void abrirUltimaLectura();
+    void abrirVisitaOftalmologica(qint64 idConsulta);
     void mostrarOdontologia();
     void pintarAlarmas();
 

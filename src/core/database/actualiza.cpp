@@ -152,8 +152,8 @@ constexpr const char *trasLosTamanos[] = {
 // The reports list the visits by day and hour: unsorted, their first page waits for a million to be put in
 // order. Who is late for a vaccine is asked dose by dose of all patients at once: the index holds all that is
 // asked. The day book lists its visits by their hour and sums them at every arrow key; the pending ones of an
-// insurer are summed at every change: both indexes hold all that is asked. The marks of a bill are a few among all
-// visits. The cashbook adds its amounts at each step: from an index that holds them.
+// insurer are summed at every change: both indexes hold all that is asked. The marks of a bill are a few
+// among all visits. The cashbook adds its amounts at each step: from an index that holds them.
 constexpr const char *indicesDeVelocidad[] = {
     "CREATE INDEX PacFecha ON ExFisico (idPaciente, Fecha)",
     "CREATE INDEX idConsulta ON ExFisico (idConsulta)",
@@ -230,6 +230,12 @@ constexpr const char *tablasDeLaboratorio[] = {
     "CREATE UNIQUE INDEX Estudio ON RangosLaboratorio (Estudio)",
 };
 
+// Motives and prescriptions that the practice writes again and again in its eye visits.
+constexpr const char *tablasDeOftalmologia[] = {
+    "CREATE TABLE AuxiliarOftalmo (Clase TEXT(4), Descripcion TEXT(255))",
+    "CREATE INDEX Clase ON AuxiliarOftalmo (Clase, Descripcion)",
+};
+
 /// A statement that has taken effect fails, and so does one that names a column that never was.
 constexpr std::initializer_list<int> yaHecho = {
     dao::Error::TableExists,   dao::Error::IndexExists,  dao::Error::FieldExists,   dao::Error::FieldNotFound,
@@ -237,7 +243,7 @@ constexpr std::initializer_list<int> yaHecho = {
     dao::Error::DuplicateKey,  dao::Error::IndexNotFound};
 
 constexpr int largoDeClave = 60;
-constexpr int largoDeResultado = 255;
+constexpr int largoDeResultado = 255, largoDeCorreccion = 255;
 
 void ejecuta(const QString &sentencia)
 {
@@ -326,6 +332,21 @@ void fraccionaPresiones()
             cambiaTipo(u"TomaPresion"_s, campo, u"DOUBLE"_s, u"[%1]"_s);
 }
 
+/// An eye visit is known by its number, and a correction may be told in many words. Numbers that nobody gave
+/// out are given out anew: no other table keeps them.
+void reparaConsultasOftalmologicas()
+{
+    const dao::TableDef visitas = BaseDatos.tableDef(u"ConsultaOftalmo");
+    if (const dao::FieldDef *id = visitas.field(u"idConsulta"); id && id->type != dao::FieldType::Counter) {
+        ejecuta(u"DROP INDEX idConsulta ON ConsultaOftalmo"_s);
+        BaseDatos.execute(u"ALTER TABLE ConsultaOftalmo DROP COLUMN idConsulta"_s);
+        BaseDatos.execute(u"ALTER TABLE ConsultaOftalmo ADD COLUMN idConsulta COUNTER"_s);
+        BaseDatos.execute(u"CREATE INDEX idConsulta ON ConsultaOftalmo (idConsulta)"_s);
+    }
+    for (int n = 1; n <= 4; ++n)
+        BaseDatos.widenText(u"ConsultaOftalmo"_s, u"Auxiliar%1"_s.arg(n), largoDeCorreccion);
+}
+
 /// Once, with the tables: what a practice has taken off does not come back.
 void iniciaStock()
 {
@@ -380,6 +401,8 @@ void ActualizaBase()
     ejecuta(columnasDeExamenGO);
     ejecuta(tablasDeVacunas);
     ejecuta(tablasDeLaboratorio);
+    ejecuta(tablasDeOftalmologia);
+    basic::ignoring(yaHecho, reparaConsultasOftalmologicas);
     reparaTipoDeUsuarios();
     basic::ignoring(yaHecho, [] { BaseDatos.widenText(u"Usuarios"_s, u"Clave"_s, largoDeClave); });
     basic::ignoring(yaHecho, alargaResultados);

@@ -65,6 +65,10 @@ inline Port<std::array<MedidaEnPalabras, 4>(qint64 paciente, const QString &sexo
 /// Shows the prescription sheet of a patient with a text to begin with: the prescription to keep, without the
 /// point that ends it in the file; nothing when it was closed.
 inline Port<std::optional<QString>(qint64 paciente, const QString &textoInicial)> emiteReceta;
+/// Lets a person write an eye visit of a patient, a new one with 0, and records it; true when it was.
+inline Port<bool(qint64 paciente, qint64 idConsulta)> registrarOftalmo;
+/// The last eye visit of a patient.
+inline Port<std::optional<qint64>(qint64 paciente)> ultimaVisitaOftalmo;
 /// Opens the report with pictures of a complementary examination of a patient.
 inline Port<void(qint64 paciente, const QString &examen)> abreComplemento;
 /// Lets a person choose a diagnosis from the practice's classifier.

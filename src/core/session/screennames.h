@@ -54,6 +54,8 @@ inline constexpr std::string_view windows[] = {
     "panGinecoExamen",
     "panGinecoOtros",
     "panImagenes",
+    "panGraFondoX",
+    "pangraBioX",
     "panGraMed",
     "panIMC",
     "panImportAfiliados",

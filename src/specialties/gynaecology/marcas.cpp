@@ -13,7 +13,7 @@ namespace
 {
 
 // clang-format off
-constexpr Simbolo deColposcopia[] = {
+constexpr dibujo::Simbolo deColposcopia[] = {
     {u"epitelio_maduro", u"Epitelio escamoso original maduro"},
     {u"epitelio_atrofico", u"Epitelio escamoso original atrófico"},
     {u"ectopia", u"Epitelio columnar, ectopía"},
@@ -40,7 +40,7 @@ constexpr Simbolo deColposcopia[] = {
     {u"condiloma", u"Hallazgos varios: condiloma"},
 };
 
-constexpr Simbolo deMamas[] = {
+constexpr dibujo::Simbolo deMamas[] = {
     {u"mama_nodulo", u"Nódulo sólido"},
     {u"mama_quiste", u"Quiste"},
     {u"mama_microcalcificaciones", u"Microcalcificaciones"},
@@ -60,17 +60,19 @@ constexpr Simbolo deMamas[] = {
 };
 // clang-format on
 
-constexpr Diagrama delCuello{u"cuello", u"Codificación Palmer rev. Nedalpif", deColposcopia};
-constexpr Diagrama deLasMamas{u"mamas", u"Hallazgos", deMamas};
+constexpr dibujo::Plano delCuello{u"gineco",     u"cuello",   u"Codificación Palmer rev. Nedalpif",
+                                  deColposcopia, u"icon_col", u"icono_col_posteado"};
+constexpr dibujo::Plano deLasMamas{u"gineco", u"mamas",    u"Hallazgos",
+                                   deMamas,   u"icon_col", u"icono_col_posteado"};
 
 } // namespace
 
-const Diagrama &cuello()
+const dibujo::Plano &cuello()
 {
     return delCuello;
 }
 
-const Diagrama &mamas()
+const dibujo::Plano &mamas()
 {
     return deLasMamas;
 }

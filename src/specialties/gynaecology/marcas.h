@@ -1,30 +1,14 @@
 #pragma once
 
-#include <QPointF>
-#include <QStringView>
-
-#include <span>
-#include <vector>
+#include "specialties/drawing/diagrama.h"
 
 /// The drawn findings of a gynaecological examination.
 namespace gineco
 {
 
-/// A symbol of a palette; its place in it is its index.
-struct Simbolo {
-    QStringView dibujo; ///< :/gineco/<dibujo>.svg
-    QStringView termino;
-};
-
-/// A diagram with its palette.
-struct Diagrama {
-    QStringView fondo;  ///< :/gineco/<fondo>.svg
-    QStringView titulo; ///< of the palette
-    std::span<const Simbolo> paleta;
-};
 /// The neck of the womb, with the findings in the terms of the international federation of 2011.
-const Diagrama &cuello();
-const Diagrama &mamas();
+const dibujo::Plano &cuello();
+const dibujo::Plano &mamas();
 
 /// A symbol on the diagram, by its top left corner in twips.
 struct Marca {

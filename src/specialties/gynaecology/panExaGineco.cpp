@@ -2,8 +2,6 @@
 
 #include "core/reports/papel.h"
 #include "core/services/paciente.h"
-#include "platform/forms/drag.h"
-#include "platform/forms/twips.h"
 
 using namespace Qt::StringLiterals;
 using namespace forms;
@@ -12,16 +10,9 @@ using gineco::Marca;
 namespace
 {
 
-constexpr double lado = 360; ///< of a mark, in twips
-constexpr int ladoDelIcono = 22, iconosPorRenglon = 12;
-const QString dePaleta = u"GRAPHCOL"_s;
+constexpr int iconosPorRenglon = 12;
 
 enum { detalle, resultados, observaciones };
-
-QString dibujo(QStringView nombre)
-{
-    return u":/gineco/%1.svg"_s.arg(nombre);
-}
 
 } // namespace
 
@@ -72,87 +63,26 @@ gineco::Examen panExaGineco::examen() const
 namespace gineco
 {
 
-ExamenDibujado::ExamenDibujado(const QString &ventana, const QString &titulo, const Diagrama &diagrama)
-    : panExaGineco(ventana, titulo), diagrama_(diagrama),
-      Picture1(u"Picture1"_s, Picture(dibujo(diagrama.fondo)).sizeTwips())
+ExamenDibujado::ExamenDibujado(const QString &ventana, const QString &titulo, const dibujo::Plano &plano)
+    : panExaGineco(ventana, titulo), Picture1(u"Picture1"_s, plano)
 {
-    Picture1.loadBackground(dibujo(diagrama.fondo));
-    agregarPaleta();
-    std::vector<Item> iconos;
-    for (auto &[i, icono] : icon_col)
-        iconos.emplace_back(*icono);
-    disponer(Column{Expanding(Picture1), Group(diagrama.titulo.toString(), Grid(iconosPorRenglon, iconos)),
-                    Row{Command3, Stretch()}});
-    connect(&Picture1, &Canvas::dropped, this,
-            [this](const QWidget *origen, QPointF lugar) { soltar(*origen, lugar); });
+    disponer(Column{Expanding(Picture1), Picture1.paleta(iconosPorRenglon), Row{Command3, Stretch()}});
     connect(&Picture1, &Canvas::clicked, this, [this](const QString &marca) { Picture1.remove(marca); });
     connect(&Command3, &QPushButton::clicked, this, &ExamenDibujado::imprimir);
-}
-
-/// With the keyboard a symbol goes to the middle of the diagram; from there it is moved like any other.
-void ExamenDibujado::agregarPaleta()
-{
-    int indice = 0;
-    for (const Simbolo &simbolo : diagrama_.paleta) {
-        CommandButton &icono = icon_col.add(indice, QString());
-        icono.setIcon(QIcon(dibujo(simbolo.dibujo)));
-        icono.setIconSize({ladoDelIcono, ladoDelIcono});
-        icono.setToolTip(simbolo.termino.toString());
-        icono.setAccessibleName(simbolo.termino.toString());
-        icono.setAutoDefault(false);
-        forms::setTag(&icono, dePaleta);
-        makeDraggable(icono);
-        connect(&icono, &QPushButton::clicked, this, [this, indice] {
-            const QSizeF papel = Picture1.sizeTwips();
-            poner({indice, QPointF(papel.width() - lado, papel.height() - lado) / 2});
-        });
-        ++indice;
-    }
-}
-
-/// The next free number: those of marks that were taken away are used again.
-void ExamenDibujado::poner(const Marca &marca)
-{
-    if (marca.indice < 0 || marca.indice >= static_cast<int>(diagrama_.paleta.size()))
-        return; // a symbol of another version
-    int numero = 0;
-    while (Picture1.item(u"icono_col_posteado(%1)"_s.arg(numero)))
-        ++numero;
-    const Simbolo &simbolo = diagrama_.paleta[static_cast<std::size_t>(marca.indice)];
-    CanvasItem &item = Picture1.add(u"icono_col_posteado(%1)"_s.arg(numero), marca.lugar,
-                                    PictureLook{Picture(dibujo(simbolo.dibujo)), QSizeF(lado, lado)});
-    forms::setTag(&item, QString::number(marca.indice));
-    item.setToolTip(simbolo.termino.toString());
-    item.setMovable(true);
-}
-
-/// Only the palette's symbols are taken.
-void ExamenDibujado::soltar(const QWidget &origen, QPointF lugar)
-{
-    if (forms::tag(&origen) != dePaleta)
-        return;
-    for (const auto &[indice, icono] : icon_col)
-        if (icono.get() == &origen)
-            poner({indice, lugar - QPointF(lado, lado) / 2});
-}
-
-int ExamenDibujado::indiceDe(const CanvasItem &marca)
-{
-    return forms::tag(&marca).toInt();
 }
 
 void ExamenDibujado::mostrarMarcas(const std::vector<Marca> &marcas)
 {
     Picture1.clear();
     for (const Marca &marca : marcas)
-        poner(marca);
+        Picture1.poner(marca.indice, marca.lugar);
 }
 
 std::optional<std::vector<Marca>> ExamenDibujado::marcas() const
 {
     std::vector<Marca> todas;
     for (const CanvasItem *item : Picture1.all())
-        todas.push_back({indiceDe(*item), item->pos()});
+        todas.push_back({forms::tag(item).toInt(), item->pos()});
     return todas;
 }
 

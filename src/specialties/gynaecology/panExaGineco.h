@@ -1,10 +1,6 @@
 #pragma once
 
-#include "platform/forms/canvas.h"
-#include "platform/forms/controlarray.h"
-#include "platform/forms/controls.h"
 #include "platform/forms/form.h"
-#include "platform/forms/layout.h"
 #include "specialties/gynaecology/marcas.h"
 
 #include <optional>
@@ -61,18 +57,12 @@ public:
     std::optional<std::vector<Marca>> marcas() const override;
 
 protected:
-    ExamenDibujado(const QString &ventana, const QString &titulo, const Diagrama &diagrama);
+    ExamenDibujado(const QString &ventana, const QString &titulo, const dibujo::Plano &plano);
 
 private:
-    void agregarPaleta();
-    void poner(const Marca &marca);
-    void soltar(const QWidget &origen, QPointF lugar);
     void imprimir();
-    static int indiceDe(const forms::CanvasItem &marca);
 
-    const Diagrama &diagrama_;
-    forms::Canvas Picture1;
-    forms::ControlArray<forms::CommandButton> icon_col{QStringLiteral("icon_col")};
+    dibujo::Diagrama Picture1;
     forms::CommandButton Command3{QStringLiteral("Command3"), QStringLiteral("&Imprimir"),
                                   QStringLiteral("imprimir")};
 };
