@@ -63,11 +63,24 @@ std::optional<QString> criterio(const dao::FieldDef &campo, const QString &opera
     return escrito ? std::optional(u"[%1] %2 %3"_s.arg(campo.name, operador, *escrito)) : std::nullopt;
 }
 
+/// Two criteria with nothing between them both hold; a connective that joins nothing says nothing.
 QString condicion(const QStringList &lineas)
 {
     QStringList partes;
-    for (const QString &linea : lineas)
-        partes += linea == peroNo && !partes.isEmpty() ? u"AND NOT"_s : linea;
+    QString conector;
+    for (const QString &linea : lineas) {
+        if (esConector(linea)) {
+            conector = linea;
+            continue;
+        }
+        if (partes.isEmpty())
+            partes += conector == peroNo ? peroNo : QString();
+        else
+            partes += conector == peroNo ? u"AND NOT"_s : conector.isEmpty() ? y : conector;
+        partes += linea;
+        conector.clear();
+    }
+    partes.removeAll(QString());
     return partes.join(u' ');
 }
 

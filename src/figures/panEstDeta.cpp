@@ -153,12 +153,12 @@ void panEstDeta::mostrarEstado()
 
 void panEstDeta::ejecutar()
 {
-    if (List1.count() == 0) {
+    const QString condicion = criterios::condicion(List1.lines());
+    if (condicion.isEmpty() || Combo4.currentIndex() < 0) {
         MODULE11::MuestraError(u"Debe realizar criterios de filtro"_s);
         return;
     }
-    Data1.setRecordSource(
-        u"Select * from [%1] where %2"_s.arg(Combo4.value(), criterios::condicion(List1.lines())));
+    Data1.setRecordSource(u"Select * from [%1] where %2"_s.arg(Combo4.value(), condicion));
     Data1.refresh();
     std::vector<GridColumn> columnas;
     for (const dao::FieldDef &campo : tabla_.fields())

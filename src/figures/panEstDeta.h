@@ -28,7 +28,6 @@ private:
     void ejecutar();
     void mostrarEstado();
     const dao::FieldDef *campoElegido() const;
-    QString condicion() const;
 
     forms::Data Data1{QStringLiteral("Data1"), dao::Recordset::Kind::Snapshot};
     forms::DBGrid DBGrid1{QStringLiteral("DBGrid1")};

@@ -73,7 +73,7 @@ void panPrevalencias::disponer()
     }
     lineas.push_back(Stretch());
     const Item filtros = Column{Fields{{u"Se&xo :"_s, Combo1},
-                                       {u"E&dad :"_s, Combo2},
+                                       {u"Ed&ad :"_s, Combo2},
                                        {u"&Rango :"_s, Combo3},
                                        {u"C&onsulta :"_s, Combo4}},
                                 Group(u"Prevalencia"_s, Column(cuales)), Fields{{u"&Fuente :"_s, Combo5}},
