@@ -1,4 +1,5 @@
-// What stands where on the patient's page; what it reads and does is in panEstadPaciente.cpp.
+// What stands where on the patient's page; what it reads is in panEstadPaciente.cpp,
+// what a person does on it in panEstadPacienteActos.cpp.
 #include "clinical/summary/panEstadPaciente.h"
 #include "clinical/summary/tablasDelResumen.h"
 #include "core/session/screens.h"
