@@ -138,11 +138,10 @@ void Grafico::guardar() const
 
 void Grafico::imprimir() const
 {
-    printing::Choice impresora;
-    impresora.name = figura_.titulo;
-    if (!printing::chooserDialog(impresora, u"Imprimir"_s))
+    const auto impresora = printing::chooserDialog(figura_.titulo);
+    if (!impresora)
         return;
-    printing::Job trabajo(impresora, impresora.name,
+    printing::Job trabajo(*impresora, impresora->name,
                           QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape,
                                       QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter));
     QPainter &pintor = trabajo.painter();

@@ -110,6 +110,23 @@ void addPatients(const std::vector<Patient> &patients, const Size &size, Dice &d
     }
 }
 
+struct PlannedVisit {
+    const Patient *patient;
+    int age; ///< in days
+    QDate day() const { return patient->day(age); }
+};
+
+/// As a practice enters them: day after day, which is also how their rows lie in the file.
+std::vector<PlannedVisit> byDay(const std::vector<Patient> &patients)
+{
+    std::vector<PlannedVisit> all;
+    for (const Patient &patient : patients)
+        for (const int age : patient.visits)
+            all.push_back({&patient, age});
+    std::ranges::stable_sort(all, {}, &PlannedVisit::day);
+    return all;
+}
+
 void addVisits(const std::vector<Patient> &patients, const Growth &growth, const Size &size, int visits,
                Dice &dice)
 {
@@ -121,16 +138,15 @@ void addVisits(const std::vector<Patient> &patients, const Growth &growth, const
     const qint64 all = visits + size.chronic;
     const qint64 measures = std::min<qint64>(all, size.measures > 0 ? size.measures : all / 2);
     qint64 done = 0;
-    for (const Patient &patient : patients) {
+    for (const PlannedVisit &visit : byDay(patients)) {
+        const Patient &patient = *visit.patient;
+        const QDate day = visit.day();
         const bool chronic = size.chronic > 0 && patient.number == 1;
-        for (const int age : patient.visits) {
-            const QDate day = patient.day(age);
-            const Growth::Measures taken = growth.at(age, patient.person.boy, patient.channel, dice);
-            book.add(patient, age, taken, chronic || latest.holds(day), dice);
-            if ((done + 1) * measures / all > done * measures / all) // spread evenly over the visits
-                addMeasures(measured, patient, day, taken);
-            ++done;
-        }
+        const Growth::Measures taken = growth.at(visit.age, patient.person.boy, patient.channel, dice);
+        book.add(patient, visit.age, taken, chronic || latest.holds(day), dice);
+        if ((done + 1) * measures / all > done * measures / all) // spread evenly over the visits
+            addMeasures(measured, patient, day, taken);
+        ++done;
     }
 }
 

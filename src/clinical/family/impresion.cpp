@@ -4,11 +4,10 @@
 
 void familia::imprimir(forms::Canvas &arbol, const QString &titulo, const QStringList &lineas)
 {
-    printing::Choice impresora;
-    if (!printing::defaultChoice(impresora))
+    const auto impresora = printing::defaultChoice(titulo);
+    if (!impresora)
         return;
-    informes::Papel papel(impresora, titulo);
-    papel.escribir(titulo, 14, true);
+    informes::Papel papel(*impresora);
     papel.dibujar(arbol);
     for (const QString &linea : lineas)
         papel.escribir(linea, 10);

@@ -163,11 +163,10 @@ void panEditHC::abrirOtra()
 
 void panEditHC::imprimir()
 {
-    printing::Choice impresora;
-    impresora.name = windowTitle();
-    if (!printing::defaultChoice(impresora))
+    const auto impresora = printing::defaultChoice(windowTitle());
+    if (!impresora)
         return;
-    printing::Document documento(impresora, impresora.name);
+    printing::Document documento(*impresora, impresora->name);
     documento.setFont(fuenteElegida());
     documento.print(u"Fecha de impresión : "_s + basic::format(basic::today(), u"dd/mm/yyyy"));
     documento.print(u"----------------------------------"_s);

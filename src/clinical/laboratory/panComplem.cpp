@@ -209,15 +209,14 @@ void panComplem::agregarHistoria()
 
 void panComplem::imprimir()
 {
-    printing::Choice impresora;
-    impresora.name = lblPaciente.caption();
-    if (!printing::chooserDialog(impresora, u"Imprimir"_s))
+    const auto impresora = printing::chooserDialog(lblPaciente.caption());
+    if (!impresora)
         return;
     QStringList archivos;
     for (const CasillaDeImagen *casilla : casillas_)
         if (casilla->existe())
             archivos += casilla->archivo();
-    complementos::imprimir(*RT1.document(), archivos, impresora);
+    complementos::imprimir(*RT1.document(), archivos, *impresora);
 }
 
 // --- the row of pictures ---

@@ -175,9 +175,10 @@ void panNuePaciente::aceptar()
 
 void panNuePaciente::imprimir()
 {
-    printing::Choice impresora;
-    impresora.name = nombre() + u" - "_s + windowTitle();
-    if (!MODULE11::Pregunta(u"Imprime la ficha"_s) || !printing::defaultChoice(impresora))
+    if (!MODULE11::Pregunta(u"Imprime la ficha"_s))
+        return;
+    const auto impresora = printing::defaultChoice(nombre() + u" - "_s + windowTitle());
+    if (!impresora)
         return;
     const QList<QWidget *> adornos = {&Command1, &Command2, &Command4, &Command5};
     for (QWidget *adorno : adornos)
@@ -185,7 +186,7 @@ void panNuePaciente::imprimir()
     const QImage imagen = grab().toImage();
     for (QWidget *adorno : adornos)
         adorno->show();
-    printing::Document documento(impresora, impresora.name);
+    printing::Document documento(*impresora, impresora->name);
     documento.paintPage(imagen);
     documento.endDoc();
 }

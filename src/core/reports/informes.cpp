@@ -70,12 +70,11 @@ void muestra(const QString &archivo, const QString &seleccion, const reports::Pa
 bool imprime(const QString &archivo, const QString &seleccion, const reports::Parameters &datos)
 {
     reports::Report aImprimir = informe(archivo, seleccion, datos);
-    printing::Choice eleccion;
-    eleccion.name = aImprimir.title();
-    if (!printing::defaultChoice(eleccion))
+    const auto eleccion = printing::defaultChoice(aImprimir.title());
+    if (!eleccion)
         return false;
     forms::Progress avance(u"Se imprime la página"_s);
-    return reports::print(aImprimir, eleccion, [&](qint64 pagina) { return avance.tell(pagina + 1); });
+    return reports::print(aImprimir, *eleccion, [&](qint64 pagina) { return avance.tell(pagina + 1); });
 }
 
 void escribePdf(const QString &archivo, const QString &seleccion, const QString &destino)

@@ -190,12 +190,11 @@ void panCrystal::buscar()
 
 void panCrystal::imprimir()
 {
-    printing::Choice eleccion;
-    eleccion.name = informe.title();
-    if (!printing::chooserDialog(eleccion, informe.title()))
+    const auto eleccion = printing::chooserDialog(informe.title(), informe.title());
+    if (!eleccion)
         return;
     forms::Progress avance(u"Se imprime la página"_s);
-    reports::print(informe, eleccion, [&](qint64 pagina) { return avance.tell(pagina + 1); });
+    reports::print(informe, *eleccion, [&](qint64 pagina) { return avance.tell(pagina + 1); });
 }
 
 #include "moc_panCrystal.cpp"

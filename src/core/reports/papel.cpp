@@ -14,16 +14,18 @@ namespace
 {
 
 constexpr double twipsPorPunto = 20;
+constexpr int puntosDelTitulo = 14;
 constexpr double borde = 850, separacion = 300; // twips
 
 } // namespace
 
-Papel::Papel(const printing::Choice &impresora, const QString &titulo)
-    : trabajo_(impresora, titulo, QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}))
+Papel::Papel(const printing::Choice &impresora)
+    : trabajo_(impresora, impresora.name, QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}))
 {
     const QSizeF hoja = QPageSize(QPageSize::A4).sizePoints() * twipsPorPunto;
     lugar_ = QRectF(borde, borde, hoja.width() - 2 * borde, hoja.height() - 2 * borde);
     abajo_ = lugar_.top();
+    escribir(impresora.name, puntosDelTitulo, true);
 }
 
 /// To be restored by whoever asks for it.

@@ -12,12 +12,12 @@ class Canvas;
 namespace informes
 {
 
-/// What a window prints of itself on upright A4 paper, filled from the top: texts and drawings, over as many
-/// pages as they take. Throws basic::Error when the printer refuses.
+/// What a window prints of itself on upright A4 paper, filled from the top: the document's name as its title,
+/// texts and drawings, over as many pages as they take. Throws basic::Error when the printer refuses.
 class Papel
 {
 public:
-    Papel(const printing::Choice &impresora, const QString &titulo);
+    explicit Papel(const printing::Choice &impresora);
 
     /// Wraps at the margin.
     void escribir(const QString &texto, int puntos, bool negrita = false);

@@ -324,13 +324,13 @@ void panConfigReceta::copiarDe(const QString &tabla)
 /// The sheet as it stands, on paper of its size: window, scroll and zoom stay as they are.
 void panConfigReceta::imprimirPrueba()
 {
-    printing::Choice impresora;
-    if (!printing::defaultChoice(impresora))
+    const auto impresora = printing::defaultChoice(u"Prueba de la receta"_s);
+    if (!impresora)
         return;
     CanvasItem &imagen = Picture2.imagen();
     imagen.setVisible(!forms::tag(&imagen).isEmpty()); // the frame to click on is none of the sheet's
     const QPageLayout hoja(QPageSize(Picture2.papel().pagina), QPageLayout::Portrait, {});
-    printing::Job trabajo(impresora, u"Prueba de la receta"_s, hoja);
+    printing::Job trabajo(*impresora, impresora->name, hoja);
     const double puntos = trabajo.device().logicalDpiX() / 1440.0;
     Picture2.paint(trabajo.painter(), QRectF(QPointF(), Picture2.sizeTwips() * puntos));
     trabajo.finish();

@@ -134,16 +134,15 @@ void panCurvasOMS::dibujarFila(const charts::WhoChart &chart, dao::Recordset &me
 
 void panCurvasOMS::imprimir()
 {
-    printing::Choice impresora;
-    impresora.name = services::nombreDePaciente(tag()) + u" - "_s + windowTitle();
-    if (!printing::defaultChoice(impresora))
+    const auto impresora = printing::defaultChoice(services::nombreDePaciente(tag()) + u" - "_s + windowTitle());
+    if (!impresora)
         return;
     QImage imagen(Image1.size() * nitidez, QImage::Format_RGB32);
     imagen.setDevicePixelRatio(nitidez);
     QPainter painter(&imagen);
     Image1.render(&painter);
     painter.end();
-    printing::Document documento(impresora, impresora.name, true);
+    printing::Document documento(*impresora, impresora->name, true);
     documento.print(lblPaciente.caption());
     documento.print(Combo1.value() + (chkCorregida.isChecked() ? u" - edad corregida"_s : QString()));
     documento.paintPicture(imagen, Image1.sizeTwips().width(), Image1.sizeTwips().height());

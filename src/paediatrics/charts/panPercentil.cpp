@@ -184,11 +184,10 @@ void panPercentil::dibujarTodos()
 
 void panPercentil::imprimir()
 {
-    printing::Choice impresora;
-    impresora.name = windowTitle();
-    if (!printing::chooserDialog(impresora, u"Imprimir"_s))
+    const auto impresora = printing::chooserDialog(windowTitle());
+    if (!impresora)
         return;
-    printing::Document documento(impresora, impresora.name);
+    printing::Document documento(*impresora, impresora->name);
     documento.setFont(QFont(u"Arial"_s, 15));
     documento.print((chart_.printsDoctor ? u"Dr. "_s : QString()) + MODULE11::DrActual);
     documento.setFont(QFont(u"Arial"_s, 10));

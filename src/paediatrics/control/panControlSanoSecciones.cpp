@@ -271,12 +271,11 @@ Item panControlSano::personales()
 /// What the screen shows, section by section; an empty one stays out.
 void panControlSano::imprimir()
 {
-    printing::Choice impresora;
-    if (!printing::defaultChoice(impresora))
-        return;
     const QString titulo = u"Control de Salud de %1"_s.arg(nombre_);
-    informes::Papel papel(impresora, titulo);
-    papel.escribir(titulo, 14, true);
+    const auto impresora = printing::defaultChoice(titulo);
+    if (!impresora)
+        return;
+    informes::Papel papel(*impresora);
     papel.escribir(u"%1   %2"_s.arg(basic::dateText(mFecha.value()), Label1.caption()), 11);
     QStringList medidas;
     for (const auto &[i, etiqueta] : lblMedida)

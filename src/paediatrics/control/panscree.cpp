@@ -34,12 +34,11 @@ void panscree::guardar()
 
 void panscree::imprimir()
 {
-    printing::Choice impresora;
-    if (!printing::defaultChoice(impresora))
-        return;
     const QString titulo = windowTitle() + u" de "_s + lblPaciente.caption();
-    informes::Papel papel(impresora, titulo);
-    papel.escribir(titulo, 14, true);
+    const auto impresora = printing::defaultChoice(titulo);
+    if (!impresora)
+        return;
+    informes::Papel papel(*impresora);
     papel.escribir(panel_.enPalabras().join(u'\n'), 11);
     papel.terminar();
 }

@@ -91,12 +91,11 @@ void RenglonesDelPaciente::agregar()
 void RenglonesDelPaciente::imprimir()
 {
     Data1.updateRecord();
-    printing::Choice impresora;
-    if (!printing::defaultChoice(impresora))
-        return;
     const QString titulo = u"%1 : %2"_s.arg(windowTitle(), lblPaciente.caption());
-    informes::Papel papel(impresora, titulo);
-    papel.escribir(titulo, 14, true);
+    const auto impresora = printing::defaultChoice(titulo);
+    if (!impresora)
+        return;
+    informes::Papel papel(*impresora);
     for (dao::Recordset fila =
              MODULE11::BaseDatos.openRecordset(Data1.recordSource(), dao::Recordset::Kind::Snapshot);
          !fila.eof(); fila.moveNext())

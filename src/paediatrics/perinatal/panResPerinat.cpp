@@ -120,11 +120,10 @@ void panResPerinat::abrirFicha()
 /// The sentences are those of the record as it is kept.
 void panResPerinat::imprimir()
 {
-    printing::Choice impresora;
-    if (!printing::defaultChoice(impresora))
+    const auto impresora = printing::defaultChoice(windowTitle());
+    if (!impresora)
         return;
-    informes::Papel papel(impresora, windowTitle());
-    papel.escribir(windowTitle(), 14, true);
+    informes::Papel papel(*impresora);
     for (const auto &[titulo, lineas] : {std::pair{u"Lo que dice la ficha"_s, List3.lines()},
                                          {u"Patologías perinatales"_s, patologias_.lineas()},
                                          {u"Diagnósticos del recien nacido"_s, diagnosticos_.lineas()}}) {

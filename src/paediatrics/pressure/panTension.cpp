@@ -179,12 +179,11 @@ void panTension::imprimir()
 {
     if (!MODULE11::Pregunta(u"Imprime las tablas de percentilación de tensión del paciente"_s))
         return;
-    printing::Choice impresora;
-    if (!printing::defaultChoice(impresora))
-        return;
     const QString titulo = u"Percentilación de la tensión arterial de "_s + lblPaciente.caption();
-    informes::Papel papel(impresora, titulo);
-    papel.escribir(titulo, 14, true);
+    const auto impresora = printing::defaultChoice(titulo);
+    if (!impresora)
+        return;
+    informes::Papel papel(*impresora);
     for (auto [curva, nombre] : {std::pair{&Picture1, u"Mínima"_s}, {&Picture2, u"Máxima"_s}}) {
         papel.escribir(nombre, 11, true);
         papel.dibujar(*curva);

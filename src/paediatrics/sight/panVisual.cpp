@@ -105,12 +105,11 @@ void panVisual::borrar()
 
 void panVisual::imprimir()
 {
-    printing::Choice impresora;
-    if (!printing::defaultChoice(impresora))
-        return;
     const QString titulo = u"Agudeza visual de "_s + lblPaciente.caption();
-    informes::Papel papel(impresora, titulo);
-    papel.escribir(titulo, 14, true);
+    const auto impresora = printing::defaultChoice(titulo);
+    if (!impresora)
+        return;
+    informes::Papel papel(*impresora);
     papel.escribir(SSTab1.tabText(SSTab1.currentIndex()), 11);
     papel.dibujar(Picture1);
     papel.terminar();

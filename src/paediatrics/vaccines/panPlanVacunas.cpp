@@ -289,12 +289,11 @@ void panPlanVacunas::imprimir()
 {
     if (const QStringList faltan = vacunas::dosisQueFaltan(planilla_, *paciente_); !faltan.isEmpty())
         MODULE11::Aviso(avisoDeFaltantes(faltan));
-    printing::Choice impresora;
-    impresora.name = windowTitle();
-    if (!printing::chooserDialog(impresora, u"Imprimir"_s))
+    const auto impresora = printing::chooserDialog(windowTitle());
+    if (!impresora)
         return;
     basic::ignoring({errorDeImpresora},
-                    [&] { vacunas::imprimirCertificado(hoja, windowTitle(), impresora); });
+                    [&] { vacunas::imprimirCertificado(hoja, windowTitle(), *impresora); });
 }
 
 #include "moc_panPlanVacunas.cpp"

@@ -66,8 +66,9 @@ QString askForPdf(const QString &name)
 
 } // namespace
 
-bool chooserDialog(Choice &choice, const QString &title)
+std::optional<Choice> chooserDialog(const QString &document, const QString &title)
 {
+    Choice choice{.name = document};
     QDialog dialogue(QApplication::activeModalWidget() ? QApplication::activeModalWidget()
                                                        : QApplication::activeWindow());
     dialogue.setWindowTitle(title);
@@ -75,7 +76,7 @@ bool chooserDialog(Choice &choice, const QString &title)
     auto *printers = new QComboBox;
     printers->setObjectName(QStringLiteral("Impresoras"));
     printers->addItems(QPrinterInfo::availablePrinterNames());
-    printers->setCurrentText(choice.printer.isEmpty() ? QPrinterInfo::defaultPrinterName() : choice.printer);
+    printers->setCurrentText(QPrinterInfo::defaultPrinterName());
     printers->addItem(QStringLiteral("Archivo PDF"));
     auto *copies = new QSpinBox;
     copies->setObjectName(QStringLiteral("Copias"));
@@ -94,25 +95,24 @@ bool chooserDialog(Choice &choice, const QString &title)
     dialogue.setMinimumWidth(380);
 
     if (dialogue.exec() != QDialog::Accepted)
-        return false;
+        return std::nullopt;
     choice.copies = copies->value();
     const bool pdf = printers->currentIndex() == printers->count() - 1;
     choice.printer = pdf ? QString() : printers->currentText();
-    choice.file.clear();
-    if (pdf && documentFolder().isEmpty())
-        choice.file = askForPdf(choice.name);
-    return !pdf || !choice.file.isEmpty() || !documentFolder().isEmpty();
+    if (!pdf || !documentFolder().isEmpty())
+        return choice;
+    choice.file = askForPdf(document);
+    return choice.file.isEmpty() ? std::nullopt : std::optional(choice);
 }
 
-bool defaultChoice(Choice &choice)
+std::optional<Choice> defaultChoice(const QString &document)
 {
-    choice = {{}, {}, 1, choice.name};
-    if (!documentFolder().isEmpty())
-        return true;
-    choice.printer = QPrinterInfo::defaultPrinterName();
-    if (choice.printer.isEmpty())
-        choice.file = askForPdf(choice.name);
-    return !choice.printer.isEmpty() || !choice.file.isEmpty();
+    Choice choice{.printer = documentFolder().isEmpty() ? QPrinterInfo::defaultPrinterName() : QString(),
+                  .name = document};
+    if (!choice.printer.isEmpty() || !documentFolder().isEmpty())
+        return choice;
+    choice.file = askForPdf(document);
+    return choice.file.isEmpty() ? std::nullopt : std::optional(choice);
 }
 
 struct Job::Private {

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 class QPagedPaintDevice;
 class QPainter;
@@ -15,18 +16,19 @@ class QPainter;
 namespace printing
 {
 
-/// What the person chose in the printer dialogue.
+/// Where a document is printed.
 struct Choice {
-    QString printer; ///< a system printer's name; empty for a PDF file
-    QString file;    ///< the PDF file
+    QString printer{}; ///< a system printer's name; empty for a PDF file
+    QString file{};    ///< the PDF file
     int copies = 1;
     QString name{}; ///< what the document is called: proposed for the file
 };
 
-/// The printer dialogue: "Imprimir" and "Cancelar"; false when cancelled.
-bool chooserDialog(Choice &choice, const QString &title);
-/// The default printer, or a PDF file asked for when there is none; false when the person cancels that.
-bool defaultChoice(Choice &choice);
+/// The printer dialogue, "Imprimir" and "Cancelar", for a document of that name; nothing when cancelled.
+std::optional<Choice> chooserDialog(const QString &document,
+                                    const QString &title = QStringLiteral("Imprimir"));
+/// The default printer, or a PDF file asked for when there is none; nothing when the person cancels that.
+std::optional<Choice> defaultChoice(const QString &document);
 
 /// Pages being printed, of a size of their own. A file gets its name when it is finished: one that is left
 /// unfinished, or that the disk does not take whole, is not there. Throws basic::Error when the printer or

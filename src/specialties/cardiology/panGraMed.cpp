@@ -75,9 +75,8 @@ void panGraMed::lista()
 void panGraMed::imprimir()
 {
     const QString titulo = u"Evolución de peso del paciente "_s + services::nombreDePaciente(tag());
-    printing::Choice impresora;
-    impresora.name = titulo;
-    if (!printing::chooserDialog(impresora, u"Imprimir"_s))
+    const auto impresora = printing::chooserDialog(titulo);
+    if (!impresora)
         return;
     const QString archivo = basic::programFile(u"imagenPeso.bmp"_s);
     QFile::remove(basic::programFile(u"imagenpeso.bmp"_s));
@@ -85,7 +84,7 @@ void panGraMed::imprimir()
         MODULE11::MuestraError(u"No se pudo escribir el archivo "_s + archivo);
         return;
     }
-    printing::Document hoja(impresora, titulo);
+    printing::Document hoja(*impresora, titulo);
     QFont letra;
     letra.setPointSize(14);
     hoja.setFont(letra);

@@ -63,11 +63,10 @@ impri2::impri2(qint64 paciente, qint64 idConsulta) : Form(u"impri2"_s), paciente
 
 void impri2::imprimir()
 {
-    printing::Choice impresora;
-    impresora.name = u"Anteojos de "_s + Label1.caption();
-    if (!printing::defaultChoice(impresora))
+    const auto impresora = printing::defaultChoice(u"Anteojos de "_s + Label1.caption());
+    if (!impresora)
         return;
-    printing::Document papel(impresora, impresora.name);
+    printing::Document papel(*impresora, impresora->name);
     const QString raya(largoDeRaya, u'_');
     papel.setFont(QFont(u"Times New Roman"_s, puntosDelTitulo));
     papel.print(Label2.caption());

@@ -89,12 +89,10 @@ std::optional<std::vector<Marca>> ExamenDibujado::marcas() const
 /// The diagram with what each symbol on it means, and the texts.
 void ExamenDibujado::imprimir()
 {
-    printing::Choice impresora;
-    impresora.name = windowTitle();
-    if (!printing::chooserDialog(impresora, u"Imprimir"_s))
+    const auto impresora = printing::chooserDialog(windowTitle());
+    if (!impresora)
         return;
-    informes::Papel papel(impresora, impresora.name);
-    papel.escribir(windowTitle(), 14, true);
+    informes::Papel papel(*impresora);
     papel.escribir(services::nombreDePaciente(tag()), 11, true);
     papel.dibujar(Picture1);
     QStringList terminos;

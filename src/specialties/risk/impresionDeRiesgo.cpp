@@ -13,12 +13,10 @@ namespace riesgo
 void imprimir(const forms::Form &ventana, const QStringList &respuestas, const QString &total,
               const QString &consejo)
 {
-    printing::Choice impresora;
-    impresora.name = ventana.windowTitle();
-    if (!printing::chooserDialog(impresora, u"Imprimir"_s))
+    const auto impresora = printing::chooserDialog(ventana.windowTitle());
+    if (!impresora)
         return;
-    informes::Papel papel(impresora, impresora.name);
-    papel.escribir(ventana.windowTitle(), 14, true);
+    informes::Papel papel(*impresora);
     if (const QString nombre = services::nombreDePaciente(ventana.tag()); !nombre.isEmpty())
         papel.escribir(nombre, 11, true);
     papel.escribir(basic::format(basic::today(), u"dd/mm/yyyy"), 9);

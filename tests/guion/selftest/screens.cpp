@@ -191,10 +191,10 @@ void panPreguntas::work()
 
 void panPreguntas::print()
 {
-    printing::Choice choice;
-    if (!printing::chooserDialog(choice, u"Imprime"_s))
+    const auto choice = printing::chooserDialog(u"Prueba"_s, u"Imprime"_s);
+    if (!choice)
         return;
-    printing::Document document(choice, u"Prueba"_s);
+    printing::Document document(*choice, choice->name);
     document.print(u"Señor Núñez\nsegunda línea"_s);
     document.newPage();
     document.print(u"otra hoja"_s);
