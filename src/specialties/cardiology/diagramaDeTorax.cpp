@@ -20,6 +20,7 @@ namespace
 constexpr int noSePuedeUsar = 75;
 constexpr int blancosDeFlecha = 184, blancosDeTexto = 10;
 constexpr qsizetype despuesDelLugar = 14;
+constexpr int cifrasDelNumero = 12;
 
 QString conCeros(double numero, int cifras)
 {
@@ -40,8 +41,13 @@ QString renglon(const Elemento &e)
 
 QString archivo(qint64 paciente, basic::Date fecha, QStringView extension)
 {
-    return u"%1"_s.arg(paciente, 12, 10, QChar(u'0')) + basic::format(fecha, u"ddmmyyyy") +
+    return u"%1"_s.arg(paciente, cifrasDelNumero, 10, QChar(u'0')) + basic::format(fecha, u"ddmmyyyy") +
            extension.toString();
+}
+
+qint64 pacienteDe(const QString &archivo)
+{
+    return archivo.left(cifrasDelNumero).toLongLong();
 }
 
 QString enTexto(const std::vector<Elemento> &elementos)

@@ -28,6 +28,9 @@ struct Elemento {
 /// day share it.
 QString archivo(qint64 paciente, basic::Date fecha, QStringView extension);
 
+/// The number of the patient that a file of a record bears.
+qint64 pacienteDe(const QString &archivo);
+
 QString enTexto(const std::vector<Elemento> &elementos);
 /// Lines that are no element of this version are passed over.
 std::vector<Elemento> deTexto(const QString &texto);

@@ -1,19 +1,16 @@
 #pragma once
 
-#include "platform/forms/canvas.h"
-#include "platform/forms/controlarray.h"
-#include "platform/forms/controls.h"
-#include "platform/forms/layout.h"
 #include "specialties/cardiology/diagramaDeTorax.h"
+#include "specialties/drawing/diagrama.h"
 
 /// The editor of a chest diagram: arrows and texts of a palette dropped on the picture, moved on it, and
 /// taken away with a click.
-class DibujoDeTorax : public QObject
+class DibujoDeTorax : public dibujo::Diagrama
 {
     Q_OBJECT
 public:
-    /// `fondo` names the picture: :/corazon/<fondo>.svg
-    explicit DibujoDeTorax(const QString &fondo);
+    enum class Fondo { Torax, Radiografia };
+    explicit DibujoDeTorax(Fondo fondo);
 
     /// The picture above its palette.
     forms::Item disponer();
@@ -23,18 +20,12 @@ public:
     /// Changed since it was shown or since `guardado()`.
     bool cambiado() const { return cambiado_; }
     void guardado() { cambiado_ = false; }
-    void habilitar(bool habilitado);
-    forms::Canvas &lienzo() { return Picture1; }
 
 private:
-    void agregarPaleta();
-    void usar(const QWidget &origen, QPointF lugar);
-    void poner(const torax::Elemento &elemento);
+    void ponerFlecha(int simbolo, QPointF lugar);
     void ponerTexto(QPointF lugar);
-    std::optional<int> indiceLibre(QStringView nombre) const;
+    bool hayLugarPara(QStringView nombre, const QString &aviso) const;
 
-    forms::Canvas Picture1;
-    forms::ControlArray<forms::CommandButton> Image2{QStringLiteral("Image2")}; ///< arrows, by direction
     forms::CommandButton Label5{QStringLiteral("Label5"), QStringLiteral("&Texto")};
     bool cambiado_ = false;
 };

@@ -11,6 +11,7 @@
 #include "specialties/cardiology/cambios.h"
 #include "specialties/cardiology/panNueRegCardio.h"
 #include "specialties/cardiology/panRxDiag.h"
+#include "specialties/drawing/hoja.h"
 
 #include <QDir>
 #include <QFile>
@@ -221,7 +222,9 @@ Item panCardioPrin::diagrama()
     lblAviso.setCaption(
         u"Recuerde presionar el botón Guardar Cambios luego de trabajar con el diagrama gráfico."_s);
     lblAviso.setWordWrap(true);
-    return Column{Expanding(dibujo_.disponer()), lblAviso};
+    return Column{Expanding(dibujo_.disponer()),
+                  Row{Expanding(lblAviso), rowCommand(u"Command5"_s, u"I&mprimir..."_s, u"imprimir"_s,
+                                                      [this] { imprimirDiagrama(); })}};
 }
 
 void panCardioPrin::activate()
@@ -376,6 +379,12 @@ void panCardioPrin::guardarDiagramas()
     pendientes_.erase(mostrada_);
     archivoMostrado_ = archivo;
     dibujo_.guardado();
+}
+
+void panCardioPrin::imprimirDiagrama()
+{
+    dibujo::imprimir(dibujo_, u"%1 del %2"_s.arg(windowTitle(), basic::dateText(mFecha.value())),
+                     lblPaciente.caption());
 }
 
 bool panCardioPrin::queryUnload()

@@ -39,6 +39,7 @@ private:
     void evaluacionDeportiva();
     void guardar();
     void guardarDiagramas();
+    void imprimirDiagrama();
     bool hayDiagramasSinGuardar() const { return !pendientes_.empty() || dibujo_.cambiado(); }
     void apartarDiagrama();
     void mostrarDiagrama();
@@ -62,5 +63,5 @@ private:
     Trazado Image3{QStringLiteral("Image3")};
     forms::ListBox List1{QStringLiteral("List1")}; ///< what changed since the record before
     forms::Canvas figura_;
-    DibujoDeTorax dibujo_{QStringLiteral("torax")};
+    DibujoDeTorax dibujo_{DibujoDeTorax::Fondo::Torax};
 };

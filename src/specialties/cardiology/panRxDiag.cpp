@@ -1,7 +1,9 @@
 #include "specialties/cardiology/panRxDiag.h"
 
+#include "core/services/paciente.h"
 #include "platform/basic/environment.h"
 #include "platform/forms/boxes.h"
+#include "specialties/drawing/hoja.h"
 
 using namespace Qt::StringLiterals;
 using namespace forms;
@@ -9,16 +11,18 @@ using namespace forms;
 panRxDiag::panRxDiag() : Form(u"panRxDiag"_s)
 {
     setWindowTitle(u"Diagrama Gráfico Rx"_s);
-    setContents(this, Column{Expanding(dibujo_.disponer()), Row{Command1, Stretch(), Command2}});
+    setContents(this, Column{Expanding(dibujo_.disponer()), Row{Command1, Command3, Stretch(), Command2}});
     resize(640, 620);
     connect(&Command1, &QPushButton::clicked, this, &panRxDiag::guardar);
+    connect(&Command3, &QPushButton::clicked, this, &panRxDiag::imprimir);
     connect(&Command2, &QPushButton::clicked, this, &panRxDiag::unload);
 }
 
 /// What is being drawn is not read over when another window gives the way back.
 void panRxDiag::activate()
 {
-    Command1.setEnabled(!tag().isEmpty());
+    for (CommandButton *boton : {&Command1, &Command3})
+        boton->setEnabled(!tag().isEmpty());
     if (leido_ || tag().isEmpty())
         return;
     leido_ = true;
@@ -29,6 +33,12 @@ void panRxDiag::guardar()
 {
     torax::guardar(basic::programFile(tag()), dibujo_.elementos());
     dibujo_.guardado();
+}
+
+void panRxDiag::imprimir()
+{
+    dibujo::imprimir(dibujo_, windowTitle(),
+                     services::nombreDePaciente(QString::number(torax::pacienteDe(tag()))));
 }
 
 bool panRxDiag::queryUnload()

@@ -17,11 +17,14 @@ protected:
 
 private:
     void guardar();
+    void imprimir();
 
     bool leido_ = false;
-    DibujoDeTorax dibujo_{QStringLiteral("rx")};
+    DibujoDeTorax dibujo_{DibujoDeTorax::Fondo::Radiografia};
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Guardar Cambios"),
                                   QStringLiteral("guardar")};
+    forms::CommandButton Command3{QStringLiteral("Command3"), QStringLiteral("&Imprimir..."),
+                                  QStringLiteral("imprimir")};
     forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("&Cerrar"),
                                   QStringLiteral("cerrar")};
 };

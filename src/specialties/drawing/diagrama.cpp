@@ -11,9 +11,17 @@ namespace dibujo
 namespace
 {
 
-constexpr int ladoDelIcono = 22;
+constexpr int ladoDelIcono = 22, puntosDelRotulo = 10;
+const QColor tinta(0x22, 0x33, 0x44);
 
 } // namespace
+
+TextLook letras(const QString &texto)
+{
+    QFont letra;
+    letra.setPointSize(puntosDelRotulo);
+    return {texto, letra, 0, tinta};
+}
 
 const Picture &figura(const QString &archivo)
 {
@@ -52,26 +60,32 @@ Item Diagrama::paleta(int porRenglon)
     return Group(plano_.titulo.toString(), Grid(porRenglon, iconos));
 }
 
-/// With the keyboard a symbol goes to the middle of the diagram; from there it is moved like any other.
 void Diagrama::agregarIcono(const QString &icono, const QString &termino, std::function<void(QPointF)> usar)
 {
     CommandButton &boton = iconos_.add(iconos_.size(), QString());
     boton.setIcon(QIcon(archivo(icono)));
     boton.setIconSize({ladoDelIcono, ladoDelIcono});
-    boton.setToolTip(termino);
+    boton.setToolTip(plano_.ayuda.isEmpty() ? termino : plano_.ayuda.toString());
     boton.setAccessibleName(termino);
+    agregarHerramienta(boton, std::move(usar));
+}
+
+/// With the keyboard a symbol goes to the middle of the diagram; from there it is moved like any other.
+void Diagrama::agregarHerramienta(CommandButton &boton, std::function<void(QPointF)> usar)
+{
     boton.setAutoDefault(false);
     makeDraggable(boton);
     const auto &uso = usos_[&boton] = std::move(usar);
-    connect(&boton, &QPushButton::clicked, this,
-            [this, &uso] { uso(QPointF(sizeTwips().width() - lado, sizeTwips().height() - lado) / 2); });
+    connect(&boton, &QPushButton::clicked, this, [this, &uso] {
+        uso(QPointF(sizeTwips().width() - plano_.lado, sizeTwips().height() - plano_.lado) / 2);
+    });
 }
 
 /// Only the palette's symbols are taken.
 void Diagrama::soltar(const QWidget &origen, QPointF lugar)
 {
     if (const auto uso = usos_.find(&origen); uso != usos_.end())
-        uso->second(lugar - QPointF(lado, lado) / 2);
+        uso->second(lugar - QPointF(plano_.lado, plano_.lado) / 2);
 }
 
 QString Diagrama::nombreDeMarca(int numero) const
@@ -91,13 +105,33 @@ CanvasItem *Diagrama::poner(int simbolo, QPointF lugar, std::optional<int> numer
 {
     if (simbolo < 0 || simbolo >= static_cast<int>(plano_.paleta.size()))
         return nullptr; // a symbol of another version
+    const QString nombre = nombreDeMarca(numero.value_or(numeroLibre(plano_.marca)));
+    if (item(nombre))
+        return nullptr;
     const Simbolo &puesto = plano_.paleta[static_cast<std::size_t>(simbolo)];
-    CanvasItem &marca = add(nombreDeMarca(numero.value_or(numeroLibre(plano_.marca))), lugar,
-                            PictureLook{figura(archivo(puesto.dibujo)), QSizeF(lado, lado)});
+    CanvasItem &marca =
+        add(nombre, lugar, PictureLook{figura(archivo(puesto.dibujo)), QSizeF(plano_.lado, plano_.lado)});
     forms::setTag(&marca, puesto.codigo.isEmpty() ? QString::number(simbolo) : puesto.codigo.toString());
     marca.setToolTip(puesto.termino.toString());
-    marca.setMovable(iconos_.size() > 0);
+    marca.setMovable(editable());
     return &marca;
+}
+
+CanvasItem *Diagrama::rotular(const QString &texto, QPointF lugar, std::optional<int> numero)
+{
+    const QString nombre =
+        u"%1(%2)"_s.arg(plano_.rotulo).arg(numero.value_or(numeroLibre(plano_.rotulo)));
+    if (item(nombre))
+        return nullptr;
+    CanvasItem &rotulo = add(nombre, lugar, letras(texto));
+    rotulo.setMovable(editable());
+    return &rotulo;
+}
+
+int Diagrama::numeroDe(const CanvasItem &marca)
+{
+    const QString nombre = marca.name();
+    return nombre.sliced(nombre.indexOf(u'(') + 1).chopped(1).toInt();
 }
 
 } // namespace dibujo

@@ -23,12 +23,15 @@ struct Plano {
     QStringView carpeta, fondo; ///< :/<folder>/<background>.svg
     QStringView titulo;         ///< of the palette
     std::span<const Simbolo> paleta;
-    QStringView icono; ///< name of the palette's buttons
-    QStringView marca; ///< name of the marks on the diagram
+    QStringView icono;  ///< name of the palette's buttons
+    QStringView marca;  ///< name of the marks on the diagram
+    QStringView rotulo{}; ///< name of the texts on it
+    QStringView ayuda{};  ///< what the palette's buttons say; without it each says its symbol's term
+    double lado = 360;  ///< of a mark, in twips
 };
 
-/// A diagram on which the symbols of a palette are dropped. A mark is moved by mouse and keyboard; how it is
-/// taken away is the window's to say.
+/// A diagram on which the symbols of a palette and texts are dropped. A mark is moved by mouse and keyboard; how
+/// it is taken away is the window's to say.
 class Diagrama : public forms::Canvas
 {
     Q_OBJECT
@@ -42,16 +45,23 @@ public:
     void setPonedor(std::function<void(int simbolo, QPointF)> ponedor) { ponedor_ = std::move(ponedor); }
     /// Another button of the palette. Dropped, or pressed, `usar` gets the place.
     void agregarIcono(const QString &icono, const QString &termino, std::function<void(QPointF)> usar);
+    /// Any button, laid out by its window, that is used like those of the palette.
+    void agregarHerramienta(forms::CommandButton &boton, std::function<void(QPointF)> usar);
 
     /// A mark of the palette's symbol, under that number or the next free one: those of marks that were taken
-    /// away are used again. Null for a symbol that the palette has not.
+    /// away are used again. Null for a symbol that the palette has not, and for a number that is taken.
     forms::CanvasItem *poner(int simbolo, QPointF lugar, std::optional<int> numero = {});
+    /// A text, likewise, under a number among the texts.
+    forms::CanvasItem *rotular(const QString &texto, QPointF lugar, std::optional<int> numero = {});
     int numeroLibre(QStringView nombre) const;
     QString nombreDeMarca(int numero) const;
+    static int numeroDe(const forms::CanvasItem &marca);
+
+protected:
+    /// It has tools: what stands on it can be moved.
+    bool editable() const { return !usos_.empty(); }
 
     const Plano &plano() const { return plano_; }
-
-    static constexpr double lado = 360; ///< of a mark, in twips
 
 private:
     QString archivo(QStringView dibujo) const;
@@ -65,6 +75,8 @@ private:
     std::map<const QWidget *, std::function<void(QPointF)>> usos_;
 };
 
+/// How a text stands on a diagram.
+forms::TextLook letras(const QString &texto);
 /// The picture of a resource, read once.
 const forms::Picture &figura(const QString &archivo);
 

@@ -20,14 +20,12 @@ public:
     void rotular(const QString &texto, QPointF lugar, std::optional<int> numero = {});
     /// Whether the file has room for another stamp, or text.
     bool hayLugarPara(QStringView nombre) const { return numeroLibre(nombre) <= mayorIndice; }
-    void setEditable(bool editable) { editable_ = editable; }
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     void sellar(const Sello &sello);
-    bool editable_ = false;
 };
 
 } // namespace oftalmo

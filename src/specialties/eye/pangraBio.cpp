@@ -33,7 +33,6 @@ DibujoEditable::DibujoEditable(const QString &ventana, const QString &titulo, Cl
     : Form(ventana), Picture1(u"Picture1"_s, clase)
 {
     setWindowTitle(titulo);
-    Picture1.setEditable(true);
     Picture1.setAccessibleName(titulo);
     Picture1.setPonedor([this](int simbolo, QPointF lugar) { ponerSello(simbolo, lugar); });
     Picture1.agregarIcono(u"rotulo"_s, u"Un texto sobre el dibujo"_s,

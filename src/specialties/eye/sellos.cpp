@@ -64,8 +64,8 @@ constexpr dibujo::Simbolo deFondo[] = {
 // clang-format on
 
 constexpr dibujo::Plano planos[] = {
-    {u"ojos", u"biomicroscopia", u"Hallazgos", deBiomicroscopia, u"paleta", u"Image"},
-    {u"ojos", u"fondo", u"Hallazgos", deFondo, u"paleta", u"Image"},
+    {u"ojos", u"biomicroscopia", u"Hallazgos", deBiomicroscopia, u"paleta", u"Image", u"Label"},
+    {u"ojos", u"fondo", u"Hallazgos", deFondo, u"paleta", u"Image", u"Label"},
 };
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "core/session/session.h"
 #include "platform/basic/errors.h"
 #include "platform/basic/runtime.h"
+#include "specialties/drawing/hoja.h"
 #include "specialties/eye/visita.h"
 
 #include <QScrollBar>
@@ -80,8 +81,14 @@ void Visor::agregarPanel(const QString &rotulo, const Dibujo &dibujo)
     Label &observaciones = lblObservaciones.add(indice, dibujo.observaciones);
     observaciones.setWordWrap(true);
     observaciones.setVisible(!dibujo.observaciones.isEmpty());
-    for (QWidget *parte : std::initializer_list<QWidget *>{&titulo, &lienzo, &observaciones})
-        paneles_->widget()->layout()->addWidget(parte);
+    CommandButton &imprime = comImprimir.add(indice, u"Imprimir"_s, u"imprimir"_s);
+    imprime.setAccessibleName(u"Imprimir "_s + rotulo);
+    connect(&imprime, &QPushButton::clicked, this, [&lienzo, rotulo, texto = dibujo.observaciones] {
+        dibujo::imprimir(lienzo, rotulo, {}, {texto});
+    });
+    auto *panel = new QWidget;
+    setContents(panel, Column{Row{titulo, Stretch(), imprime}, lienzo, observaciones, Stretch()});
+    paneles_->widget()->layout()->addWidget(panel);
 }
 
 void Visor::ampliar(double factor)

@@ -26,6 +26,7 @@ private:
     const QString titulo_;
     double ancho_; ///< of a drawing, in pixels
     forms::ControlArray<forms::Label> lblDibujo{QStringLiteral("lblDibujo")};
+    forms::ControlArray<forms::CommandButton> comImprimir{QStringLiteral("comImprimir")};
     forms::ControlArray<Lienzo> Picture1{QStringLiteral("Picture1")};
     forms::ControlArray<forms::Label> lblObservaciones{QStringLiteral("lblObservaciones")};
     QScrollArea *paneles_;

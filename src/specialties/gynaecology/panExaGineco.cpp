@@ -1,7 +1,7 @@
 #include "specialties/gynaecology/panExaGineco.h"
 
-#include "core/reports/papel.h"
 #include "core/services/paciente.h"
+#include "specialties/drawing/hoja.h"
 
 using namespace Qt::StringLiterals;
 using namespace forms;
@@ -86,24 +86,10 @@ std::optional<std::vector<Marca>> ExamenDibujado::marcas() const
     return todas;
 }
 
-/// The diagram with what each symbol on it means, and the texts.
 void ExamenDibujado::imprimir()
 {
-    const auto impresora = printing::chooserDialog(windowTitle());
-    if (!impresora)
-        return;
-    informes::Papel papel(*impresora);
-    papel.escribir(services::nombreDePaciente(tag()), 11, true);
-    papel.dibujar(Picture1);
-    QStringList terminos;
-    for (const CanvasItem *item : Picture1.all())
-        terminos += item->toolTip();
-    terminos.removeDuplicates();
-    papel.escribir(terminos.join(u'\n'), 9);
-    for (const QString &texto : {examen().detalle, examen().resultados, examen().observaciones})
-        if (!texto.isEmpty())
-            papel.escribir(texto, 10);
-    papel.terminar();
+    dibujo::imprimir(Picture1, windowTitle(), services::nombreDePaciente(tag()),
+                     {examen().detalle, examen().resultados, examen().observaciones});
 }
 
 } // namespace gineco
