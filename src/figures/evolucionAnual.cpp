@@ -21,9 +21,17 @@ QString columnas(Nombrado que)
     return todas.join(u", "_s);
 }
 
-QString delSexo(const QString &sexo)
+/// The visits of a year that name it, in letters of any case.
+QString visitasQueNombran(Nombrado que, const QString &nombre, int anio, const QString &sexo)
 {
-    return sexo.isEmpty() ? QString() : u" and Sexo = "_s + dao::quoted(sexo);
+    QStringList alguna;
+    for (int n = 1; n <= lugaresDeLaVisita; ++n)
+        alguna +=
+            u"[%1 %2] = %3"_s.arg(QLatin1StringView(origen(que).columna)).arg(n).arg(dao::quoted(nombre));
+    return u"year(Fecha) = %1%2 and (%3)"_s.arg(QString::number(anio),
+                                                sexo.isEmpty() ? QString()
+                                                               : u" and Sexo = "_s + dao::quoted(sexo),
+                                                alguna.join(u" or "_s));
 }
 
 } // namespace
@@ -32,9 +40,8 @@ std::array<qint64, 12> vecesPorMes(Nombrado que, const QString &nombre, int anio
 {
     std::array<qint64, 12> veces{};
     dao::Recordset visitas = MODULE11::BaseDatos.openRecordset(
-        u"Select month(Fecha), %1 from Consulta where year(Fecha) = %2%3"_s.arg(columnas(que))
-            .arg(anio)
-            .arg(delSexo(sexo)),
+        u"Select month(Fecha), %1 from Consulta where %2"_s.arg(
+            columnas(que), visitasQueNombran(que, nombre, anio, sexo)),
         dao::Recordset::Kind::Snapshot);
     for (qint64 fila = 0; visitas.hasRow(fila); ++fila)
         for (int lugar = 1; lugar <= lugaresDeLaVisita; ++lugar)
@@ -46,14 +53,8 @@ std::array<qint64, 12> vecesPorMes(Nombrado que, const QString &nombre, int anio
 
 QString visitasDelMes(Nombrado que, const QString &nombre, int anio, int mes, const QString &sexo)
 {
-    QStringList alguna;
-    for (int n = 1; n <= lugaresDeLaVisita; ++n)
-        alguna +=
-            u"[%1 %2] = %3"_s.arg(QLatin1StringView(origen(que).columna)).arg(n).arg(dao::quoted(nombre));
-    return u"Select Fecha, [Nombre del Paciente], Motivo, Dr from Consulta where month(Fecha) = %1 and year(Fecha) = %2%3 and (%4) order by Fecha"_s
-        .arg(mes)
-        .arg(anio)
-        .arg(delSexo(sexo), alguna.join(u" or "_s));
+    return u"Select Fecha, [Nombre del Paciente], Motivo, Dr from Consulta where month(Fecha) = %1 and %2 order by Fecha"_s
+        .arg(QString::number(mes), visitasQueNombran(que, nombre, anio, sexo));
 }
 
 } // namespace figures

@@ -1,5 +1,6 @@
 #include "delivered.h"
 
+#include "specialties/cardiology/calibre.h"
 #include "specialties/cardiology/diagramaDeTorax.h"
 #include "specialties/cardiology/pesos.h"
 
@@ -68,4 +69,18 @@ TEST_F(PesosTest, aPointADayFromBothEndsOfThePeriod)
     pesos::agregar(7, ultimo, 61.5);
     EXPECT_EQ(pesos::entre(7, ultimo, ultimo), (std::vector<pesos::Punto>{{ultimo, 61500}}));
     EXPECT_EQ(one(u"Select count(*) from Medidas where Paciente = 7 and Talla = 0 and Pc = 0"_s), u"1"_s);
+}
+
+TEST(Calibre, tellsNothingWithoutAScaleAndReadsTheSpeedAsItIsWritten)
+{
+    EXPECT_EQ(calibre::intervalo(480, {}), QString());
+    EXPECT_EQ(calibre::amplitud(480, {}), QString());
+    EXPECT_EQ(calibre::intervalo(-480, {40, 25}), u"12,0 mm = 480 ms (125 por minuto)"_s);
+    EXPECT_EQ(calibre::intervalo(480, {40, 50}), u"12,0 mm = 240 ms (250 por minuto)"_s);
+    EXPECT_EQ(calibre::intervalo(0, {40, 25}), u"0,0 mm = 0 ms"_s);
+    EXPECT_EQ(calibre::amplitud(-300, {40, 25}), u"7,5 mm = 0,75 mV"_s);
+    EXPECT_EQ(calibre::velocidad(u"25 mm/s"_s), 25);
+    EXPECT_EQ(calibre::velocidad(u" 12,5 mm/s"_s), 12.5);
+    for (const QString &ninguna : {u""_s, u"rápida"_s, u"0"_s, u"-25"_s})
+        EXPECT_FALSE(calibre::velocidad(ninguna)) << ninguna.toStdString();
 }

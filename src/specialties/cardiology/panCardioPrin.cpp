@@ -11,6 +11,7 @@
 #include "specialties/cardiology/cambios.h"
 #include "specialties/cardiology/panNueRegCardio.h"
 #include "specialties/cardiology/panRxDiag.h"
+#include "specialties/cardiology/panTrazado.h"
 #include "specialties/drawing/hoja.h"
 
 #include <QDir>
@@ -150,8 +151,11 @@ Item panCardioPrin::electro()
     Data1.bind(mInterpretacion, u"Electro - Interpretacion"_s);
     return Row{Column{Fields(datos), Expanding(Above(u"&Interpretación :"_s, mInterpretacion))},
                Expanding(Column{Expanding(Image3),
-                                Row{Expanding(mImagen), rowCommand(u"Command11"_s, u"&Adquirir..."_s,
-                                                                   u"abrir"_s, [this] { adquirir(); })}})};
+                                Row{Expanding(mImagen),
+                                    rowCommand(u"Command11"_s, u"&Adquirir..."_s, u"abrir"_s,
+                                               [this] { adquirir(); }),
+                                    rowCommand(u"Command13"_s, u"&Ver..."_s, u"ver"_s,
+                                               [this] { verTrazado(); })}})};
 }
 
 Item panCardioPrin::pulsosDe(QChar lado, const QString &nombre)
@@ -333,6 +337,17 @@ void panCardioPrin::adquirir()
     Data1.updateRecord();
     Data1.set(u"Electro - Imagen"_s, archivo);
     Image3.mostrar(archivo);
+}
+
+void panCardioPrin::verTrazado()
+{
+    const QString archivo = mImagen.text();
+    if (archivo.isEmpty()) {
+        MODULE11::MuestraError(u"Este registro no tiene un trazado."_s);
+        return;
+    }
+    const basic::Value velocidad = Data1.recordset()[u"Electro - VELOCIDAD"].value();
+    panTrazado(archivo, velocidad.text()).showModal();
 }
 
 void panCardioPrin::abrirRx()

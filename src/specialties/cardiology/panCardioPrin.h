@@ -35,6 +35,7 @@ private:
 
     void nuevo();
     void adquirir();
+    void verTrazado();
     void abrirRx();
     void evaluacionDeportiva();
     void guardar();

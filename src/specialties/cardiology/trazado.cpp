@@ -5,13 +5,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
-
-constexpr QSize bastante(1600, 1200); ///< a screen shows no more of it
-
-} // namespace
-
 Trazado::Trazado(const QString &nombre)
 {
     setObjectName(nombre);
@@ -20,27 +13,36 @@ Trazado::Trazado(const QString &nombre)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-/// Read no larger than a screen shows it, which is what makes the step between records quick.
 void Trazado::mostrar(const QString &archivo)
 {
     if (archivo == archivo_)
         return;
     archivo_ = archivo;
+    leer();
+    update();
+}
+
+/// Read no larger than it is shown, which is what makes the step between records quick.
+void Trazado::leer()
+{
+    lugar_ = size() * devicePixelRatio();
     imagen_ = {};
-    if (!archivo.isEmpty()) {
-        QImageReader lector(archivo);
+    if (!archivo_.isEmpty()) {
+        QImageReader lector(archivo_);
         lector.setAutoTransform(true);
         if (const QSize medida = lector.size();
-            medida.width() > bastante.width() || medida.height() > bastante.height())
-            lector.setScaledSize(medida.scaled(bastante, Qt::KeepAspectRatio));
+            medida.width() > lugar_.width() || medida.height() > lugar_.height())
+            lector.setScaledSize(medida.scaled(lugar_, Qt::KeepAspectRatio));
         imagen_ = lector.read();
     }
-    setToolTip(imagen_.isNull() ? QString() : archivo);
-    update();
+    setToolTip(imagen_.isNull() ? QString() : archivo_);
 }
 
 void Trazado::paintEvent(QPaintEvent *)
 {
+    if (const QSize lugar = size() * devicePixelRatio();
+        lugar.width() > lugar_.width() || lugar.height() > lugar_.height())
+        leer();
     QPainter pintor(this);
     pintor.fillRect(rect(), Qt::white);
     if (imagen_.isNull()) {

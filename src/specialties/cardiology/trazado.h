@@ -17,6 +17,9 @@ protected:
     void paintEvent(QPaintEvent *evento) override;
 
 private:
+    void leer();
+
     QString archivo_;
+    QSize lugar_; ///< in dots, for which it was read
     QImage imagen_;
 };
