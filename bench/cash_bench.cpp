@@ -1,16 +1,14 @@
 #include "core/database/actualiza.h"
 #include "core/session/session.h"
 #include "core/session/startup.h"
-#include "limits.h"
 #include "measure.h"
+#include "onpractice.h"
 #include "platform/basic/environment.h"
-#include "platform/forms/application.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/dbgrid.h"
 #include "practice/affiliates/proceso.h"
 #include "practice/cashbook/panCaja.h"
 #include "practice/stock/panArticulos.h"
-#include "subsystems.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -164,29 +162,19 @@ void rollOfAffiliates(const QString &folder)
     limits.time("the same roll again, nothing to change", again, affiliates / 5.0);
 }
 
+void measure(const QString &folder)
+{
+    MODULE11::valoresIniciales();
+    BaseDatos.open(basic::programFile(u"BASE.MDB"_s), false, false, MODULE11::conexionDeLaBase());
+    MODULE11::ActualizaBase();
+    cash();
+    goods();
+    rollOfAffiliates(folder);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
-    if (argc != 2) {
-        std::cerr << "bench_cash FOLDER\n";
-        return 2;
-    }
-    qputenv("SANIRELL_CARPETA", argv[1]);
-    qputenv("SANIRELL_AJUSTES", argv[1]);
-    forms::Application application(argc, argv);
-    forms::Application::dress();
-    app::prepare();
-    try {
-        MODULE11::valoresIniciales();
-        BaseDatos.open(basic::programFile(u"BASE.MDB"_s), false, false, MODULE11::conexionDeLaBase());
-        MODULE11::ActualizaBase();
-        cash();
-        goods();
-        rollOfAffiliates(QString::fromLocal8Bit(argv[1]));
-        return limits.allWithin() ? 0 : 1;
-    } catch (const std::exception &error) {
-        std::cerr << error.what() << '\n';
-        return 1;
-    }
+    return bench::onPractice(argc, argv, limits, [&] { measure(QString::fromLocal8Bit(argv[1])); });
 }

@@ -8,12 +8,11 @@
 #include "eyes.h"
 #include "figures.h"
 #include "laboratory.h"
-#include "limits.h"
 #include "measure.h"
+#include "onpractice.h"
 #include "money.h"
 #include "prescriptions.h"
 #include "specialties.h"
-#include "subsystems.h"
 #include "summary.h"
 #include "vaccines.h"
 #include "visits.h"
@@ -26,7 +25,6 @@
 #include "core/windows/Vademecum.h"
 #include "paediatrics/charts/panPercentil.h"
 #include "platform/basic/environment.h"
-#include "platform/forms/application.h"
 
 #include <QElapsedTimer>
 
@@ -88,20 +86,5 @@ void measure()
 
 int main(int argc, char **argv)
 {
-    if (argc != 2) {
-        std::cerr << "bench_program FOLDER\n";
-        return 2;
-    }
-    qputenv("SANIRELL_CARPETA", argv[1]);
-    qputenv("SANIRELL_AJUSTES", argv[1]); // settings of another folder name tables of another base
-    forms::Application application(argc, argv);
-    forms::Application::dress();
-    app::prepare();
-    try {
-        measure();
-        return limits.allWithin() ? 0 : 1;
-    } catch (const std::exception &error) {
-        std::cerr << error.what() << '\n';
-        return 1;
-    }
+    return bench::onPractice(argc, argv, limits, measure);
 }

@@ -1,9 +1,8 @@
 // How long the reports take on a practice's folder, as a person would wait for them:
 //   bench_reports FOLDER
 // Ends non-zero when something was over its limit.
-#include "limits.h"
 #include "measure.h"
-#include "subsystems.h"
+#include "onpractice.h"
 
 #include "core/database/actualiza.h"
 #include "core/reports/exportaHtml.h"
@@ -12,7 +11,6 @@
 #include "core/session/session.h"
 #include "core/session/startup.h"
 #include "platform/basic/environment.h"
-#include "platform/forms/application.h"
 #include "platform/reports/selection.h"
 
 #include <QDir>
@@ -136,20 +134,5 @@ void measure()
 
 int main(int argc, char **argv)
 {
-    if (argc != 2) {
-        std::cerr << "bench_reports FOLDER\n";
-        return 2;
-    }
-    qputenv("SANIRELL_CARPETA", argv[1]);
-    qputenv("SANIRELL_AJUSTES", argv[1]);
-    forms::Application application(argc, argv);
-    forms::Application::dress();
-    app::prepare();
-    try {
-        measure();
-        return limits.allWithin() ? 0 : 1;
-    } catch (const std::exception &error) {
-        std::cerr << error.what() << '\n';
-        return 1;
-    }
+    return bench::onPractice(argc, argv, limits, measure);
 }
