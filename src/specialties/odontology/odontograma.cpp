@@ -1,10 +1,10 @@
 #include "specialties/odontology/odontograma.h"
 
 #include "platform/forms/colour.h"
+#include "platform/forms/twips.h"
 #include "specialties/odontology/trazos.h"
 
-#include <QGuiApplication>
-#include <QResizeEvent>
+#include <QFontMetricsF>
 
 using namespace Qt::StringLiterals;
 using namespace forms;
@@ -19,6 +19,7 @@ const QColor tinta(0x5a, 0x62, 0x70), tenue(0xc9, 0xd1, 0xd8), marfil(0xfd, 0xf8
     cambiada(0xe0, 0x8a, 0x1e);
 constexpr double pixel = twipsPorBorde;
 constexpr int puntosDeLetra = 7;
+constexpr double anchoDeLeyenda = 1.2 * anchoDePieza;
 
 QFont letra()
 {
@@ -45,6 +46,22 @@ int caraDelItem(const QString &item)
         return cara;
     const int pieza = indiceDe(item, u"shape");
     return pieza > 0 ? caraDe(pieza, Centro) : 0;
+}
+
+/// What there is room for under a tooth; the rest is read in its tip.
+QString enDosRenglones(const QString &leyenda)
+{
+    const QFontMetricsF medida(letra());
+    const double ancho = toPixels(anchoDeLeyenda);
+    qsizetype corte = leyenda.size();
+    while (corte > 0 && medida.horizontalAdvance(leyenda.left(corte)) > ancho)
+        --corte;
+    if (corte == leyenda.size())
+        return leyenda;
+    if (const qsizetype blanco = leyenda.lastIndexOf(u' ', corte); blanco > 0)
+        corte = blanco;
+    return leyenda.left(corte).trimmed() + u'\n' +
+           medida.elidedText(leyenda.mid(corte).trimmed(), Qt::ElideRight, ancho);
 }
 
 ShapeLook figura(const QPainterPath &contorno, const QColor &relleno, const QColor &linea, double ancho)
@@ -119,7 +136,7 @@ void Odontograma::agregarPieza(int pieza)
     }
     p.numero = &add(llamado(u"nMue", pieza), lugarDelNumero(pieza), TextLook{QString::number(numeroFdi(pieza)), letra()});
     p.leyenda = agregar(u"le", {-.1 * anchoDePieza, lugar.height() + pixel},
-                        TextLook{{}, letra(), 1.2 * anchoDePieza, Qt::black, Qt::AlignHCenter});
+                        TextLook{{}, letra(), anchoDeLeyenda, Qt::black, Qt::AlignHCenter});
     p.cruz = agregar(u"xh", {}, figura(cruz(), Qt::transparent, colorDe(rojo), 3 * pixel));
     p.marca = agregar(u"marca", {}, figura({}, Qt::transparent, colorDe(rojo), 3 * pixel));
     for (CanvasItem *inerte : {p.silueta, relieve, p.numero, p.leyenda, p.cruz, p.marca})
@@ -173,15 +190,23 @@ void Odontograma::mostrarMarca(const Marca &marca, int pieza)
     p.marca->setVisible(!trazo.isEmpty());
     if (!trazo.isEmpty())
         p.marca->setLook(figura(trazo, Qt::transparent, color, 2.5 * pixel));
-    const auto &leyenda = std::get<TextLook>(p.leyenda->look());
-    if (leyenda.text != marca.leyenda || leyenda.colour != colorDe(marca.colorDeLeyenda)) {
-        TextLook nueva = leyenda;
-        nueva.text = marca.leyenda;
-        nueva.colour = colorDe(marca.colorDeLeyenda);
-        p.leyenda->setLook(nueva);
-        p.leyenda->setToolTip(marca.leyenda);
-    }
-    p.leyenda->setVisible(!marca.leyenda.isEmpty());
+    mostrarLeyenda(marca, pieza);
+}
+
+void Odontograma::mostrarLeyenda(const Marca &marca, int pieza)
+{
+    CanvasItem &item = *piezas_[static_cast<std::size_t>(pieza)].leyenda;
+    QString &antes = leyendas_[static_cast<std::size_t>(pieza)];
+    TextLook look = std::get<TextLook>(item.look());
+    const QColor color = colorDe(marca.colorDeLeyenda);
+    item.setVisible(!marca.leyenda.isEmpty());
+    if (antes == marca.leyenda && look.colour == color)
+        return;
+    antes = marca.leyenda;
+    look.text = enDosRenglones(marca.leyenda);
+    look.colour = color;
+    item.setLook(look);
+    item.setToolTip(marca.leyenda);
 }
 
 void Odontograma::ponerBorde(int pieza, const QColor &color, int ancho)
@@ -211,7 +236,7 @@ void Odontograma::destacar(const std::vector<int> &miradas)
         ponerBorde(pieza, cambiada, 3);
 }
 
-/// A face has the two colours that are kept of it, whichever is seen.
+/// A face has the two colours that are kept of it, whichever is seen, and a legend is read whole.
 std::vector<DrawnItem> Odontograma::drawnItems() const
 {
     std::vector<DrawnItem> items = Canvas::drawnItems();
@@ -220,6 +245,8 @@ std::vector<DrawnItem> Odontograma::drawnItems() const
             const Pintura &dos = pintadas_[static_cast<std::size_t>(cara)];
             item.foreColor = colorDe(dos.frente);
             item.backColor = colorDe(dos.fondo);
+        } else if (const int pieza = indiceDe(item.name, u"le"); pieza > 0) {
+            item.caption = leyendas_[static_cast<std::size_t>(pieza)];
         }
     return items;
 }

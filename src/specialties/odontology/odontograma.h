@@ -47,10 +47,12 @@ private:
     void agregarLados();
     void mostrarCara(const Esquema &esquema, int cara);
     void mostrarMarca(const Marca &marca, int pieza);
+    void mostrarLeyenda(const Marca &marca, int pieza);
     void ponerBorde(int pieza, const QColor &color, int ancho);
 
     std::array<Pieza, piezas + 1> piezas_{};
     std::array<Pintura, ultimaCara + 1> pintadas_;
+    std::array<QString, piezas + 1> leyendas_; ///< whole
     int elegida_ = 0;
 };
 

@@ -19,6 +19,9 @@ panComparaEsquemas::panComparaEsquemas() : Form(u"panComparaEsquemas"_s)
 {
     setWindowTitle(u"Comparación de esquemas"_s);
     List1.setMaximumHeight(altoDeLista);
+    QFont destacada = Label4.font();
+    destacada.setBold(true);
+    Label4.setFont(destacada);
     setContents(this, Column{
                           Label4,
                           Expanding(Row{Expanding(lado(0, u"&Esquema :"_s)), Expanding(lado(1, u"Com&parado con :"_s))}),

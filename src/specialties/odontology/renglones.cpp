@@ -95,6 +95,7 @@ void Renglones::agregar(const QString &quien)
     PannuePractico lista(presupuesto_, [this] { releer(); });
     lista.setTag(quien);
     lista.showModal();
+    releer(); // a practice taken off the list is gone from under its lines
 }
 
 void Renglones::quitar()

@@ -33,7 +33,6 @@ tooth::tooth() : Form(u"tooth"_s)
     setWindowTitle(titulo);
     destacar(Label4, 2);
     destacar(Label19, 0);
-    lblSinLeer.setWordWrap(true);
     Combo1.setMinimumWidth(200);
     mesa_.agregar(herramientas_);
     mesa_.agregar(colores_);
@@ -84,7 +83,7 @@ Item tooth::paginaDelOdontograma()
             comando(*this, u"Command4"_s, u"&Borrar"_s, u"borrar"_s, [this] { borrar(); }),
             comando(*this, u"Command9"_s, u"Co&mparar..."_s, u"ver"_s, [this] { comparar(); })},
         Expanding(mesa_),
-        Row{Label3, lblPieza, Stretch(), lblSinLeer},
+        Row{lblPieza, Stretch(), lblSinLeer, Fields{{u"Lugar en el gráfico :"_s, Label3}}},
     };
 }
 

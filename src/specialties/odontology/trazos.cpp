@@ -63,7 +63,7 @@ QPainterPath trazoDe(int tipo, int pieza)
     QPainterPath trazo;
     switch (tipo) {
     case Puente:
-        trazo.addRect(QRectF(0, 0, anchoDePieza, altoDePieza).adjusted(-margen, -margen, margen, margen));
+        trazo.addRect(QRectF(0, 0, anchoDePieza, altoDePieza).adjusted(-margen, 0, margen, 0));
         return trazo;
     case Corona:
         trazo.addEllipse(cuadroDeCaras(pieza).adjusted(-margen, -margen, margen, margen));
