@@ -15,6 +15,7 @@
 #include "specialties.h"
 #include "subsystems.h"
 #include "summary.h"
+#include "teeth.h"
 #include "vaccines.h"
 #include "visits.h"
 
@@ -77,6 +78,7 @@ void measure()
     bench::controls(report);
     bench::summary(report);
     bench::specialties(report);
+    bench::teeth(report);
     bench::figures(report);
     bench::vaccines(report);
     bench::complements(report);

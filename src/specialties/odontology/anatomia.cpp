@@ -159,10 +159,11 @@ Anatomia anatomia(int pieza)
 {
     const Anatomia modelo = Trazo(formaDe(pieza)).anatomia();
     const QRectF lugar = lugarDelDibujo(pieza);
-    constexpr double aire = 14; // between cusps and faces
+    constexpr double aire = 14;    // between cusps and faces
+    constexpr double medida = .93; // of the largest tooth, so that it stays in its place
     QTransform colocar;
     colocar.translate(lugar.center().x(), esSuperior(pieza) ? lugar.bottom() - aire : lugar.top() + aire);
-    colocar.scale(esDerecha(pieza) ? -1 : 1, esSuperior(pieza) ? 1 : -1);
+    colocar.scale(esDerecha(pieza) ? -medida : medida, esSuperior(pieza) ? medida : -medida);
     return {colocar.map(modelo.silueta), colocar.map(modelo.relieve), colocar.map(modelo.conductos),
             colocar.mapRect(modelo.corona), colocar.mapRect(modelo.raiz)};
 }

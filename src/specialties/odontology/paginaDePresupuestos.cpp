@@ -134,9 +134,14 @@ void Pagina::borrar()
 
 void Pagina::imprimir()
 {
-    if (const auto presupuesto = elegido())
-        informes::muestra(u"presupuesto.rpt"_s,
-                          u"{ConsultaPresupuesto.idPresupuesto} = %1"_s.arg(*presupuesto));
+    const auto presupuesto = elegido();
+    if (!presupuesto)
+        return;
+    if (renglones_.vacio()) {
+        MODULE11::Aviso(u"El presupuesto no tiene prácticas."_s);
+        return;
+    }
+    informes::muestra(u"presupuesto.rpt"_s, u"{ConsultaPresupuesto.idPresupuesto} = %1"_s.arg(*presupuesto));
 }
 
 /// What the marks would take, once the person has agreed to it.

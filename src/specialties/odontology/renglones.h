@@ -20,6 +20,7 @@ public:
 
     void mostrar(std::optional<qint64> presupuesto);
     std::optional<qint64> presupuesto() const { return presupuesto_; }
+    bool vacio() const { return !Data3.hasRow(); }
     /// Reads them again after lines were added, and stands on the last.
     void releer();
     /// Lets the person choose practices from the price list for the budget. `quien` is what the list is told of its
