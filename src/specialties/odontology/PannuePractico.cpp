@@ -43,6 +43,8 @@ PannuePractico::PannuePractico(std::optional<qint64> presupuesto, std::function<
     setWindowTitle(u"Seleccione una Práctica"_s);
     DBGrid1.setSource(Data1, {{.heading = u"Práctica"_s, .field = u"detalle"_s, .width = 360},
                               {.heading = u"Precio"_s, .field = u"precio"_s, .pattern = u"currency"_s, .width = 120}});
+    CommandButton &usarla = comando(*this, u"Command1"_s, u"&USAR>>"_s, u"aceptar"_s, [this] { usar(); });
+    usarla.setDefault(true);
     setContents(this, Column{
                           Fields{{u"&Buscar :"_s, Text1}},
                           Expanding(DBGrid1),
@@ -51,7 +53,7 @@ PannuePractico::PannuePractico(std::optional<qint64> presupuesto, std::function<
                               comando(*this, u"Command5"_s, u"&Precio..."_s, u"editar"_s,
                                       [this] { cambiarPrecio(); }),
                               comando(*this, u"Command4"_s, u"&Quitar"_s, u"quitar"_s, [this] { quitar(); }),
-                              Stretch(), comando(*this, u"Command1"_s, u"&USAR>>"_s, u"aceptar"_s, [this] { usar(); }),
+                              Stretch(), usarla,
                               comando(*this, u"Command2"_s, u"&Cerrar"_s, u"cerrar"_s, [this] { unload(); })},
                       });
     resize(620, 480);
@@ -115,7 +117,7 @@ void PannuePractico::quitar()
 
 void PannuePractico::usar()
 {
-    if (!presupuesto_) {
+    if (!presupuesto_ || !presupuestos::existe(*presupuesto_)) {
         MODULE11::MuestraError(tag() == u"presu" ? u"Ingrese un Presupuesto Correcto"_s
                                                  : u"Seleccione un Presupuesto"_s);
         return;

@@ -150,6 +150,10 @@ void Pagina::proponer()
     const auto presupuesto = elegido();
     if (!presupuesto)
         return;
+    if (Data4.recordset()[u"Numero"].integer() != paciente_.value_or(0)) {
+        MODULE11::MuestraError(u"El presupuesto elegido es de otro paciente."_s);
+        return;
+    }
     QStringList sinPractica;
     const std::vector<Propuesta> todas = propuestas(esquema_(), sinPractica);
     QStringList lineas;

@@ -72,6 +72,10 @@ bool panNuePresu::guardarCabeza()
     dao::Recordset cabeza = BaseDatos.openRecordset(
         nuevo ? u"Select * from presupuestos"_s
               : u"Select * from presupuestos where idpresupuesto=%1"_s.arg(presupuesto()));
+    if (!nuevo && cabeza.eof()) { // another station has deleted it
+        MODULE11::MuestraError(u"Ingrese un Presupuesto Correcto"_s);
+        return false;
+    }
     if (nuevo)
         cabeza.addNew();
     else

@@ -49,6 +49,11 @@ std::optional<basic::Currency> subtotal(double cantidad, basic::Currency precio)
     return basic::Currency::fromDouble(importe);
 }
 
+bool existe(qint64 presupuesto)
+{
+    return !BaseDatos.openRecordset(u"Select * from presupuestos where idpresupuesto=%1"_s.arg(presupuesto)).eof();
+}
+
 void agregar(qint64 presupuesto, qint64 practica, double cantidad)
 {
     dao::Recordset elegida =

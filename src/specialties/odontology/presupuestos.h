@@ -19,6 +19,7 @@ basic::Currency total(qint64 presupuesto);
 /// The subtotal of a line. Nothing for what is more than a column of money holds.
 std::optional<basic::Currency> subtotal(double cantidad, basic::Currency precio);
 
+bool existe(qint64 presupuesto); ///< another station may have deleted it
 /// Adds a line with the practice's name and price of today.
 void agregar(qint64 presupuesto, qint64 practica, double cantidad = 1);
 /// Deletes the lines and the head.

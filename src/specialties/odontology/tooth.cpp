@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QTabBar>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 using namespace forms;
 using records::comando;
@@ -33,6 +35,7 @@ tooth::tooth() : Form(u"tooth"_s)
     setWindowTitle(titulo);
     destacar(Label4, 2);
     destacar(Label19, 0);
+    lblPieza.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long legend does not widen the window
     Combo1.setMinimumWidth(200);
     mesa_.agregar(herramientas_);
     mesa_.agregar(colores_);
@@ -61,6 +64,7 @@ tooth::tooth() : Form(u"tooth"_s)
     conectar();
     herramientas_.mostrarColor(color_);
     mostrarPagina(delOdontograma);
+    lblSinLeer.hide();
     mostrarEleccion();
     resize(1180, 690);
 }
@@ -83,7 +87,8 @@ Item tooth::paginaDelOdontograma()
             comando(*this, u"Command4"_s, u"&Borrar"_s, u"borrar"_s, [this] { borrar(); }),
             comando(*this, u"Command9"_s, u"Co&mparar..."_s, u"ver"_s, [this] { comparar(); })},
         Expanding(mesa_),
-        Row{lblPieza, Stretch(), lblSinLeer, Fields{{u"Lugar en el gráfico :"_s, Label3}}},
+        Row{Expanding(lblPieza), Fields{{u"Lugar en el gráfico :"_s, Label3}}},
+        lblSinLeer,
     };
 }
 
@@ -128,8 +133,9 @@ void tooth::load()
 
 void tooth::activate()
 {
-    if (!paciente_)
-        leerPaciente();
+    if (std::exchange(abierta_, true))
+        return;
+    leerPaciente();
 }
 
 void tooth::leerPaciente()

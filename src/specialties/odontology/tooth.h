@@ -63,6 +63,7 @@ private:
     odonto::Esquema esquema_;
     esquemas::Guardado leido_;
     bool pendiente_ = false;
+    bool abierta_ = false;
     int color_ = odonto::rojo;
     int cara_ = 0; ///< the one pressed last; 0 for none
 

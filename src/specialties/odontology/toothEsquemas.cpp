@@ -79,10 +79,10 @@ void tooth::abrirEsquema(const QString &nombre)
     cara_ = 0;
     Picture1.mostrar(esquema_);
     Label19.setCaption(guardado ? u"\"%1\""_s.arg(nombre) : u"(Seleccione un esquema)"_s);
-    lblSinLeer.setCaption(esquema_.sinLeer() == 0
-                              ? QString()
-                              : u"%1 anotaciones de este esquema no se pueden leer; al guardar se conservan como están."_s
-                                    .arg(esquema_.sinLeer()));
+    lblSinLeer.setCaption(
+        u"Anotaciones de este esquema que no se pueden leer: %1. Al guardar se conservan como están."_s.arg(
+            esquema_.sinLeer()));
+    lblSinLeer.setVisible(esquema_.sinLeer() > 0);
     mostrarEleccion();
 }
 
