@@ -14,6 +14,7 @@
 #include "prescriptions.h"
 #include "specialties.h"
 #include "summary.h"
+#include "teeth.h"
 #include "vaccines.h"
 #include "visits.h"
 
@@ -75,6 +76,7 @@ void measure()
     bench::controls(report);
     bench::summary(report);
     bench::specialties(report);
+    bench::teeth(report);
     bench::figures(report);
     bench::vaccines(report);
     bench::complements(report);

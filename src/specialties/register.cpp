@@ -16,6 +16,7 @@
 #include "specialties/gynaecology/panGinecoGestas.h"
 #include "specialties/gynaecology/panGinecoOtros.h"
 #include "specialties/gynaecology/panVidaSexual.h"
+#include "specialties/odontology/tooth.h"
 #include "specialties/risk/panEvalDeportiva.h"
 #include "specialties/risk/panRiesgoOperatorio.h"
 #include "specialties/risk/panTestCardio.h"
@@ -43,4 +44,6 @@ void specialties::registerScreens()
     screens::add<panGinecoOtros>("panGinecoOtros");
     screens::add<panVidaSexual>("panVidaSexual");
     screens::add<panCalRiesgoGesta>("panCalRiesgoGesta");
+    screens::add<tooth>("tooth");
+    ports::abrePresupuestos.provide(tooth::abrirPresupuestos);
 }

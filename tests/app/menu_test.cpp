@@ -23,7 +23,6 @@ const std::set<std::string> notBuiltYet{
     "panMadNeurol",
     "panProtBase",
     "panServices",
-    "tooth",
 };
 
 bool leadsIntoTheProgram(menu::Kind kind)

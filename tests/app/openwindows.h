@@ -62,6 +62,9 @@
 #include "specialties/gynaecology/panExaGineco.h"
 #include "specialties/gynaecology/panNueExGesta.h"
 #include "specialties/gynaecology/panNueExamenGineco.h"
+#include "specialties/odontology/PannuePractico.h"
+#include "specialties/odontology/panComparaEsquemas.h"
+#include "specialties/odontology/panNuePresu.h"
 #include "specialties/risk/panSelRiesgoCardio.h"
 #include "subsystems.h"
 
@@ -121,6 +124,9 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panExaMamas"), opening<panExaMamas>()},
         {QStringLiteral("panNueExGesta"), opening<panNueExGesta>()},
         {QStringLiteral("panNueExamenGineco"), opening<panNueExamenGineco>()},
+        {QStringLiteral("panNuePresu"), opening<panNuePresu>()},
+        {QStringLiteral("PannuePractico"), opening<PannuePractico>()},
+        {QStringLiteral("panComparaEsquemas"), opening<panComparaEsquemas>()},
         {QStringLiteral("panSelRiesgoCardio1"), opening<panSelRiesgoCardio1>()},
         {QStringLiteral("panSelRiesgoCardio2"), opening<panSelRiesgoCardio2>()},
         {QStringLiteral("panInfRelVac"), [] { return std::make_unique<panInfRelVac>(QString()); }},

@@ -183,15 +183,17 @@ void drag(const Target &source, const Target &target, QPointF twips)
     const Spot to = spotOf(target, twips);
     bringForward(from.widget);
     const QPointer<QWidget> self(from.widget);
-    const QPointF start = from.place;
-    const QPointF end = from.widget->mapFromGlobal(to.widget->mapToGlobal(QPointF(to.place)));
-    sendMouse(from.widget, QEvent::MouseButtonPress, start, Qt::LeftButton, Qt::LeftButton);
+    // On the screen: what is dragged may move under the mouse.
+    const QPointF start = from.widget->mapToGlobal(QPointF(from.place));
+    const QPointF end = to.widget->mapToGlobal(QPointF(to.place));
+    const auto here = [&](QPointF onScreen) { return from.widget->mapFromGlobal(onScreen); };
+    sendMouse(from.widget, QEvent::MouseButtonPress, here(start), Qt::LeftButton, Qt::LeftButton);
     constexpr int moves = 4;
     for (int i = 1; i <= moves && self; ++i)
-        sendMouse(from.widget, QEvent::MouseMove, start + (end - start) * i / moves, Qt::NoButton,
+        sendMouse(from.widget, QEvent::MouseMove, here(start + (end - start) * i / moves), Qt::NoButton,
                   Qt::LeftButton);
     if (self)
-        sendMouse(from.widget, QEvent::MouseButtonRelease, end, Qt::LeftButton, Qt::NoButton);
+        sendMouse(from.widget, QEvent::MouseButtonRelease, here(end), Qt::LeftButton, Qt::NoButton);
 }
 
 void focus(QWidget *widget)

@@ -6,6 +6,7 @@
 #include "hearts.h"
 #include "cashandstock.h"
 #include "eyes.h"
+#include "teeth.h"
 #include "vaccines.h"
 #include "visits.h"
 
@@ -180,6 +181,7 @@ void fill(const Size &size)
     addVaccines(patients, size.vaccinated, size.today, ofVaccines);
     Dice ofEyes(size.seed);
     addEyeVisits(patients, size.today, ofEyes);
+    addDentalRecords(patients, size.today);
     Dice ofMoney(size.seed);
     addCash(size.today, ofMoney);
     addStock(size.today, ofMoney);

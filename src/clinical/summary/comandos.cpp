@@ -23,7 +23,7 @@ constexpr Comando todos[] = {
     {"label31", "Biomicroscopia", Lugar::Oftalmologia, "pangraBioX"},
     {"label84", "Lectura", Lugar::Oftalmologia, "panOft"},
     {"label29", "Odontograma", Lugar::Odontologia, "tooth"},
-    {"label32", "Presupuestación...", Lugar::Odontologia, ""},
+    {"label32", "Presupuestación...", Lugar::Odontologia, "tooth"},
     {"Label23", "Antecedentes", Lugar::Ginecologia, "panAnteGineco", "", "", false, "alarmaAntecGineco", "GinecoAntecedentes"},
     {"Label54", "Exámenes...", Lugar::Ginecologia, "panGinecoExamen", "", "", false, "alarmaExGineco", "GinecoExamen"},
     {"Label55", "Gestación...", Lugar::Ginecologia, "panGinecoGestas", "", "", false, "alarmaGestacion", "GinecoGestacion"},

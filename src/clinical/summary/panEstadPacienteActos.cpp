@@ -102,6 +102,11 @@ void panEstadPaciente::abrirComando(const Comando &comando)
         abrirUltimaLectura();
         return;
     }
+    if (QByteArrayView(comando.control) == "label32") {
+        ports::abrePresupuestos(numero());
+        llenar();
+        return;
+    }
     const screens::Window ventana = *screens::Window::find(QString::fromLatin1(comando.ventana));
     if (QByteArrayView(comando.ventana) == "panEvalDeportiva" &&
         !clinical::tieneEvolucionCardiologica(numero())) {

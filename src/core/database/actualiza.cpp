@@ -236,6 +236,19 @@ constexpr const char *tablasDeOftalmologia[] = {
     "CREATE INDEX Clase ON AuxiliarOftalmo (Clase, Descripcion)",
 };
 
+// A line of a budget keeps the name that its practice had; those of older versions have only its key. The key of the
+// budget stands in its head.
+constexpr const char *renglonesDePresupuesto =
+    "Select RelPractico.codpresupuesto, RelPractico.codpractico, "
+    "IIf(RelPractico.detalle Is Null, Practicos.detalle, RelPractico.detalle) AS detalle, RelPractico.cantidad, "
+    "RelPractico.precio, RelPractico.subtotal, Presupuestos.idpresupuesto FROM (RelPractico LEFT JOIN Practicos "
+    "ON RelPractico.codpractico = Practicos.idpractico) LEFT JOIN Presupuestos "
+    "ON RelPractico.codpresupuesto = Presupuestos.idpresupuesto";
+constexpr const char *indicesDeOdontologia[] = {
+    "CREATE INDEX fecha ON Presupuestos (fecha)",
+    "CREATE INDEX detalle ON Practicos (detalle)",
+};
+
 /// A statement that has taken effect fails, and so does one that names a column that never was.
 constexpr std::initializer_list<int> yaHecho = {
     dao::Error::TableExists,   dao::Error::IndexExists,  dao::Error::FieldExists,   dao::Error::FieldNotFound,
@@ -347,6 +360,15 @@ void reparaConsultasOftalmologicas()
         BaseDatos.widenText(u"ConsultaOftalmo"_s, u"Auxiliar%1"_s.arg(n), largoDeCorreccion);
 }
 
+/// Once: the column tells whether it was done.
+void reparaPresupuestos()
+{
+    if (BaseDatos.tableDef(u"RelPractico").field(u"detalle"))
+        return;
+    BaseDatos.execute(u"ALTER TABLE RelPractico ADD COLUMN detalle TEXT(100)"_s);
+    BaseDatos.createQuery(u"ConsultaPresupuesto"_s, QString::fromUtf8(renglonesDePresupuesto));
+}
+
 /// Once, with the tables: what a practice has taken off does not come back.
 void iniciaStock()
 {
@@ -403,6 +425,8 @@ void ActualizaBase()
     ejecuta(tablasDeLaboratorio);
     ejecuta(tablasDeOftalmologia);
     basic::ignoring(yaHecho, reparaConsultasOftalmologicas);
+    basic::ignoring(yaHecho, reparaPresupuestos);
+    ejecuta(indicesDeOdontologia);
     reparaTipoDeUsuarios();
     basic::ignoring(yaHecho, [] { BaseDatos.widenText(u"Usuarios"_s, u"Clave"_s, largoDeClave); });
     basic::ignoring(yaHecho, alargaResultados);

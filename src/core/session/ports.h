@@ -69,6 +69,8 @@ inline Port<std::optional<QString>(qint64 paciente, const QString &textoInicial)
 inline Port<bool(qint64 paciente, qint64 idConsulta)> registrarOftalmo;
 /// The last eye visit of a patient.
 inline Port<std::optional<qint64>(qint64 paciente)> ultimaVisitaOftalmo;
+/// Opens the dentist's record of a patient on the budgets.
+inline Port<void(qint64 paciente)> abrePresupuestos;
 /// Opens the report with pictures of a complementary examination of a patient.
 inline Port<void(qint64 paciente, const QString &examen)> abreComplemento;
 /// Lets a person choose a diagnosis from the practice's classifier.

@@ -285,7 +285,9 @@ void CanvasItem::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
 
 void CanvasItem::contextMenuEvent(QGraphicsSceneContextMenuEvent *event)
 {
-    event->accept();
+    event->setAccepted(acceptedMouseButtons() != Qt::NoButton); // the scene asks what lies below an inert one
+    if (!event->isAccepted())
+        return;
     canvas_.tell(&Canvas::contextMenu, name(), event->screenPos());
 }
 

@@ -243,6 +243,7 @@ void Data::writeCell(qint64 row, int ordinal, const QString &text)
         const FieldType type = rows.fields().at(static_cast<std::size_t>(ordinal)).type;
         rows.edit([&] { rows.setValue(ordinal, typedValue(text, type)); });
     });
+    emit cellWritten();
 }
 
 basic::Value Data::valueToShow(const Binding &binding) const

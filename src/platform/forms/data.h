@@ -63,6 +63,7 @@ signals:
     void reposition(); ///< the current row is another, or none
     void refreshed();  ///< the rows are others
     void rowWritten(); ///< the bound controls' values are in the row
+    void cellWritten(); ///< writeCell() wrote a column of the current row
 
 private:
     struct Binding {

@@ -193,8 +193,9 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override
     {
         const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-        return editable_ && data_.hasRecordset() && data_.recordset().updatable() ? flags | Qt::ItemIsEditable
-                                                                                  : flags;
+        const bool typedIn = editable_ && !columns_[static_cast<std::size_t>(index.column())].fixed &&
+                             data_.hasRecordset() && data_.recordset().updatable();
+        return typedIn ? flags | Qt::ItemIsEditable : flags;
     }
 
 private:

@@ -11,13 +11,15 @@ namespace forms
 {
 
 /// A column of a grid: heading, field, display pattern (basic::format; empty shows the value's text), width
-/// in pixels (0: by its heading). A secret one shows dots until setSecretsShown().
+/// in pixels (0: by its heading). A secret one shows dots until setSecretsShown(); a fixed one is not typed in where
+/// the others are.
 struct GridColumn {
     QString heading;
     QString field;
     QString pattern = {};
     int width = 0;
     bool secret = false;
+    bool fixed = false;
 };
 
 /// How a row stands out from the others by one of its values.
