@@ -1,5 +1,6 @@
 #include "platform/dao/database.h"
 
+#include "platform/basic/files.h"
 #include "platform/dao/embedded/embeddedengine.h"
 #include "platform/dao/embedded/firstpage.h"
 #include "platform/dao/embedded/key.h"
@@ -9,6 +10,8 @@
 #include <QFileInfo>
 
 #include <algorithm>
+
+#include ENGINE_HEADER
 
 /// Work on a closed file as a whole. Both operations write a new file under another name first, so that a
 /// failure midway leaves what there was.
@@ -31,10 +34,40 @@ QString journalOf(const QString &path)
     return path + QStringLiteral("-journal");
 }
 
-void requireClosed(EmbeddedEngine &engine)
+/// Asks now and then whether the work goes on, by how much of the new file there is.
+class Watch
 {
-    engine.run("BEGIN IMMEDIATE; ROLLBACK");
-}
+public:
+    Watch(const FileProgress &progress, const QString &source, QString fresh)
+        : progress_(progress), fresh_(std::move(fresh)), total_(QFileInfo(source).size())
+    {
+    }
+
+    bool goesOn()
+    {
+        if (progress_ && !stopped_)
+            stopped_ = !progress_(std::min(QFileInfo(fresh_).size(), total_), total_);
+        return !stopped_;
+    }
+    bool stopped() const { return stopped_; }
+    /// Of the statements of a connection as well.
+    void follow(EmbeddedEngine &engine)
+    {
+        constexpr int instructions = 1'000'000;
+        const auto ask = [](void *own) { return static_cast<Watch *>(own)->goesOn() ? 0 : 1; };
+        sqlite3_progress_handler(engine.handle(), instructions, ask, this);
+    }
+
+private:
+    const FileProgress &progress_;
+    QString fresh_;
+    qint64 total_;
+    bool stopped_ = false;
+};
+
+/// Leaves the work that was stopped.
+struct Stopped {
+};
 
 /// A file that is being written; gone again unless it was kept.
 class Unfinished
@@ -48,11 +81,8 @@ public:
     void keepAs(const QString &name) const
     {
         // A journal that was left of another file of this name must not be played back into this one.
-        QFile::remove(journalOf(name));
-        if (!QFile::rename(path_, name))
-            throw Error(
-                Error::ReadOnly,
-                QStringLiteral("No se pudo crear el archivo '%1'.").arg(QDir::toNativeSeparators(name)));
+        basic::removeFile(journalOf(name));
+        basic::replaceFile(path_, name);
     }
 
 private:
@@ -69,8 +99,8 @@ private:
 class Rescue
 {
 public:
-    Rescue(const QString &from, const QString &to, const QString &password)
-        : from_(from), password_(password),
+    Rescue(const QString &from, const QString &to, const QString &password, Watch &watch)
+        : from_(from), password_(password), watch_(watch),
           to_(to, password.isEmpty() ? QByteArray() : rawKey(password, freshSalt()), {.create = true})
     {
         reopen();
@@ -184,6 +214,8 @@ private:
             while (select->step()) {
                 reached = select->integer(0);
                 copyRow(*select);
+                if (++copied_ % rowsBetweenLooks == 0 && !watch_.goesOn())
+                    throw Stopped();
             }
             return {};
         } catch (const Error &) {
@@ -218,8 +250,11 @@ private:
         insert_->insert();
     }
 
+    static constexpr qint64 rowsBetweenLooks = 1000;
+
     QString from_;
     QString password_;
+    Watch &watch_;
     EmbeddedEngine to_;
     std::unique_ptr<EmbeddedEngine> source_;
     std::unique_ptr<EngineStatement> insert_;
@@ -227,6 +262,7 @@ private:
     QString select_;
     int columns_ = 0;
     int failures_ = 0;
+    qint64 copied_ = 0;
 };
 
 /// The pages that describe the tables can be read.
@@ -239,59 +275,81 @@ bool readsCatalogue(const QString &path, const QString &password)
 
 } // namespace
 
-void compactDatabase(const QString &source, const QString &destination, const QString &destinationLocale,
-                     const QString &sourceConnect)
+bool compactDatabase(const QString &source, const QString &destination, const QString &destinationLocale,
+                     const QString &sourceConnect, const FileProgress &progress)
 {
     if (QFile::exists(destination))
         throw Error(Error::FileExists,
                     QStringLiteral("El archivo '%1' ya existe.").arg(QDir::toNativeSeparators(destination)));
     const QString password = passwordOf(namesPassword(destinationLocale) ? destinationLocale : sourceConnect);
+    requireDatabaseFile(source);
+    const Alone alone(source);
     const Unfinished fresh(destination + QStringLiteral(".tmp"));
+    Watch watch(progress, source, fresh.path());
     {
         const auto engine = openEmbedded(source, passwordOf(sourceConnect), {});
         const QByteArray key = password.isEmpty() ? QByteArray() : rawKey(password, freshSalt());
-        requireClosed(*engine);
-        const QString attach =
-            QStringLiteral("ATTACH %1 AS destino KEY %2")
-                .arg(quoted(QFile::encodeName(fresh.path())),
-                     key.isEmpty() ? QStringLiteral("''") : u'"' + QString::fromLatin1(key) + u'"');
+        watch.follow(*engine);
         // The connection may not make files, but fills an empty one.
         if (QFile empty(fresh.path()); !empty.open(QIODevice::WriteOnly))
             throw Error(Error::ReadOnly, QStringLiteral("No se pudo crear el archivo '%1'.")
                                              .arg(QDir::toNativeSeparators(destination)));
+        const QString attach =
+            QStringLiteral("ATTACH %1 AS destino KEY %2")
+                .arg(quoted(QFile::encodeName(fresh.path())),
+                     key.isEmpty() ? QStringLiteral("''") : u'"' + QString::fromLatin1(key) + u'"');
         engine->run(attach.toUtf8());
-        engine->run("BEGIN; SELECT sqlcipher_export('destino'); COMMIT; DETACH destino");
+        // A file that is nothing until it is whole needs no journal, and reaches the disk before it gets its name.
+        engine->run("PRAGMA destino.journal_mode = OFF; PRAGMA destino.synchronous = OFF");
+        try {
+            engine->run("BEGIN; SELECT sqlcipher_export('destino'); COMMIT; DETACH destino");
+        } catch (const Error &) {
+            if (watch.stopped())
+                return false;
+            throw;
+        }
     }
     fresh.keepAs(destination);
+    return true;
 }
 
-void repairDatabase(const QString &path, const QString &connect)
+bool repairDatabase(const QString &path, const QString &connect, const FileProgress &progress)
 {
     const QString password = passwordOf(connect);
+    const Alone alone(path);
     const Unfinished fresh(path + QStringLiteral(".tmp"));
     const Unfinished headed(path + QStringLiteral(".cabeza"));
     const bool plain = isPlainDatabase(path);
     const bool catalogued = readsCatalogue(path, password);
     if (!catalogued && !plain)
         copyWithNewFirstPage(path, headed.path(), password);
-    {
-        Rescue rescue(catalogued || plain ? path : headed.path(), fresh.path(), plain ? QString() : password);
+    Watch watch(progress, path, fresh.path());
+    try {
+        Rescue rescue(catalogued || plain ? path : headed.path(), fresh.path(), plain ? QString() : password,
+                      watch);
         rescue.run();
+    } catch (const Stopped &) {
+        return false;
     }
     QString aside = path + QStringLiteral(".dañada");
     for (int i = 2; QFile::exists(aside); ++i)
         aside = path + QStringLiteral(".dañada%1").arg(i);
-    // A journal of the damaged file goes with it.
-    QFile::remove(journalOf(aside));
-    QFile::rename(journalOf(path), journalOf(aside));
-    if (!QFile::rename(path, aside))
-        throw Error(Error::ReadOnly, QStringLiteral("No se pudo apartar el archivo dañado."));
-    try {
-        fresh.keepAs(path);
-    } catch (const Error &) {
-        QFile::rename(aside, path);
-        throw;
-    }
+    replaceDatabase(path, fresh.path(), aside);
+    return true;
+}
+
+void replaceDatabase(const QString &path, const QString &fresh, const QString &aside)
+{
+    basic::syncFile(fresh);
+    basic::removeFile(journalOf(aside));
+    if (QFile::exists(path))
+        basic::keepUnderAnotherName(path, aside);
+    // The journal goes before the file is replaced: it must never be played back into the new one.
+    if (QFileInfo(journalOf(path)).size() > 0)
+        basic::replaceFile(journalOf(path), journalOf(aside));
+    else
+        basic::removeFile(journalOf(path));
+    basic::replaceFile(fresh, path);
 }
 
 } // namespace dao
