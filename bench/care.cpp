@@ -24,16 +24,18 @@ namespace
 constexpr double patienceForABackup = 10000, patienceToProtect = 45000, patienceToCompact = 60000,
                  patienceToRestore = 20000, longestSilence = 1000;
 
-/// How long the work was silent at most, in milliseconds: so long a person waits for "Detener".
+/// How long a stage that tells how far it is was silent at most, in milliseconds: so long a person waits for
+/// "Detener".
 class Silence
 {
 public:
-    Silence() { since_.start(); }
     mantenimiento::Avance told()
     {
-        return [this](const QString &, qint64, qint64 total) {
-            longest_ = total > 0 ? std::max(longest_, since_.elapsed()) : longest_;
-            since_.restart();
+        return [this](const QString &stage, qint64, qint64 total) {
+            if (total > 0 && stage == stage_)
+                longest_ = std::max(longest_, since_.elapsed());
+            stage_ = stage;
+            since_.start();
             return true;
         };
     }
@@ -41,6 +43,7 @@ public:
 
 private:
     QElapsedTimer since_;
+    QString stage_;
     qint64 longest_ = 0;
 };
 

@@ -10,9 +10,9 @@ namespace respaldo
 /// Where this workstation keeps its copies, and how many: from the settings.
 struct Destino {
     QString carpeta;
-    QString segunda;        ///< a second folder, on another disk; empty for none
-    int conservar = 0;      ///< of the newest in each folder; 0 keeps all
-    int diasDeAviso = 7;    ///< without a copy, after which a notice reminds; 0 never
+    QString segunda;     ///< a second folder, on another disk; empty for none
+    int conservar = 0;   ///< of the newest in each folder; 0 keeps all
+    int diasDeAviso = 7; ///< without a copy, after which a notice reminds; 0 never
 };
 Destino destino();
 void recordar(const Destino &destino);
@@ -20,13 +20,14 @@ void recordar(const Destino &destino);
 /// What became of a copy that was made.
 struct Hecha {
     QString archivo;
-    QString fallaDeLaSegunda; ///< why the second folder has none; empty when it has, or there is no such folder
+    QString
+        fallaDeLaSegunda; ///< why the second folder has none; empty when it has, or there is no such folder
 };
 /// The same in words for a person.
 QString avisoDeLaSegunda(const Hecha &hecha);
 
-/// Copies the practice's file, which stays in use, to both folders and checks each copy; only then those that are
-/// too many go. Nothing when it was stopped. Throws basic::Error when the first copy cannot be made.
+/// Copies the practice's file, which stays in use, to both folders and checks each copy; only then those that
+/// are too many go. Nothing when it was stopped. Throws basic::Error when the first copy cannot be made.
 std::optional<Hecha> respaldar(const Destino &destino, const QString &base, const QString &conexion,
                                const QDateTime &momento, const Avance &avance);
 

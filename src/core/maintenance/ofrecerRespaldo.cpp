@@ -39,12 +39,12 @@ bool respaldarAhora()
         return false;
     std::optional<respaldo::Hecha> hecha;
     try {
-        mantenimiento::trabajar(
-            u"Se hace una copia de seguridad"_s, mantenimiento::Detencion::Posible, [&](const auto &avance) {
-                hecha = respaldo::respaldar(destino, basic::programFile(u"BASE.MDB"_s), conexionDeLaBase(),
-                                            basic::now(), avance);
-                return hecha.has_value();
-            });
+        mantenimiento::trabajar(u"Se hace una copia de seguridad"_s, mantenimiento::Detencion::Posible,
+                                [&](const auto &avance) {
+                                    hecha = respaldo::respaldar(destino, basic::programFile(u"BASE.MDB"_s),
+                                                                conexionDeLaBase(), basic::now(), avance);
+                                    return hecha.has_value();
+                                });
     } catch (const basic::Error &error) {
         MuestraError(u"La copia de seguridad no se pudo hacer.\n"_s + error.description());
     }

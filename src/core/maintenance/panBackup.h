@@ -7,8 +7,8 @@
 
 #include <QSpinBox>
 
-/// "Seleccione destino del backup": copies the practice's file to a folder, and to a second one if there is, and
-/// ends the program. When the copy cannot be made the window stays, and the base is closed.
+/// "Seleccione destino del backup": copies the practice's file to a folder, and to a second one if there is,
+/// and ends the program. When the copy cannot be made the window stays, and the base is closed.
 class panBackup : public forms::Form
 {
     Q_OBJECT

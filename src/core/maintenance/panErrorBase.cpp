@@ -28,7 +28,8 @@ panErrorBase::panErrorBase() : Form(u"panErrorBase"_s)
     for (Label *texto : {&Label1, &Label3, &Label4, &Label5})
         texto->setWordWrap(true);
     Command1.setDefault(true);
-    setContents(this, Column{Label1, Label2, Label3, Label4, Label5, Space(8), Row{Command1, Stretch(), Command2}});
+    setContents(this,
+                Column{Label1, Label2, Label3, Label4, Label5, Space(8), Row{Command1, Stretch(), Command2}});
     setFixedWidth(560);
     connect(&Command1, &QPushButton::clicked, this, &panErrorBase::reparar);
     connect(&Command2, &QPushButton::clicked, this, [] { MODULE11::terminar(); });

@@ -3,8 +3,8 @@
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 
-/// "Error en la base de datos": says what may have happened to the practice's file and offers to mend it. After
-/// that it stays, whatever came of it.
+/// "Error en la base de datos": says what may have happened to the practice's file and offers to mend it.
+/// After that it stays, whatever came of it.
 class panErrorBase : public forms::Form
 {
     Q_OBJECT

@@ -32,8 +32,8 @@ void panEsperaCopia::mostrar(const QString &etapa, qint64 hechos, qint64 total)
 {
     ProgressBar1.setMaximum(total > 0 ? pasos : 0);
     ProgressBar1.setValue(total > 0 ? static_cast<int>(hechos * pasos / total) : 0);
-    const QString cuanto = u" %1 de %2 MB"_s.arg(basic::format(hechos / mega, u"#,##0"),
-                                                 basic::format(total / mega, u"#,##0"));
+    const QString cuanto =
+        u" %1 de %2 MB"_s.arg(basic::format(hechos / mega, u"#,##0"), basic::format(total / mega, u"#,##0"));
     Label2.setCaption(detenida_ ? u"Se detiene..."_s : total > 0 ? etapa + cuanto : etapa);
 }
 

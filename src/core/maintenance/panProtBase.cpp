@@ -64,7 +64,8 @@ bool panProtBase::clavesBienEscritas()
         Text2.setFocus();
         return false;
     }
-    // Without one the children's records would lie open; and behind a semicolon the engine would read another word.
+    // Without one the children's records would lie open; and behind a semicolon the engine would read another
+    // word.
     if (Text2.text().isEmpty() || Text2.text().contains(u';')) {
         markWrong(Text2, Text2.text().isEmpty() ? u"Ingrese la clave nueva"_s
                                                 : u"La clave no puede llevar punto y coma"_s);
@@ -81,7 +82,8 @@ bool panProtBase::claveAnteriorBien()
         return true;
     const auto anterior = proteccion::DesencriptaClave(guardada);
     if (!anterior) {
-        error(u"La clave guardada en las opciones de este equipo está dañada: la anterior se comprueba con la base misma."_s);
+        error(
+            u"La clave guardada en las opciones de este equipo está dañada: la anterior se comprueba con la base misma."_s);
         return true;
     }
     if (*anterior == Text1.text())

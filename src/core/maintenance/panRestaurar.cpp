@@ -93,9 +93,9 @@ void panRestaurar::agregar(const restauracion::Copia &copia)
     Grid1.insertRow(fila);
     Grid1.setItem(fila, cFecha, new QTableWidgetItem(fechaDe(copia)));
     Grid1.setItem(fila, cPacientes, new QTableWidgetItem(u"..."_s));
-    Grid1.setItem(fila, cTamano,
-                  new QTableWidgetItem(basic::format(static_cast<double>(copia.bytes) / mega, u"#,##0.0") +
-                                       u" MB"_s));
+    Grid1.setItem(
+        fila, cTamano,
+        new QTableWidgetItem(basic::format(static_cast<double>(copia.bytes) / mega, u"#,##0.0") + u" MB"_s));
     Grid1.setItem(fila, cArchivo, new QTableWidgetItem(QDir::toNativeSeparators(copia.archivo)));
     for (const int columna : {cPacientes, cTamano})
         Grid1.item(fila, columna)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -126,7 +126,8 @@ void panRestaurar::mostrarPacientes(int fila, const QString &texto)
 
 void panRestaurar::buscarOtra()
 {
-    const QString archivo = openFileDialog(windowTitle(), QDir::rootPath(), u"Copias (*.MDB *.mdb *.BAK *.aparte)"_s);
+    const QString archivo =
+        openFileDialog(windowTitle(), QDir::rootPath(), u"Copias (*.MDB *.mdb *.BAK *.aparte)"_s);
     if (archivo.isEmpty())
         return;
     const QFileInfo info(archivo);
@@ -158,18 +159,18 @@ void panRestaurar::poner(const restauracion::Copia &copia)
 {
     const QString aparte = restauracion::nombreAparte(basic::now());
     const bool habiaBase = QFileInfo::exists(basic::programFile(u"BASE.MDB"_s));
-    const bool hecho =
-        mantenimiento::trabajar(u"Se restaura la copia"_s, mantenimiento::Detencion::Posible,
-                                [&](const auto &avance) {
-                                    return restauracion::restaurar(copia.archivo, basic::programFolder(), aparte,
-                                                                   MODULE11::conexionDeLaBase(), avance);
-                                });
+    const bool hecho = mantenimiento::trabajar(
+        u"Se restaura la copia"_s, mantenimiento::Detencion::Posible, [&](const auto &avance) {
+            return restauracion::restaurar(copia.archivo, basic::programFolder(), aparte,
+                                           MODULE11::conexionDeLaBase(), avance);
+        });
     if (!hecho) {
         reabrir();
         return;
     }
     const QString anterior = habiaBase ? u"\nEl archivo anterior quedó con el nombre "_s + aparte : QString();
-    MODULE11::Aviso(u"Se restauró la copia del %1, debe reiniciar Sanirell!"_s.arg(fechaDe(copia)) + anterior);
+    MODULE11::Aviso(u"Se restauró la copia del %1, debe reiniciar Sanirell!"_s.arg(fechaDe(copia)) +
+                    anterior);
     MODULE11::terminar();
 }
 
@@ -177,7 +178,8 @@ void panRestaurar::poner(const restauracion::Copia &copia)
 void panRestaurar::reabrir()
 {
     basic::ignoring({dao::Error::FileNotFound}, [] {
-        MODULE11::BaseDatos.open(basic::programFile(u"BASE.MDB"_s), false, false, MODULE11::conexionDeLaBase());
+        MODULE11::BaseDatos.open(basic::programFile(u"BASE.MDB"_s), false, false,
+                                 MODULE11::conexionDeLaBase());
     });
     contar();
 }

@@ -8,8 +8,8 @@
 
 #include <thread>
 
-/// "Restaurar una copia de seguridad": the copies that are known, with their date, size and patients; the chosen
-/// one takes the place of the practice's file, which stays aside, and the program ends.
+/// "Restaurar una copia de seguridad": the copies that are known, with their date, size and patients; the
+/// chosen one takes the place of the practice's file, which stays aside, and the program ends.
 class panRestaurar : public forms::Form
 {
     Q_OBJECT

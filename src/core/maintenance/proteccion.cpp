@@ -24,9 +24,8 @@ const QString llave = u"7C2E41B09DA6F3185EC0B72D49A"_s;
 QString conexionDe(const QString &base, const QString &otra)
 {
     dao::Database abierta;
-    const bool propia = basic::ignoring({dao::Error::WrongPassword}, [&] {
-        abierta.open(base, false, true, MODULE11::conexionDeLaBase());
-    });
+    const bool propia = basic::ignoring(
+        {dao::Error::WrongPassword}, [&] { abierta.open(base, false, true, MODULE11::conexionDeLaBase()); });
     return propia ? MODULE11::conexionDeLaBase() : otra;
 }
 

@@ -14,9 +14,9 @@ namespace proteccion
 QString EncriptaClave(const QString &clave);
 std::optional<QString> DesencriptaClave(const QString &texto);
 
-/// Puts the file BASE.MDB of the folder, closed, under a new password. What stood there is in BACKUP.MDB and the
-/// new file in COMPACTA.MDB as well; until the last step BASE.MDB is as it was. The text of the step that failed,
-/// after which the following are not done; empty when it was done.
+/// Puts the file BASE.MDB of the folder, closed, under a new password. What stood there is in BACKUP.MDB and
+/// the new file in COMPACTA.MDB as well; until the last step BASE.MDB is as it was. The text of the step that
+/// failed, after which the following are not done; empty when it was done.
 QString proteger(const QString &carpeta, const QString &anterior, const QString &nueva,
                  const mantenimiento::Avance &avance);
 

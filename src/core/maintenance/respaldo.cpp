@@ -116,7 +116,8 @@ void revisar(const QString &archivo, const QString &conexion, const Avance &avan
     abierta.open(archivo, false, true, conexion);
     if (const QStringList fallas = abierta.check(dao::Database::Check::Pages); !fallas.isEmpty())
         falla(u"La copia no está sana: %1"_s.arg(fallas.first()));
-    abierta.openRecordset(u"Select count(*) from Pacientes"_s); // sound pages of another kind of base are no copy
+    abierta.openRecordset(
+        u"Select count(*) from Pacientes"_s); // sound pages of another kind of base are no copy
 }
 
 void quitarAlLado(const QString &archivo)

@@ -25,8 +25,8 @@ enum class Origen { EnUso, Quieto };
 /// Whether the copy is opened and checked, or holds what there was, sound or not.
 enum class Copia { Revisada, TalCual };
 
-/// Copies the file and gives the copy its name, over one of the same name. Throws basic::Error with what keeps
-/// it from being made; false when it was stopped.
+/// Copies the file and gives the copy its name, over one of the same name. Throws basic::Error with what
+/// keeps it from being made; false when it was stopped.
 bool copiar(const QString &origen, const QString &destino, const QString &conexion, const Avance &avance,
             Origen de = Origen::EnUso, Copia copia = Copia::Revisada);
 

@@ -18,7 +18,8 @@ namespace
 {
 
 /// What stands beside BASE.MDB once it has been protected, repaired, restored or brought up to date.
-const QStringList alLado = {u"BACKUP.MDB"_s, u"BASE.BAK"_s, u"COMPACTA.MDB"_s, u"*.aparte"_s, u"BASE.MDB.dañada*"_s};
+const QStringList alLado = {u"BACKUP.MDB"_s, u"BASE.BAK"_s, u"COMPACTA.MDB"_s, u"*.aparte"_s,
+                            u"BASE.MDB.dañada*"_s};
 
 QFileInfoList rescatables(const QString &carpeta)
 {
@@ -84,11 +85,11 @@ QString queHacer(const QString &carpeta)
 {
     QStringList renglones;
     for (const QFileInfo &archivo : rescatables(carpeta))
-        renglones += u"%1 (%2)"_s.arg(archivo.fileName(),
-                                      archivo.lastModified().toString(u"dd/MM/yyyy HH:mm"_s));
-    return renglones.isEmpty()
-               ? QString()
-               : u"En la carpeta %1 hay de qué volver a trabajar: "_s.arg(carpeta) + renglones.join(u", "_s) + u'.';
+        renglones +=
+            u"%1 (%2)"_s.arg(archivo.fileName(), archivo.lastModified().toString(u"dd/MM/yyyy HH:mm"_s));
+    return renglones.isEmpty() ? QString()
+                               : u"En la carpeta %1 hay de qué volver a trabajar: "_s.arg(carpeta) +
+                                     renglones.join(u", "_s) + u'.';
 }
 
 } // namespace restauracion

@@ -28,8 +28,8 @@ public:
     /// Fills "Pacientes para Hoy" with the day's patients of the doctor who works here.
     void actualizarPacientesDeHoy();
 
-    /// Compacts the practice's file in its place, or offers to go back to BASE.BAK when it is missing; the base is
-    /// closed by it. Nothing calls it: it is there for who mends a practice.
+    /// Compacts the practice's file in its place, or offers to go back to BASE.BAK when it is missing; the
+    /// base is closed by it. Nothing calls it: it is there for who mends a practice.
     void VerificaBase();
 
 protected:

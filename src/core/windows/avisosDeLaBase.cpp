@@ -26,8 +26,8 @@ void volverAlRespaldo(const QString &base, const QString &respaldo)
     try {
         mantenimiento::trabajar(u"Espere miestras se actualiza la base de datos..."_s,
                                 mantenimiento::Detencion::Imposible, [&](const auto &avance) {
-                                    return respaldo::copiar(respaldo, base, MODULE11::conexionDeLaBase(), avance,
-                                                            respaldo::Origen::Quieto);
+                                    return respaldo::copiar(respaldo, base, MODULE11::conexionDeLaBase(),
+                                                            avance, respaldo::Origen::Quieto);
                                 });
     } catch (const basic::Error &error) {
         MODULE11::MuestraError(error.description());
@@ -36,7 +36,8 @@ void volverAlRespaldo(const QString &base, const QString &respaldo)
 
 void ofrecerElRespaldo(const QString &carpeta)
 {
-    const QString base = QDir(carpeta).filePath(u"BASE.MDB"_s), respaldo = QDir(carpeta).filePath(u"BASE.BAK"_s);
+    const QString base = QDir(carpeta).filePath(u"BASE.MDB"_s),
+                  respaldo = QDir(carpeta).filePath(u"BASE.BAK"_s);
     forms::msgBox(
         u"El archivo BASE.MDB no existe !!\nHa sido eliminado o movido de la carpeta %1\nEste archivo contiene información vital del sistema y sus datos."_s
             .arg(carpeta),
@@ -62,8 +63,8 @@ void Vademecum::avisarDeLaBase()
     }
     const QString hay = restauracion::queHacer(basic::programFolder());
     if (!hay.isEmpty())
-        franja_.avisar(u"No está el archivo BASE.MDB, la base de datos del sistema. "_s + hay, u"Restaurar..."_s,
-                       [] { screens::showModal("panRestaurar"); });
+        franja_.avisar(u"No está el archivo BASE.MDB, la base de datos del sistema. "_s + hay,
+                       u"Restaurar..."_s, [] { screens::showModal("panRestaurar"); });
 }
 
 /// The folders are looked at beside the window: one on the network may not answer.
