@@ -138,8 +138,12 @@ TEST_F(MantenimientoTest, onlyOwnCopiesBeyondTheNumberGo)
 {
     for (const char *nombre :
          {"2024_03_01_100000.MDB", "2024_03_02_100000.MDB", "2030_01_01_000000.MDB", "2024_13_01_100000.MDB",
-          "2024_03_01.MDB", "mi copia.MDB", "2024_03_01_100000.MDB.txt"})
+          "2024_03_01.MDB", "mi copia.MDB", "2024_03_01_100000.MDB.txt", "2024_03_01_100000.MDB.parcial"})
         escribir(QString::fromLatin1(nombre), "x");
+    QFile cortada(en(u"2024_03_01_100000.MDB.parcial"_s)); // of a station that died days ago
+    ASSERT_TRUE(cortada.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(cortada.setFileTime({QDate(2024, 3, 1), QTime(10, 0)}, QFileDevice::FileModificationTime));
+    cortada.close();
     respaldo::Destino destino = aqui();
     destino.conservar = 2;
     const QDateTime momento(QDate(2024, 3, 5), QTime(9, 7, 6));

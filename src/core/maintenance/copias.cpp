@@ -39,6 +39,16 @@ void quitarLasQueSobran(const QString &nueva, int conservar)
         basic::ignoring({basic::fileError}, [&] { basic::removeFile(QDir(carpeta).filePath(vieja)); });
 }
 
+/// What a station that died left half-way; another one may be at its copy now.
+void quitarParcialesViejos(const QString &carpeta, const QDateTime &momento)
+{
+    const QString parcial = u".parcial"_s;
+    for (const QFileInfo &archivo : QDir(carpeta).entryInfoList({u"*"_s + parcial}, QDir::Files))
+        if (momentoDe(archivo.fileName().chopped(parcial.size())) &&
+            archivo.lastModified().addDays(1) < momento)
+            basic::ignoring({basic::fileError}, [&] { basic::removeFile(archivo.filePath()); });
+}
+
 /// Why there is no copy in the second folder; empty when there is.
 QString copiarALaSegunda(const Destino &destino, const QString &primera, const QString &conexion,
                          const Avance &avance)
@@ -75,6 +85,9 @@ std::optional<Hecha> respaldar(const Destino &destino, const QString &base, cons
                                const QDateTime &momento, const Avance &avance)
 {
     Hecha hecha{QDir(destino.carpeta).filePath(nombre(momento)), {}};
+    for (const QString &carpeta : {destino.carpeta, destino.segunda})
+        if (!carpeta.isEmpty())
+            quitarParcialesViejos(carpeta, momento);
     if (!copiar(base, hecha.archivo, conexion, avance))
         return {};
     quitarLasQueSobran(hecha.archivo, destino.conservar);

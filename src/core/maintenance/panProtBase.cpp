@@ -1,8 +1,8 @@
 #include "core/maintenance/panProtBase.h"
 
-#include "core/maintenance/copias.h"
 #include "core/maintenance/ofrecerRespaldo.h"
 #include "core/maintenance/proteccion.h"
+#include "core/maintenance/trabajo.h"
 #include "core/services/services.h"
 #include "core/session/ending.h"
 #include "core/session/session.h"
@@ -46,13 +46,6 @@ panProtBase::panProtBase() : Form(u"panProtBase"_s)
     setMinimumWidth(560);
     connect(&Command1, &QPushButton::clicked, this, &panProtBase::establecer);
     connect(&Command2, &QPushButton::clicked, this, &panProtBase::unload);
-}
-
-void panProtBase::load()
-{
-    const bool hayCarpeta = !respaldo::destino().carpeta.isEmpty();
-    Check1.setEnabled(hayCarpeta);
-    Check1.setToolTip(hayCarpeta ? QString() : u"La carpeta se elige en la ventana del backup"_s);
 }
 
 bool panProtBase::clavesBienEscritas()

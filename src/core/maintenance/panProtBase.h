@@ -10,9 +10,6 @@ class panProtBase : public forms::Form
 public:
     panProtBase();
 
-protected:
-    void load() override;
-
 private:
     void establecer();
     bool clavesBienEscritas();

@@ -58,6 +58,7 @@ panRestaurar::panRestaurar() : Form(u"panRestaurar"_s)
     Grid1.setColumnWidth(cFecha, 160);
     Grid1.setColumnWidth(cPacientes, 130);
     Label1.setBuddy(&Grid1);
+    Command1.setDefault(true);
     Label2.setWordWrap(true);
     Label2.setCaption(
         u"El archivo de ahora queda aparte, con la fecha en el nombre. Lo que se cargó después de la copia elegida habrá que volver a cargarlo. Al terminar el sistema se cerrará."_s);

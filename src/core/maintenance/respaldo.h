@@ -9,7 +9,7 @@
 #include <optional>
 
 /// Copies of the practice's file. A copy bears its name only once it is whole and has been checked: what was
-/// left half-way lies beside it as ".parcial" at most, and is taken away by the next.
+/// left half-way lies beside it as ".parcial" at most, and goes with a later copy.
 namespace respaldo
 {
 
