@@ -1,14 +1,10 @@
 #include "figures.h"
 
-#include "core/maintenance/respaldo.h"
 #include "core/session/session.h"
-#include "core/session/startup.h"
 #include "figures/evolucionAnual.h"
 #include "figures/prevalencia.h"
 #include "figures/turnosPorMes.h"
 #include "platform/basic/environment.h"
-
-#include <QFile>
 
 #include <iostream>
 
@@ -24,7 +20,6 @@ namespace
 
 constexpr double patienceForMonths = 500, patienceForValues = 300, patienceForNames = 3000,
                  patienceForCounts = 700;
-constexpr double patienceForABackup = 10000;
 
 void overAllVisits(const Report &report)
 {
@@ -35,17 +30,6 @@ void overAllVisits(const Report &report)
            patienceForNames);
     report("prevalence by sex", elapsed([&] { porSexo(all, today); }), patienceForCounts);
     report("prevalence by age", elapsed([&] { porEdades(all, today); }), patienceForCounts);
-}
-
-void backup(const Report &report)
-{
-    const QString file = basic::programFile(u"BASE.MDB"_s), copy = file + u".copia"_s;
-    report("backup of the whole file, checked", elapsed([&] {
-               respaldo::copiar(file, copy, MODULE11::conexionDeLaBase(),
-                                [](qint64, qint64) { return true; });
-           }),
-           patienceForABackup);
-    QFile::remove(copy);
 }
 
 } // namespace
@@ -76,7 +60,6 @@ void figures(const Report &report)
            }),
            patienceForValues);
     overAllVisits(report);
-    backup(report);
 }
 
 } // namespace bench

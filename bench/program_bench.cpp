@@ -3,6 +3,7 @@
 // Ends non-zero when something was over its limit.
 #include "appointments.h"
 #include "births.h"
+#include "care.h"
 #include "complements.h"
 #include "controls.h"
 #include "eyes.h"
@@ -78,6 +79,7 @@ void measure()
     bench::specialties(report);
     bench::teeth(report);
     bench::figures(report);
+    bench::care(report);
     bench::vaccines(report);
     bench::complements(report);
     bench::money(report);

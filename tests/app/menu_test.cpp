@@ -21,7 +21,6 @@ const std::set<std::string> notBuiltYet{
     "panGArchivos",
     "panImagenes",
     "panMadNeurol",
-    "panProtBase",
     "panServices",
 };
 

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 class RespaldoTest : public DeliveredBase
 {
 protected:
-    static bool todo(qint64, qint64) { return true; }
+    static bool todo(const QString &, qint64, qint64) { return true; }
     QString origen() const { return folder.filePath(u"BASE.MDB"_s); }
     QString destino() const
     {
@@ -47,7 +47,7 @@ TEST_F(RespaldoTest, whatIsStoppedOrFailsLeavesNothingAndTheOldCopy)
 {
     ASSERT_TRUE(respaldo::copiar(origen(), destino(), MODULE11::conexionDeLaBase(), todo));
     EXPECT_FALSE(respaldo::copiar(origen(), destino(), MODULE11::conexionDeLaBase(),
-                                  [](qint64, qint64) { return false; }));
+                                  [](const QString &, qint64, qint64) { return false; }));
     EXPECT_EQ(quedan(), QStringList{u"2024_03_05_090706.MDB"_s});
     EXPECT_THROW(
         respaldo::copiar(origen(), carpeta.filePath(u"no hay/x.MDB"_s), MODULE11::conexionDeLaBase(), todo),

@@ -1,13 +1,11 @@
 #include "core/maintenance/ofrecerRespaldo.h"
 
-#include "core/maintenance/respaldo.h"
+#include "core/maintenance/copias.h"
 #include "core/services/services.h"
 #include "core/session/startup.h"
 #include "platform/basic/environment.h"
 #include "platform/basic/errors.h"
 #include "platform/forms/boxes.h"
-#include "platform/forms/progress.h"
-#include "platform/settings/settings.h"
 
 #include <QDir>
 #include <QWidget>
@@ -20,28 +18,46 @@ namespace MODULE11
 namespace
 {
 
-/// The folder of the backups, asked for and kept when there is none; empty when none was chosen.
-QString carpetaDeRespaldo()
+/// The folder is asked for once, and kept.
+respaldo::Destino destinoElegido()
 {
-    const QString seccion = u"Miscelaneas"_s, clave = u"RutaDestinoBackup"_s;
-    QString carpeta = settings::getSetting(seccion, clave);
-    if (carpeta.isEmpty()) {
-        carpeta = forms::folderDialog(u"Seleccione destino del backup"_s, QDir::rootPath());
-        if (!carpeta.isEmpty())
-            settings::saveSetting(seccion, clave, carpeta);
+    respaldo::Destino destino = respaldo::destino();
+    if (destino.carpeta.isEmpty()) {
+        destino.carpeta = forms::folderDialog(u"Seleccione destino del backup"_s, QDir::rootPath());
+        if (!destino.carpeta.isEmpty())
+            respaldo::recordar(destino);
     }
-    return carpeta;
-}
-
-bool copiarA(const QString &carpeta)
-{
-    forms::Progress avance(u"Se copia la base de datos"_s);
-    return respaldo::copiar(basic::programFile(u"BASE.MDB"_s),
-                            QDir(carpeta).filePath(respaldo::nombre(basic::now())), conexionDeLaBase(),
-                            [&](qint64 hechos, qint64 total) { return avance.tell(hechos, total); });
+    return destino;
 }
 
 } // namespace
+
+bool respaldarAhora()
+{
+    const respaldo::Destino destino = destinoElegido();
+    if (destino.carpeta.isEmpty())
+        return false;
+    std::optional<respaldo::Hecha> hecha;
+    try {
+        mantenimiento::trabajar(u"Se hace una copia de seguridad"_s, mantenimiento::Detencion::Posible,
+                                [&](const auto &avance) {
+                                    hecha = respaldo::respaldar(destino, basic::programFile(u"BASE.MDB"_s),
+                                                                conexionDeLaBase(), basic::now(), avance);
+                                    return hecha.has_value();
+                                });
+    } catch (const basic::Error &error) {
+        MuestraError(u"La copia de seguridad no se pudo hacer.\n"_s + error.description());
+    }
+    if (hecha && !hecha->fallaDeLaSegunda.isEmpty())
+        Aviso(respaldo::avisoDeLaSegunda(*hecha));
+    return hecha.has_value();
+}
+
+bool respaldarAntes()
+{
+    return respaldarAhora() ||
+           PreguntaSiBorra(u"No se hizo la copia de seguridad.\n¿Desea continuar sin ella?"_s);
+}
 
 bool ofrecerRespaldo(QWidget *padre)
 {
@@ -50,19 +66,9 @@ bool ofrecerRespaldo(QWidget *padre)
         u"Copia de seguridad"_s, forms::Icon::Question);
     if (!quiere.value_or(false))
         return quiere.has_value();
-    const QString carpeta = carpetaDeRespaldo();
-    if (carpeta.isEmpty())
-        return false;
-    try {
-        padre->setCursor(Qt::WaitCursor);
-        const bool entera = copiarA(carpeta);
-        padre->unsetCursor();
-        return entera;
-    } catch (const basic::Error &error) {
-        padre->unsetCursor();
-        return PreguntaSiBorra(
-            u"La copia de seguridad no se pudo hacer.\n%1\n¿Continuar sin ella?"_s.arg(error.description()));
-    }
+    const bool seguir = respaldarAntes();
+    padre->activateWindow();
+    return seguir;
 }
 
 } // namespace MODULE11

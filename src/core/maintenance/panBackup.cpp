@@ -1,6 +1,5 @@
 #include "core/maintenance/panBackup.h"
 
-#include "core/maintenance/respaldo.h"
 #include "core/services/services.h"
 #include "core/session/ending.h"
 #include "core/session/session.h"
@@ -8,16 +7,9 @@
 #include "platform/basic/environment.h"
 #include "platform/basic/errors.h"
 #include "platform/forms/boxes.h"
-#include "platform/forms/layout.h"
-#include "platform/forms/progress.h"
 #include "platform/forms/wrong.h"
-#include "platform/settings/settings.h"
 
 #include <QDir>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using namespace forms;
@@ -25,17 +17,15 @@ using namespace forms;
 namespace
 {
 
-const QString seccion = u"Miscelaneas"_s, clave = u"RutaDestinoBackup"_s;
+constexpr int masCopias = 999, masDias = 365;
 
-/// What is being written goes to the base before it is closed; a window that keeps its text keeps the backup
-/// waiting.
-bool cerrarFichas()
+void vestir(QSpinBox &numero, const QString &nombre, int hasta, const QString &sufijo, const QString &cero)
 {
-    if (!childArea())
-        return true;
-    for (QMdiSubWindow *ficha : childArea()->subWindowList())
-        ficha->close();
-    return std::ranges::none_of(childArea()->subWindowList(), &QMdiSubWindow::isVisible);
+    numero.setObjectName(nombre);
+    numero.setRange(0, hasta);
+    numero.setSuffix(sufijo);
+    numero.setSpecialValueText(cero);
+    numero.setFixedWidth(130);
 }
 
 } // namespace
@@ -43,13 +33,25 @@ bool cerrarFichas()
 panBackup::panBackup() : Form(u"panBackup"_s)
 {
     setWindowTitle(u"Seleccione destino del backup"_s);
+    vestir(Conservar, u"Conservar"_s, masCopias, u" copias"_s, u"todas"_s);
+    vestir(Dias, u"Dias"_s, masDias, u" días"_s, u"nunca"_s);
     Command1.setDefault(true);
-    setContents(
-        this, Column{Fields{{Label1, Row{Expanding(Text1), Command3}}}, Row{Stretch(), Command1, Command2}});
-    setMinimumWidth(520);
+    setContents(this, Column{opciones(), Row{Stretch(), Command1, Command2}});
+    setMinimumWidth(600);
     connect(&Command1, &QPushButton::clicked, this, &panBackup::copiar);
     connect(&Command2, &QPushButton::clicked, this, &panBackup::unload);
-    connect(&Command3, &QPushButton::clicked, this, &panBackup::elegirCarpeta);
+    connect(&Command3, &QPushButton::clicked, this, [this] { elegirCarpeta(Text1); });
+    connect(&Command4, &QPushButton::clicked, this, [this] { elegirCarpeta(Text2); });
+}
+
+Item panBackup::opciones()
+{
+    return Fields{
+        {Label1, Row{Expanding(Text1), Command3}},
+        {u"&Segunda carpeta, en otro disco :"_s, Row{Expanding(Text2), Command4}},
+        {u"Conservar en ca&da carpeta :"_s, Row{Conservar, Stretch()}},
+        {u"A&visar cuando no hubo copia en :"_s, Row{Dias, Stretch()}},
+    };
 }
 
 void panBackup::load()
@@ -57,15 +59,24 @@ void panBackup::load()
     msgBox(
         u"Proceso de Backup: \nEste proceso requiere que ningún otro programa esté accediendo a la base de datos de Sanirell!, de ser así, por favor, cierre la o las aplicaciones antes de continuar con este proceso.\nLuego de terminar el backup, el sistema se cerrará."_s,
         Icon::Information, u"Backup"_s);
-    Text1.setText(settings::getSetting(seccion, clave));
+    const respaldo::Destino destino = respaldo::destino();
+    Text1.setText(destino.carpeta);
+    Text2.setText(destino.segunda);
+    Conservar.setValue(destino.conservar);
+    Dias.setValue(destino.diasDeAviso);
 }
 
-void panBackup::elegirCarpeta()
+void panBackup::elegirCarpeta(TextBox &campo)
 {
     const QString elegida =
-        folderDialog(windowTitle(), Text1.text().isEmpty() ? QDir::rootPath() : Text1.text());
+        folderDialog(windowTitle(), campo.text().isEmpty() ? QDir::rootPath() : campo.text());
     if (!elegida.isEmpty())
-        Text1.setText(elegida);
+        campo.setText(elegida);
+}
+
+respaldo::Destino panBackup::escrito() const
+{
+    return {Text1.text(), Text2.text().trimmed(), Conservar.value(), Dias.value()};
 }
 
 void panBackup::copiar()
@@ -75,22 +86,33 @@ void panBackup::copiar()
         markWrong(Text1, u"Elija la carpeta"_s);
         return;
     }
-    if (!cerrarFichas())
+    if (!mantenimiento::cerrarFichas())
         return;
-    const QString destino = QDir(Text1.text()).filePath(respaldo::nombre(basic::now()));
     MODULE11::BaseDatos.close();
     try {
-        Progress avance(u"Se copia la base de datos"_s);
-        if (!respaldo::copiar(basic::programFile(u"BASE.MDB"_s), destino, MODULE11::conexionDeLaBase(),
-                              [&](qint64 hechos, qint64 total) { return avance.tell(hechos, total); }))
-            return;
+        if (hacer(escrito()))
+            MODULE11::terminar();
     } catch (const basic::Error &error) {
         MODULE11::MuestraError(error.description());
         markWrong(Text1, error.description());
-        return;
     }
-    settings::saveSetting(seccion, clave, Text1.text());
-    MODULE11::terminar();
+}
+
+bool panBackup::hacer(const respaldo::Destino &destino)
+{
+    std::optional<respaldo::Hecha> hecha;
+    mantenimiento::trabajar(
+        u"Se hace una copia de seguridad"_s, mantenimiento::Detencion::Posible, [&](const auto &avance) {
+            hecha = respaldo::respaldar(destino, basic::programFile(u"BASE.MDB"_s),
+                                        MODULE11::conexionDeLaBase(), basic::now(), avance);
+            return hecha.has_value();
+        });
+    if (!hecha)
+        return false;
+    respaldo::recordar(destino);
+    if (!hecha->fallaDeLaSegunda.isEmpty())
+        MODULE11::Aviso(respaldo::avisoDeLaSegunda(*hecha));
+    return true;
 }
 
 #include "moc_panBackup.cpp"

@@ -1,6 +1,9 @@
 #include "core/session/register.h"
-#include "core/maintenance/panBackup.h"
 
+#include "core/maintenance/panBackup.h"
+#include "core/maintenance/panErrorBase.h"
+#include "core/maintenance/panProtBase.h"
+#include "core/maintenance/panRestaurar.h"
 #include "core/security/panAdmAlarmas.h"
 #include "core/security/panNiveles.h"
 #include "core/security/panUsuarios.h"
@@ -15,6 +18,10 @@ void core::registerScreens()
 {
     screens::add<panPersonaliza>("panPersonaliza");
     screens::add<panBackup>("panBackup");
+    screens::add<panProtBase>("panProtBase");
+    screens::add<panRestaurar>("panRestaurar");
+    screens::add<panErrorBase>("panErrorBase");
+    screens::add<panErrorB>("panErrorB");
     screens::add<asistente>("asistente");
     screens::add<acerca>("acerca");
     screens::add<panUsuarios>("panUsuarios");

@@ -1,6 +1,7 @@
 #include "core/session/startup.h"
 
 #include "core/database/actualiza.h"
+#include "core/maintenance/restauracion.h"
 #include "core/services/services.h"
 #include "core/session/ending.h"
 #include "core/session/login.h"
@@ -23,6 +24,8 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include <set>
+
 using namespace Qt::StringLiterals;
 
 namespace MODULE11
@@ -42,10 +45,19 @@ void escribirSiVacio(const QString &clave, const QString &valor)
 constexpr int pacienciaAlEmpezar = 4000; // milliseconds: nobody looks at a window that does not answer
 constexpr int pacienciaAlTrabajar = 15000;
 
+/// What is wrong and, with a file that cannot be used as it is, what else stands there.
 QString motivo(const dao::Error &error)
 {
-    return error.number() == dao::Error::Locked ? u"El archivo está en uso por otra terminal."_s
-                                                : error.description();
+    if (error.number() == dao::Error::Locked)
+        return u"El archivo está en uso por otra terminal."_s;
+    static const std::set<int> inservible = {dao::Error::FileDamaged, dao::Error::NotADatabase,
+                                             dao::Error::WrongPassword};
+    const QString hay =
+        inservible.contains(error.number()) ? restauracion::queHacer(basic::programFolder()) : QString();
+    if (hay.isEmpty())
+        return error.description();
+    return error.description() + u'\n' + hay +
+           u" Para volver a uno de ellos cierre el programa en todos los equipos, cambie el nombre de BASE.MDB, sin borrarlo, y deje una copia de ese archivo con el nombre BASE.MDB."_s;
 }
 
 /// Does what start-up needs of the practice's file; what cannot be read now is told, to try again. False when

@@ -1,5 +1,6 @@
 #include "core/windows/Vademecum.h"
 
+#include "core/maintenance/trabajo.h"
 #include "core/security/niveles.h"
 #include "core/session/ending.h"
 #include "core/session/screens.h"
@@ -44,6 +45,7 @@ Vademecum::Vademecum()
     cuerpo->setContentsMargins(0, 0, 0, 0);
     cuerpo->setSpacing(0);
     cuerpo->addWidget(construirBarra());
+    cuerpo->addWidget(&franja_);
     auto *fila = new QHBoxLayout;
     fila->setSpacing(0);
     fila->addWidget(construirPanel());
@@ -155,6 +157,8 @@ void Vademecum::mostrarEstado()
 
 void Vademecum::refrescarPacientesDeHoy()
 {
+    if (mantenimiento::EnCurso::hay())
+        return;
     try {
         actualizarPacientesDeHoy();
         mostrarEstado();
@@ -219,6 +223,7 @@ void Vademecum::showEvent(QShowEvent *event)
 void Vademecum::primeraActivacion()
 {
     mostrarEstado();
+    avisarDeLaBase();
     if (settings::getSetting(u"Configuracion"_s, u"Mostrar Asistente al empezar"_s).isEmpty() &&
         MostrarAsistente) {
         screens::showModal("asistente");

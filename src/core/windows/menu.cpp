@@ -121,6 +121,7 @@ constexpr Entry entries[] = {
     {1, "", "", Separator},
     {1, "Editor de Archivos del sistema", "menuEditArchivo", NewChild, "panGArchivos", "IngresarAEditorTextos"},
     {1, "Service y Mantenimiento del Sistema", "Menu_Service", Modal, "panServices", "IngresarAServicesSistema"},
+    {1, "Restaurar una copia de seguridad", "menuRestaurar", Modal, "panRestaurar", "IngresarAServicesSistema"},
     {1, "Personalizar Sistema", "menuMiscPersonal", Modal, "panPersonaliza"},
     {1, "Usuarios y Seguridad", "", Folder},
     {2, "Usuarios del Sistema", "menuUsuariosSistema", Modal, "panUsuarios", "IngresarAControlAcceso"},

@@ -65,8 +65,9 @@ public:
     void readTogether(const std::function<void()> &loop);
 
     enum class Check { Pages, Whole };
-    /// The open file's pages are as the program wrote them and, whole, its rows and indexes agree: an empty list;
-    /// otherwise what is wrong, in words. The pages of a copy say all there is to say of it, in a tenth of the time.
+    /// The open file's pages are as the program wrote them and, whole, its rows and indexes agree: an empty
+    /// list; otherwise what is wrong, in words. The pages of a copy say all there is to say of it, in a tenth
+    /// of the time.
     QStringList check(Check depth = Check::Whole);
 
     DatabasePrivate &d() { return *d_; }
@@ -96,14 +97,38 @@ private:
     bool open_ = true;
 };
 
+/// While one lives this station has a closed database file alone: no other has it open or can open it. Its
+/// own connections open it as before. Throws Error::Locked when another one, or this one, has it open.
+class Alone
+{
+public:
+    explicit Alone(const QString &databaseFile);
+    ~Alone();
+    Alone(const Alone &) = delete;
+    Alone &operator=(const Alone &) = delete;
+
+private:
+    class Lock;
+    std::unique_ptr<Lock> lock_;
+};
+
+/// Told now and then how far work on a whole file is, in bytes; false stops the work.
+using FileProgress = std::function<bool(qint64 done, qint64 total)>;
+
 /// Copies a closed database into a new file without its free space, under the password of
-/// `destinationLocale` (";LANGID=...;pwd=...") when it names one, else the source's. Throws Error.
-void compactDatabase(const QString &source, const QString &destination, const QString &destinationLocale,
-                     const QString &sourceConnect);
+/// `destinationLocale` (";LANGID=...;pwd=...") when it names one, else the source's. False when it was
+/// stopped. Throws Error, Locked when another station has the database open.
+bool compactDatabase(const QString &source, const QString &destination, const QString &destinationLocale,
+                     const QString &sourceConnect, const FileProgress &progress = {});
 
 /// Mends a closed database in place: rows of damaged pages are lost, all others are kept, and the damaged
-/// file is left beside it as "<name>.dañada". Throws Error when nothing can be read.
-void repairDatabase(const QString &path, const QString &connect);
+/// file is left beside it as "<name>.dañada". False when it was stopped. Throws Error when nothing can be
+/// read, Locked when another station has the database open.
+bool repairDatabase(const QString &path, const QString &connect, const FileProgress &progress = {});
+
+/// Puts a whole file in the place of a closed database in one stroke; what stood there stays under the name
+/// `aside`, with its journal. Throws basic::Error.
+void replaceDatabase(const QString &path, const QString &fresh, const QString &aside);
 
 /// The prepared form of a statement for tests and tools: what the engine runs for a text of the dialect.
 struct Translation {

@@ -195,6 +195,8 @@ EmbeddedEngine::EmbeddedEngine(const QString &path, const QByteArray &key, const
 {
     const int flags = options.as.readOnly ? SQLITE_OPEN_READONLY
                                           : SQLITE_OPEN_READWRITE | (options.create ? SQLITE_OPEN_CREATE : 0);
+    if (!queue_.join(options.as.exclusive, options.as.patienceMs))
+        throw Error(Error::Locked, QStringLiteral("La base de datos está en uso por otro puesto."));
     sqlite3 *db = nullptr;
     const int code = sqlite3_open_v2(QFile::encodeName(path).constData(), &db,
                                      flags | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX, nullptr);

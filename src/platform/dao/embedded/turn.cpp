@@ -1,17 +1,24 @@
 #include "platform/dao/embedded/turn.h"
 
+#include "platform/dao/database.h"
+
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QMutex>
+#include <QThread>
 #include <QtEndian>
 
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/time.h>
 #include <time.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <map>
 #include <optional>
 
 namespace dao
@@ -25,6 +32,7 @@ namespace
 // also given back by a station that dies waiting, or waits no more; then the desk keeps the next one back.
 constexpr off_t counter = 0;
 constexpr off_t desk = 1;
+constexpr off_t presence = 2; // shared by all that have the database open
 constexpr off_t firstNumber = 1 << 20;
 constexpr quint64 numbers = 1 << 20;
 
@@ -45,6 +53,49 @@ int lockByte(int file, off_t byte, short kind, bool wait)
     lock.l_len = 1;
     return fcntl(file, wait ? F_OFD_SETLKW : F_OFD_SETLK, &lock);
 }
+
+int openQueueFile(const QString &databaseFile)
+{
+    return ::open(QFile::encodeName(queueFile(databaseFile)).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0660);
+}
+
+/// A file of the machine, whatever name it was reached by.
+using FileId = std::pair<dev_t, ino_t>;
+
+FileId idOf(int file)
+{
+    struct stat found = {};
+    ::fstat(file, &found);
+    return {found.st_dev, found.st_ino};
+}
+
+/// The queue files whose database this process has alone: its own connections need not ask.
+class OwnFiles
+{
+public:
+    void add(FileId id)
+    {
+        const QMutexLocker lock(&mutex_);
+        ++times_[id];
+    }
+    void take(FileId id)
+    {
+        const QMutexLocker lock(&mutex_);
+        if (--times_[id] == 0)
+            times_.erase(id);
+    }
+    bool has(FileId id)
+    {
+        const QMutexLocker lock(&mutex_);
+        return times_.contains(id);
+    }
+
+private:
+    QMutex mutex_;
+    std::map<FileId, int> times_;
+};
+
+OwnFiles ownFiles;
 
 void interrupted(int)
 {
@@ -130,9 +181,7 @@ QString queueFile(const QString &databaseFile)
     return databaseFile + QStringLiteral(".cola");
 }
 
-WriteQueue::WriteQueue(const QString &databaseFile)
-    : file_(
-          ::open(QFile::encodeName(queueFile(databaseFile)).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0660))
+WriteQueue::WriteQueue(const QString &databaseFile) : file_(openQueueFile(databaseFile))
 {
 }
 
@@ -140,6 +189,21 @@ WriteQueue::~WriteQueue()
 {
     if (file_ >= 0)
         ::close(file_);
+}
+
+bool WriteQueue::join(bool alone, int longestWaitMs)
+{
+    if (file_ < 0 || ownFiles.has(idOf(file_)))
+        return true;
+    constexpr unsigned long napMs = 20;
+    QElapsedTimer waiting;
+    waiting.start();
+    while (lockByte(file_, presence, alone ? F_WRLCK : F_RDLCK, false) != 0) {
+        if (waiting.elapsed() > longestWaitMs)
+            return false;
+        QThread::msleep(napMs);
+    }
+    return true;
 }
 
 std::optional<quint64> WriteQueue::takeNumber(Wait &wait)
@@ -186,5 +250,41 @@ void WriteQueue::leave()
     lockByte(file_, desk, F_UNLCK, false);
     giveNumberBack();
 }
+
+/// The lock of the one who has a file alone; within the process it is taken once.
+class Alone::Lock
+{
+public:
+    explicit Lock(const QString &databaseFile) : file_(openQueueFile(databaseFile))
+    {
+        if (file_ < 0)
+            throw Error(Error::ReadOnly, QStringLiteral("No se puede escribir en la carpeta de '%1'.")
+                                             .arg(QDir::toNativeSeparators(databaseFile)));
+        id_ = idOf(file_);
+        if (!ownFiles.has(id_) && lockByte(file_, presence, F_WRLCK, false) != 0) {
+            ::close(file_);
+            throw Error(Error::Locked, QStringLiteral("El archivo '%1' está en uso por otra terminal.")
+                                           .arg(QDir::toNativeSeparators(databaseFile)));
+        }
+        ownFiles.add(id_);
+    }
+    ~Lock()
+    {
+        ownFiles.take(id_);
+        ::close(file_);
+    }
+    Lock(const Lock &) = delete;
+    Lock &operator=(const Lock &) = delete;
+
+private:
+    int file_;
+    FileId id_ = {};
+};
+
+Alone::Alone(const QString &databaseFile) : lock_(std::make_unique<Lock>(databaseFile))
+{
+}
+
+Alone::~Alone() = default;
 
 } // namespace dao

@@ -23,6 +23,10 @@ public:
     WriteQueue(const WriteQueue &) = delete;
     WriteQueue &operator=(const WriteQueue &) = delete;
 
+    /// Makes it known, until the end, that this station has the file open; alone, that it is the only one.
+    /// False when another station has the file, or has it alone, longer than the wait.
+    bool join(bool alone, int longestWaitMs);
+
     void enter(int longestWaitMs);
     void leave();
 
