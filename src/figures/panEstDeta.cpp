@@ -1,5 +1,6 @@
 #include "figures/panEstDeta.h"
 
+#include "core/services/criterio.h"
 #include "core/services/services.h"
 #include "core/session/session.h"
 #include "figures/criterios.h"
@@ -122,11 +123,9 @@ void panEstDeta::agregarCriterio()
     const dao::FieldDef *campo = campoElegido();
     if (!campo || Combo2.currentIndex() < 0)
         return;
-    const auto linea = criterios::criterio(*campo, Combo2.value(), Combo3.currentText());
+    const auto linea = services::criterio(*campo, Combo2.value(), Combo3.currentText());
     if (!linea) {
-        const QString motivo = campo->type == dao::FieldType::Bit    ? u"El campo dice Sí o No."_s
-                               : campo->type == dao::FieldType::Date ? u"El campo es una fecha."_s
-                                                                     : u"El campo es un número."_s;
+        const QString motivo = services::loQuePide(*campo);
         MODULE11::MuestraError(motivo);
         markWrong(Combo3, motivo);
         return;

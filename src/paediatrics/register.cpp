@@ -20,6 +20,7 @@
 #include "paediatrics/perinatal/panfichaPer.h"
 #include "paediatrics/pressure/panTension.h"
 #include "paediatrics/sight/panVisual.h"
+#include "paediatrics/vaccines/edicionDelPlan.h"
 #include "paediatrics/vaccines/panCalVacunas.h"
 #include "paediatrics/vaccines/panPlanVacunas.h"
 #include "paediatrics/vaccines/panVacunasAtrasadas.h"
@@ -57,6 +58,8 @@ void paediatrics::registerScreens()
     screens::addOperation("AbrePerinatal", AbrePerinatal);
     screens::add<panPlanVacunas>("panPlanVacunas");
     screens::add<panCalVacunas>("panCalVacunas");
+    ports::agregaDosisAlPlan.provide(vacunas::agregarDosis);
+    ports::editaDosisDelPlan.provide(vacunas::editarDosis);
     screens::add<panVacunasAtrasadas>("panVacunasAtrasadas");
     for (const charts::ClassicalChart &chart : charts::classicalCharts())
         screens::add(screens::Window::find(chart.form).value(),

@@ -18,10 +18,8 @@ const std::set<std::string> notBuiltYet{
     "panEHC",
     "panEditorMMedia",
     "panEvalEvolFisica",
-    "panGArchivos",
     "panImagenes",
     "panMadNeurol",
-    "panServices",
 };
 
 bool leadsIntoTheProgram(menu::Kind kind)

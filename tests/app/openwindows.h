@@ -13,6 +13,7 @@
 #include "clinical/patients/panSelPaciente.h"
 #include "clinical/visits/panNueConsulta.h"
 #include "core/security/panNueUsuario.h"
+#include "core/service/panSQL.h"
 #include "core/services/panListados.h"
 #include "core/session/screens.h"
 #include "core/windows/panIngresoUsuario.h"
@@ -159,6 +160,11 @@ inline std::map<QString, Opening> windows()
         {QStringLiteral("panEdConPrestacion"), opening<panEdConPrestacion>()},
         {QStringLiteral("panFacLote"),
          [] { return std::make_unique<panFacLote>(QStringLiteral("X0001-00000001")); }},
+        {QStringLiteral("panSQL"),
+         [] {
+             return std::make_unique<panSQL>(MODULE11::BaseDatos.tableDef(u"Caja"),
+                                             QStringLiteral("Select * from Caja"));
+         }},
         {QStringLiteral("panMuesDetFactura"), [] { return std::make_unique<panMuesDetFactura>(1); }},
     };
     for (const std::string_view name : screens::windows) {

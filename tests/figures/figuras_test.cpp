@@ -43,17 +43,8 @@ TEST(Prevalencia, groupsOfAgeByDays)
         EXPECT_EQ(grupoDe(dias), grupo) << dias;
 }
 
-TEST(Criterios, theValueIsReadAsItsColumn)
+TEST(Criterios, connectivesJoinTheLinesAroundThem)
 {
-    using dao::FieldType;
-    EXPECT_EQ(criterios::criterio({u"Paciente"_s, FieldType::Text}, u"="_s, u"D'Angelo"_s),
-              u"[Paciente] = 'D''Angelo'"_s);
-    EXPECT_EQ(criterios::criterio({u"Peso"_s, FieldType::Double}, u">"_s, u"12,5"_s), u"[Peso] > 12.5"_s);
-    EXPECT_EQ(criterios::criterio({u"Peso"_s, FieldType::Double}, u">"_s, u"12abc"_s), std::nullopt);
-    EXPECT_EQ(criterios::criterio({u"Fecha"_s, FieldType::Date}, u"<="_s, u"1/3/2024"_s),
-              u"[Fecha] <= cdate('1/3/2024')"_s);
-    EXPECT_EQ(criterios::criterio({u"Fecha"_s, FieldType::Date}, u"<="_s, u"marzo"_s), std::nullopt);
-    EXPECT_EQ(criterios::criterio({u"Asma"_s, FieldType::Bit}, u"="_s, u"Sí"_s), u"[Asma] = TRUE"_s);
     EXPECT_EQ(
         criterios::condicion({u"[a] = 1"_s, criterios::peroNo, u"[b] = 2"_s, criterios::o, u"[c] = 3"_s}),
         u"[a] = 1 AND NOT [b] = 2 OR [c] = 3"_s);

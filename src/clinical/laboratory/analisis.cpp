@@ -3,8 +3,6 @@
 #include "core/session/session.h"
 #include "platform/basic/runtime.h"
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 using MODULE11::BaseDatos;
 
@@ -14,14 +12,7 @@ namespace laboratorio
 namespace
 {
 
-constexpr QStringView fijas[] = {u"Paciente", u"Fecha", u"Hora", u"Bioquimico", u"Descripcion"};
 constexpr int largoDeLaPlanilla = 255;
-
-bool esEstudio(const dao::FieldDef &columna)
-{
-    return std::ranges::none_of(
-        fijas, [&](QStringView fija) { return fija.compare(columna.name, Qt::CaseInsensitive) == 0; });
-}
 
 const dao::FieldDef &columna(const dao::Recordset &filas, const QString &nombre)
 {
@@ -32,16 +23,6 @@ const dao::FieldDef &columna(const dao::Recordset &filas, const QString &nombre)
 }
 
 } // namespace
-
-QStringList estudios()
-{
-    const dao::TableDef tabla = BaseDatos.tableDef(u"Analisis");
-    QStringList nombres;
-    for (const dao::FieldDef &columna : tabla.fields())
-        if (esEstudio(columna))
-            nombres += columna.name;
-    return nombres;
-}
 
 void escribirPedido(dao::Recordset &fila, qint64 paciente, const Pedido &pedido)
 {

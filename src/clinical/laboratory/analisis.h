@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/services/tiposDeAnalisis.h"
 #include "platform/dao/recordset.h"
 
 #include <QStringList>
@@ -23,9 +24,6 @@ struct Resultado {
     QString estudio, valor;
     bool operator==(const Resultado &) const = default;
 };
-
-/// The tests that can be ordered, in the order of the table.
-QStringList estudios();
 
 /// Puts an order into the row being added.
 void escribirPedido(dao::Recordset &fila, qint64 paciente, const Pedido &pedido);

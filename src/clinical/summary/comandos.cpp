@@ -11,7 +11,7 @@ namespace
 // clang-format off
 constexpr Comando todos[] = {
     {"Command90", "Registrar Dosis", Lugar::Pediatria, "panPlanVacunas"},
-    {"Command88", "Administrar plan de vacunación", Lugar::Pediatria, "panCalVacunas"},
+    {"Command88", "Administrar plan de vacunación", Lugar::Pediatria, "panServices", "", "", false, "", "", "", "Plan de Vacunación"},
     {"command15", "Alimentación", Lugar::Pediatria, "panAlimentacion"},
     {"command9", "Mad.Neurológica", Lugar::Pediatria, "panMadNeurol"},
     {"SsCommand4", "Agudeza Visual", Lugar::Pediatria, "panVisual"},

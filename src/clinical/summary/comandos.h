@@ -32,6 +32,7 @@ struct Comando {
     bool hija = false;       ///< a child window; the others are modal
     const char *alarma = "", *tema = "";
     const char *examen = ""; ///< which of the complementary examinations, of the window of them all
+    const char *pagina = ""; ///< the page of a window that is not the patient's, which it has for its tag
 };
 
 std::span<const Comando> comandos();

@@ -121,7 +121,7 @@ void panEstadPaciente::abrirComando(const Comando &comando)
         return;
     }
     if (auto form = screens::make(ventana)) {
-        form->setTag(tag());
+        form->setTag(*comando.pagina ? QString::fromUtf8(comando.pagina) : tag());
         if (!titulo.isEmpty())
             form->setWindowTitle(titulo);
         form->showModal();

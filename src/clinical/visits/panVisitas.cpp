@@ -1,6 +1,7 @@
 #include "clinical/visits/panVisitas.h"
 
 #include "clinical/visits/nuevaConsulta.h"
+#include "core/records/filas.h"
 #include "core/reports/exportaHtml.h"
 #include "core/security/eventos.h"
 #include "core/security/niveles.h"
@@ -159,6 +160,8 @@ void panVisitas::activate()
 {
     if (!Data1.hasRecordset())
         buscarPaciente();
+    else if (!Data2.dirty())
+        records::reread(Data2); // they may have been emptied from the service window
     if (forms::tag(&Command3) != u"Activar")
         return;
     forms::setTag(&Command3, {});

@@ -29,13 +29,7 @@ void Tabla::load()
 
 void Tabla::reread()
 {
-    Data1.change([had = Data1.hasRow()](dao::Recordset &rows) {
-        const dao::Recordset::Bookmark place = had ? rows.bookmark() : dao::Recordset::Bookmark();
-        rows.requery();
-        if (had)
-            basic::ignoring({dao::Error::NoCurrentRecord, dao::Error::RecordDeleted},
-                            [&] { rows.setBookmark(place); });
-    });
+    records::reread(Data1);
 }
 
 bool Tabla::queryUnload()
@@ -75,33 +69,15 @@ forms::CommandButton &Tabla::closes(const QString &name, const QString &caption)
     return command(name, caption, u"cerrar"_s, [this] { unload(); });
 }
 
-void Tabla::addRow(const std::function<void(dao::Recordset &)> &fill)
+void Tabla::addRow(const Fill &fill)
 {
-    Data1.change([&](dao::Recordset &rows) {
-        rows.addNew();
-        fill(rows);
-        rows.update();
-        const dao::Recordset::Bookmark added = rows.lastModified();
-        rows.requery(); // it takes its place in the order of the rows
-        rows.setBookmark(added);
-    });
+    records::addRow(Data1, fill);
 }
 
-void Tabla::capture(forms::Form &dialogue, const std::function<void(dao::Recordset &)> &fill)
+void Tabla::capture(forms::Form &dialogue, const Fill &fill)
 {
-    Data1.updateRecord(); // a text that is refused is put right before, not once the new row is typed
-    for (;;) {
-        dialogue.setTag(tag());
-        dialogue.showModal();
-        if (dialogue.tag() != u"SI")
-            return;
-        try {
-            addRow(fill);
-            return;
-        } catch (const dao::Error &error) {
-            MODULE11::MuestraError(error.description());
-        }
-    }
+    dialogue.setTag(tag());
+    records::capture(Data1, dialogue, fill);
 }
 
 void Tabla::deleteRow()

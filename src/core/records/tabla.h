@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/records/comando.h"
+#include "core/records/filas.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/data.h"
 #include "platform/forms/dbgrid.h"
@@ -38,10 +39,9 @@ protected:
     forms::CommandButton &closes(const QString &name, const QString &caption);
 
     /// Adds a row with what `fill` sets, and stands on it.
-    void addRow(const std::function<void(dao::Recordset &)> &fill);
-    /// Shows a dialogue that takes a row in, and adds the row when it answers "SI". One that cannot be stored
-    /// is told, and the dialogue comes again with what was typed.
-    void capture(forms::Form &dialogue, const std::function<void(dao::Recordset &)> &fill);
+    void addRow(const Fill &fill);
+    /// Shows a dialogue that takes a row in, with the window's tag, and adds the row when it answers "SI".
+    void capture(forms::Form &dialogue, const Fill &fill);
     /// Deletes the current row, after the gate and the question; what was typed goes with it.
     virtual void deleteRow();
 

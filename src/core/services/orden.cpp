@@ -7,15 +7,10 @@ using namespace Qt::StringLiterals;
 namespace services
 {
 
-namespace
+qsizetype lugarDeLaClausula(const QString &sql, const QString &clausula)
 {
-
-/// Where the query's own ORDER BY begins, outside of texts, names in brackets and subqueries; its end without
-/// one.
-qsizetype lugarDelOrden(const QString &sql)
-{
-    static const QRegularExpression pieza(u"'[^']*'|\"[^\"]*\"|\\[[^\\]]*\\]|[()]|\\border\\s+by\\b"_s,
-                                          QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpression pieza(u"'[^']*'|\"[^\"]*\"|\\[[^\\]]*\\]|[()]|\\b(%1)\\b"_s.arg(clausula),
+                                   QRegularExpression::CaseInsensitiveOption);
     int dentro = 0;
     for (auto piezas = pieza.globalMatch(sql); piezas.hasNext();) {
         const auto hallada = piezas.next();
@@ -24,13 +19,11 @@ qsizetype lugarDelOrden(const QString &sql)
             ++dentro;
         else if (texto == u")")
             --dentro;
-        else if (dentro == 0 && texto.front().isLetter())
+        else if (dentro == 0 && hallada.hasCaptured(1))
             return hallada.capturedStart();
     }
     return sql.size();
 }
-
-} // namespace
 
 QString ordenadaPor(const QString &sql, int columna, bool descendente)
 {
@@ -38,9 +31,10 @@ QString ordenadaPor(const QString &sql, int columna, bool descendente)
                                              QRegularExpression::CaseInsensitiveOption);
     if (sql.contains(primeras))
         return sql;
-    static const QRegularExpression orden(u"^order\\s+by\\s+"_s, QRegularExpression::CaseInsensitiveOption);
-    const qsizetype lugar = lugarDelOrden(sql);
-    QString propio = sql.sliced(lugar).remove(orden).trimmed();
+    static const QRegularExpression palabras(u'^' + clausulaDelOrden + u"\\s+"_s,
+                                             QRegularExpression::CaseInsensitiveOption);
+    const qsizetype lugar = lugarDeLaClausula(sql, clausulaDelOrden);
+    QString propio = sql.sliced(lugar).remove(palabras).trimmed();
     if (!propio.isEmpty())
         propio.prepend(u", "_s);
     return sql.first(lugar).trimmed() + u" order by "_s + QString::number(columna + 1) +

@@ -10,6 +10,11 @@
 #include <optional>
 #include <vector>
 
+namespace forms
+{
+class Data;
+}
+
 /// What one subsystem asks of another with arguments and an answer. The subsystem that has it provides it at
 /// start; a port that nobody provides is false, and what would call it is disabled.
 namespace ports
@@ -82,6 +87,8 @@ inline Port<std::optional<Renglon>(const QString &titulo, int capitulo)> eligePa
 inline Port<Renglon(const QString &paciente)> eligeTratamiento;
 /// Lets a person edit the parents and the family's pathologies of a patient; true when they were stored.
 inline Port<bool(qint64 paciente)> editaCondicionFamiliar;
+/// Lets a person write a dose of the vaccination plan, whose rows are given: a new one, or the current one.
+inline Port<void(forms::Data &plan)> agregaDosisAlPlan, editaDosisDelPlan;
 /// A healthy-child control as the visit that it is. The measures are those that were taken last, as the
 /// visits keep them; what goes beyond the fifth line of a list is not kept.
 struct ControlDeSalud {

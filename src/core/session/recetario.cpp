@@ -27,7 +27,7 @@ QString crearTablaPropia()
 {
     const QString nombre = u"TblRec_"_s + basic::sqlNumber(basic::timer()).remove(u'.');
     if (basic::ignoring(sinTablaPropia, [&] { crearRecetario(nombre); })) {
-        settings::saveSetting(seccion, clave, nombre);
+        elegirRecetario(nombre);
         return nombre;
     }
     forms::msgBox(u"No se ha creado una tabla definida por el usuario, se utilizará la tabla por omisión"_s,
@@ -45,6 +45,27 @@ void crearRecetario(const QString &nombre)
     BaseDatos.execute(u"CREATE INDEX PrimaryKey on [%1] (Elemento)"_s.arg(nombre));
 }
 
+bool esRecetario(const QString &nombre)
+{
+    if (!BaseDatos.tableNames().contains(nombre, Qt::CaseInsensitive))
+        return false;
+    const dao::TableDef tabla = BaseDatos.tableDef(nombre);
+    for (QStringView columna : {u"Elemento", u"Valor", u"Posicion X", u"Posicion Y", u"Fuente", u"Tamaño"})
+        if (!tabla.field(columna))
+            return false;
+    return true;
+}
+
+QString recetarioElegido()
+{
+    return settings::getSetting(seccion, clave);
+}
+
+void elegirRecetario(const QString &nombre)
+{
+    settings::saveSetting(seccion, clave, nombre);
+}
+
 void comprobarRecetario()
 {
     if (BaseDatos.tableNames().contains(TablaRecetario, Qt::CaseInsensitive))
@@ -54,7 +75,7 @@ void comprobarRecetario()
             TablaRecetario),
         forms::Icon::Critical, u"Error"_s);
     TablaRecetario = tablaPorOmision;
-    settings::saveSetting(seccion, clave, TablaRecetario);
+    elegirRecetario(TablaRecetario);
 }
 
 void prepararRecetario()
@@ -65,7 +86,7 @@ void prepararRecetario()
         TablaRecetario = tablaPorOmision;
         return;
     }
-    TablaRecetario = settings::getSetting(seccion, clave);
+    TablaRecetario = recetarioElegido();
     if (TablaRecetario.isEmpty())
         TablaRecetario = crearTablaPropia();
     comprobarRecetario();

@@ -12,5 +12,11 @@ void prepararRecetario();
 void comprobarRecetario();
 /// Makes an empty layout table. Throws dao::Error when there is one of the name.
 void crearRecetario(const QString &nombre);
+/// Whether the table has what a layout needs; false without one of the name.
+bool esRecetario(const QString &nombre);
+
+/// The table that this workstation takes at its next start; empty before it has had one.
+QString recetarioElegido();
+void elegirRecetario(const QString &nombre);
 
 } // namespace MODULE11

@@ -7,6 +7,8 @@
 #include "core/security/panAdmAlarmas.h"
 #include "core/security/panNiveles.h"
 #include "core/security/panUsuarios.h"
+#include "core/service/panGArchivos.h"
+#include "core/service/panServices.h"
 #include "core/session/screens.h"
 #include "core/windows/acerca.h"
 #include "core/windows/asistente.h"
@@ -27,4 +29,6 @@ void core::registerScreens()
     screens::add<panUsuarios>("panUsuarios");
     screens::add<panNiveles>("panNiveles");
     screens::add<panAdmAlarmas>("panAdmAlarmas");
+    screens::add<panServices>("panServices");
+    screens::add<panGArchivos>("panGArchivos");
 }

@@ -4,12 +4,11 @@
 #include "core/session/screens.h"
 #include "core/session/session.h"
 #include "paediatrics/vaccines/calendarios.h"
-#include "paediatrics/vaccines/planilla.h"
+#include "paediatrics/vaccines/edicionDelPlan.h"
 #include "platform/forms/boxes.h"
 
 using namespace Qt::StringLiterals;
 using namespace forms;
-using vacunas::FilaDelPlan;
 
 panCalVacunas::panCalVacunas()
     : Tabla(u"panCalVacunas"_s, u"Plan de Vacunación"_s,
@@ -27,8 +26,10 @@ panCalVacunas::panCalVacunas()
     setContents(this,
                 Column{
                     Expanding(DBGrid1),
-                    Row{command(u"Command1"_s, u"&Agregar..."_s, u"agregar"_s, [this] { agregar(); }),
-                        rowCommand(u"Command2"_s, u"&Editar..."_s, u"editar"_s, [this] { editar(); }),
+                    Row{command(u"Command1"_s, u"&Agregar..."_s, u"agregar"_s,
+                                [this] { vacunas::agregarDosis(Data1); }),
+                        rowCommand(u"Command2"_s, u"&Editar..."_s, u"editar"_s,
+                                   [this] { vacunas::editarDosis(Data1); }),
                         rowCommand(u"Command3"_s, u"&Quitar"_s, u"borrar"_s, [this] { quitar(); }), Stretch(),
                         command(u"Command5"_s, u"&Niños atrasados..."_s, u"ver"_s,
                                 [] { screens::showModal("panVacunasAtrasadas"); }),
@@ -39,60 +40,6 @@ panCalVacunas::panCalVacunas()
                 });
     resize(900, 560);
     setSource(u"select * from CalVacunas order by orden"_s);
-}
-
-FilaDelPlan panCalVacunas::filaActual()
-{
-    dao::Recordset &fila = Data1.recordset();
-    FilaDelPlan datos{fila[u"Descripcion"].text(),
-                      fila[u"detalle"].text(),
-                      fila[u"Dosis"].text(),
-                      fila[u"Vacuna"].text(),
-                      fila[u"TemasRelacionados"].text(),
-                      fila[u"orden"].integer(),
-                      std::nullopt};
-    const vacunas::Edades edades;
-    if (const vacunas::EdadDeDosis *edad = edades.guardada(datos.vacuna, datos.dosis))
-        datos.edad = *edad;
-    return datos;
-}
-
-void panCalVacunas::escribir(dao::Recordset &fila, const FilaDelPlan &datos, int meses)
-{
-    fila[u"Descripcion"] = datos.descripcion;
-    fila[u"detalle"] = datos.detalle;
-    fila[u"Dosis"] = datos.dosis;
-    fila[u"Vacuna"] = datos.vacuna;
-    fila[u"orden"] = datos.orden;
-    fila[u"TemasRelacionados"] = datos.temas;
-    fila[u"Tiempo en meses"] = meses;
-}
-
-void panCalVacunas::agregar()
-{
-    pannueVac entrada;
-    capture(entrada, [&](dao::Recordset &filas) {
-        const FilaDelPlan datos = entrada.fila();
-        escribir(filas, datos, vacunas::mesesAlAgregar(datos.dosis));
-    });
-    if (entrada.tag() == u"SI")
-        vacunas::guardarEdad(entrada.fila().vacuna, entrada.fila().dosis, entrada.fila().edad);
-}
-
-void panCalVacunas::editar()
-{
-    const FilaDelPlan antes = filaActual();
-    pannueVac entrada(antes);
-    entrada.showModal();
-    if (entrada.tag() != u"SI")
-        return;
-    const FilaDelPlan datos = entrada.fila();
-    Data1.change([&](dao::Recordset &filas) {
-        filas.edit([&] { escribir(filas, datos, vacunas::mesesAlEditar(datos.dosis)); });
-    });
-    vacunas::guardarEdad(antes.vacuna, antes.dosis, std::nullopt);
-    vacunas::guardarEdad(datos.vacuna, datos.dosis, datos.edad);
-    reread();
 }
 
 void panCalVacunas::quitar()

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/records/tabla.h"
-#include "paediatrics/vaccines/pannueVac.h"
 
 /// "Plan de Vacunación": the practice's plan, dose by dose, and the national calendars it may be replaced by.
 class panCalVacunas : public records::Tabla
@@ -11,10 +10,6 @@ public:
     panCalVacunas();
 
 private:
-    vacunas::FilaDelPlan filaActual();
-    void escribir(dao::Recordset &fila, const vacunas::FilaDelPlan &datos, int meses);
-    void agregar();
-    void editar();
     void quitar();
     void cargar();
 

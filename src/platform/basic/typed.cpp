@@ -44,6 +44,18 @@ bool meets(QStringView text, QStringView typed)
 
 } // namespace
 
+std::optional<bool> typedTruth(QStringView text)
+{
+    const QString word = plain(text.trimmed());
+    for (QStringView yes : {u"si", u"verdadero", u"true", u"-1"})
+        if (word == yes)
+            return true;
+    for (QStringView no : {u"no", u"falso", u"false", u"0"})
+        if (word == no)
+            return false;
+    return std::nullopt;
+}
+
 bool beginsWithTyped(QStringView text, QStringView typed)
 {
     const Sides both = sides(text, typed);

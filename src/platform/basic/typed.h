@@ -2,8 +2,14 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace basic
 {
+
+/// A yes or no as people write it ("Sí", "no", "Verdadero") or as it is stored (-1, 0); nothing for another
+/// text.
+std::optional<bool> typedTruth(QStringView text);
 
 /// How what a person types to find something meets a text: accents and case do not count, a typed n finds ñ
 /// too, and a typed ñ only ñ.

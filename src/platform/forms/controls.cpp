@@ -2,6 +2,7 @@
 
 #include "platform/basic/cleantext.h"
 #include "platform/basic/environment.h"
+#include "platform/forms/sidetabbar.h"
 #include "platform/forms/wrong.h"
 
 #include <QAbstractItemView>
@@ -347,6 +348,13 @@ SSTab::SSTab(const QString &name)
     setObjectName(name);
     setFocusPolicy(Qt::NoFocus);
     tabBar()->setFocusPolicy(Qt::StrongFocus);
+}
+
+void SSTab::setCaptionsAtSide()
+{
+    setTabBar(new SideTabBar);
+    tabBar()->setFocusPolicy(Qt::StrongFocus);
+    setTabPosition(QTabWidget::West);
 }
 
 SSTab::~SSTab()

@@ -197,6 +197,8 @@ class SSTab : public QTabWidget
 public:
     explicit SSTab(const QString &name);
     ~SSTab() override;
+    /// The captions one below the other, for more of them than have room above; before the pages are added.
+    void setCaptionsAtSide();
 };
 
 class Frame : public QGroupBox

@@ -2,6 +2,7 @@
 
 #include "platform/basic/environment.h"
 #include "platform/basic/runtime.h"
+#include "platform/basic/typed.h"
 #include "platform/forms/controls.h"
 
 namespace forms
@@ -34,6 +35,10 @@ basic::Value typedValue(const QString &text, FieldType type)
             return basic::Null{};
         const auto date = basic::toDate(trimmed);
         return date ? basic::Value(*date) : basic::Value(text);
+    }
+    if (type == FieldType::Bit) {
+        const auto truth = basic::typedTruth(text);
+        return truth ? basic::Value(*truth) : basic::Value(text);
     }
     return text;
 }

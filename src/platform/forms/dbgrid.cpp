@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
+#include <QTimer>
 
 namespace forms
 {
@@ -22,6 +23,8 @@ constexpr int linePixels = 24;
 constexpr int narrowestColumn = 70;
 constexpr int widestByHeading = 260;
 constexpr int secretDots = 6; // whatever the length
+constexpr int rowsAtOnce =
+    60; // more than a screen has room for, and no more than a recordset reads on opening
 
 /// A cell is typed in a field that takes no more than its column.
 class CellDelegate : public QStyledItemDelegate
@@ -132,6 +135,23 @@ public:
                                                     : 0;
     }
     void setSecretsShown(bool shown) { secretsShown_ = shown; }
+    void setCountsLater(bool later)
+    {
+        countsLater_ = later;
+        startAnew();
+    }
+    /// The rows are others, and how many they are is not known.
+    void startAnew()
+    {
+        counted_ = !countsLater_;
+        reload();
+    }
+    bool counted() const { return counted_; }
+    void countAll()
+    {
+        counted_ = true;
+        follow();
+    }
     void setEditable(bool editable) { editable_ = editable; }
     const std::vector<GridColumn> &columns() const { return columns_; }
 
@@ -218,9 +238,12 @@ private:
         return font;
     }
 
-    int countRows() const
+    int countRows()
     {
-        return data_.hasRecordset() ? static_cast<int>(data_.recordset().rowCount()) : 0;
+        if (!data_.hasRecordset())
+            return 0;
+        counted_ = counted_ || !data_.recordset().hasRow(rowsAtOnce);
+        return counted_ ? static_cast<int>(data_.recordset().rowCount()) : rowsAtOnce;
     }
 
     Qt::Alignment alignment(std::size_t column) const
@@ -245,6 +268,8 @@ private:
     std::vector<int> ordinals_;
     int rows_ = 0;
     bool known_ = false; ///< the source told how many rows it has
+    bool countsLater_ = false;
+    bool counted_ = true; ///< none are left beyond those in the model
     bool editable_ = false;
     bool secretsShown_ = false;
     QString lookField_;
@@ -298,11 +323,15 @@ void DBGrid::setSource(Data &source, std::vector<GridColumn> columns)
     data_ = &source;
     model_ = new Model(source, std::move(columns));
     model_->setEditable(editTriggers() != QAbstractItemView::NoEditTriggers);
+    model_->setCountsLater(countsLater_);
     setModel(model_);
     delete itemDelegate();
     setItemDelegate(new CellDelegate(this, [this](int column) { return model_->length(column); }));
     sizeColumns();
-    connect(&source, &Data::refreshed, this, [this] { orNone([this] { model_->reload(); }); });
+    connect(&source, &Data::refreshed, this, [this] {
+        orNone([this] { model_->startAnew(); });
+        countLater();
+    });
     connect(&source, &Data::rowWritten, this, [this] {
         orNone([this] { model_->follow(); });
         viewport()->update();
@@ -311,6 +340,31 @@ void DBGrid::setSource(Data &source, std::vector<GridColumn> columns)
     connect(&source, &QObject::destroyed, this, &DBGrid::dropModel);
     connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this, &DBGrid::leadData);
     followData();
+    countLater();
+}
+
+/// Once the rows that were read are painted; another source may have come by then.
+void DBGrid::countLater()
+{
+    if (model_->counted())
+        return;
+    QTimer::singleShot(0, model_, [this] {
+        orNone([this] { model_->countAll(); });
+        followData();
+        emit rowsCounted();
+    });
+}
+
+void DBGrid::setCountsLater(bool later)
+{
+    countsLater_ = later;
+    if (model_)
+        model_->setCountsLater(later);
+}
+
+bool DBGrid::allCounted() const
+{
+    return !model_ || model_->counted();
 }
 
 void DBGrid::sizeColumns()

@@ -19,7 +19,7 @@ struct GridColumn {
     QString pattern = {};
     int width = 0;
     bool secret = false;
-    bool fixed = false;
+    bool fixed = false; ///< is not typed in, where the others are
 };
 
 /// How a row stands out from the others by one of its values.
@@ -45,6 +45,10 @@ public:
     /// Gives each row the look that goes with its value of `field`; after setSource().
     void setRowLook(const QString &field, std::function<RowLook(const basic::Value &)> look);
     void setSecretsShown(bool shown);
+    /// For tables of any size: the first rows are in sight at once, and how many there are is asked once they
+    /// are.
+    void setCountsLater(bool later);
+    bool allCounted() const;
     /// The person gave a column another width.
     bool columnsMoved() const { return columnsMoved_; }
     int currentRow() const;
@@ -52,6 +56,7 @@ public:
 
 signals:
     void rowChanged(int row); ///< after the Data has followed
+    void rowsCounted();       ///< of setCountsLater(): all rows are known now
     void accepted();          ///< double click or Enter on a row
 
 protected:
@@ -64,12 +69,14 @@ private:
     int dataRow() const;
     void followData();
     void orNone(const std::function<void()> &ask);
+    void countLater();
     void leadData(const QModelIndex &current);
     void standOn(int row);
     Model *model_ = nullptr;
     Data *data_ = nullptr;
     bool following_ = false;
     bool columnsMoved_ = false;
+    bool countsLater_ = false;
 };
 
 } // namespace forms

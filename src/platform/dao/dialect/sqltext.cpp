@@ -2,6 +2,7 @@
 
 #include "platform/basic/runtime.h"
 #include "platform/basic/typed.h"
+#include "platform/dao/dialect/lexer.h"
 
 namespace dao
 {
@@ -11,6 +12,17 @@ QString quoted(const QString &text)
     QString doubled = text;
     doubled.replace(u'\'', QLatin1String("''"));
     return u'\'' + doubled + u'\'';
+}
+
+QString tableText(const QString &name)
+{
+    const bool starts = !name.isEmpty() && (name.front().isLetter() || name.front() == u'_');
+    Lexer words(name);
+    const bool plain = starts && [&] {
+        const Token first = words.next();
+        return first.kind == TokenKind::Name && first.word == Word::None && first.text.size() == name.size();
+    }();
+    return plain ? name : u'[' + name + u']';
 }
 
 QString cdate(basic::Date day)
