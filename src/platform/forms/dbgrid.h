@@ -19,7 +19,7 @@ struct GridColumn {
     QString pattern = {};
     int width = 0;
     bool secret = false;
-    bool fixed = false; ///< is not typed in, where the others are
+    bool fixed = false;
 };
 
 /// How a row stands out from the others by one of its values.

@@ -134,13 +134,10 @@ void tooth::comparar()
 /// The chart, and what is written on each tooth in words.
 void tooth::imprimir()
 {
-    printing::Choice impresora;
-    impresora.name = u"Odontograma de "_s + Label4.caption();
-    if (!printing::defaultChoice(impresora))
+    const auto impresora = printing::defaultChoice(u"Odontograma de "_s + Label4.caption());
+    if (!impresora)
         return;
-    informes::Papel papel(impresora, impresora.name);
-    papel.escribir(u"Odontograma"_s, 14, true);
-    papel.escribir(Label4.caption(), 11, true);
+    informes::Papel papel(*impresora);
     papel.escribir((esquema().isEmpty() ? QString() : u"Esquema: %1     "_s.arg(esquema())) + u"Impreso el "_s +
                        basic::dateText(basic::today()),
                    9);
