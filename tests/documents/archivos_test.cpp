@@ -47,6 +47,10 @@ protected:
              "'1 MES', '2 meses')",
              "INSERT INTO Caja (Fecha, Cuenta, Detalle, Entrada, Salida) VALUES (cdate('15/03/2024'), 'O''Luz', "
              "'Marzo', 0, 1234.5)",
+             "INSERT INTO Presupuestos (codpaciente, fecha, Descripcion) VALUES (1, cdate('15/03/2024'), 'Boca d''oro')",
+             "INSERT INTO Practicos (detalle, precio) VALUES ('Corona d''acero', 1234.5)",
+             "INSERT INTO RelPractico (codpresupuesto, codpractico, cantidad, precio, subtotal) VALUES (1, 1, 2, 1234.5, "
+             "2469)",
              "INSERT INTO Proveedores (Empresa) VALUES ('D''Alba')",
              "INSERT INTO Articulos (idProfesional, Descripcion, idProveedor, StockActual, StockMinimo, StockIdeal) "
              "VALUES (1, 'Gasa d''hilo', 1, 2.5, 3, 12)"});
@@ -97,6 +101,8 @@ std::map<QString, Expected> files()
         {u"pacientes.rpt"_s, {seleccion::dePacientes(1), u"Total de pacientes: 1"_s}},
         {u"patologia.rpt"_s, {seleccion::dePatologia(march, u"Crup d'emblée"_s), u"Crup d'emblée"_s}},
         {u"prestaciones.rpt"_s, {u"{prestaciones.descripcion} <> ''"_s, u"420101\tConsulta d'hospital"_s}},
+        {u"presupuesto.rpt"_s,
+         {u"{ConsultaPresupuesto.idPresupuesto} = 1"_s, u"Corona d'acero\t2\t1.234,50\t2.469,00"_s}},
         {u"profesionales.rpt"_s, {QString(), u"Dra. O'Higgins"_s}},
         {u"receta.rpt"_s, {u"{recetario.idReceta} = 1"_s, u"Amoxicilina <500> & reposo"_s}},
         {u"recibo.rpt"_s, {u"{Caja.idCaja} = 1"_s, u"$ 1.234,50"_s}},
