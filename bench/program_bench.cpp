@@ -4,6 +4,7 @@
 #include "appointments.h"
 #include "births.h"
 #include "complements.h"
+#include "console.h"
 #include "controls.h"
 #include "eyes.h"
 #include "figures.h"
@@ -81,6 +82,7 @@ void measure()
     bench::vaccines(report);
     bench::complements(report);
     bench::money(report);
+    bench::console(report);
     window.hide();
 }
 
