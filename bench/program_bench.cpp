@@ -5,6 +5,7 @@
 #include "births.h"
 #include "care.h"
 #include "complements.h"
+#include "console.h"
 #include "controls.h"
 #include "eyes.h"
 #include "figures.h"
@@ -83,6 +84,7 @@ void measure()
     bench::vaccines(report);
     bench::complements(report);
     bench::money(report);
+    bench::console(report);
     window.hide();
 }
 

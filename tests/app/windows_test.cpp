@@ -1,3 +1,4 @@
+#include "answers.h"
 #include "core/windows/Vademecum.h"
 #include "openwindows.h"
 #include "platform/forms/wrong.h"
@@ -187,6 +188,40 @@ TEST_F(WindowsTest, passwordsAreSeenOnlyWhenAskedFor)
     EXPECT_EQ(field->echoMode(), QLineEdit::Normal);
     EXPECT_EQ(inSight(), u"secreta"_s);
     users->unload();
+}
+
+/// The first rows of a large table are in sight before all are counted.
+TEST_F(WindowsTest, aTableIsCountedOnceItIsInSight)
+{
+    dao::Recordset measures = MODULE11::BaseDatos.openRecordset(u"Medidas"_s);
+    dao::Batch batch(MODULE11::BaseDatos);
+    for (int patient = 0; patient < 300; ++patient) {
+        measures.addNew();
+        measures[u"Paciente"] = patient;
+        measures.update();
+    }
+    batch.commit();
+    main.resize(1300, 900);
+    main.show();
+    auto *files = screens::make("panGArchivos").release();
+    files->showChild();
+    const auto *place = files->findChild<forms::Label *>(u"Label1"_s);
+    const auto inSight = [&] { return place->caption().toStdString(); };
+    auto *grid = files->findChild<forms::DBGrid *>(u"DBGrid1"_s);
+    files->findChild<forms::ComboBox *>(u"Combo1"_s)->setValue(u"Medidas"_s);
+    EXPECT_EQ(inSight(), "1 de … registros.");
+    EXPECT_LT(grid->model()->rowCount(), 300);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(inSight(), "1 de 300 registros.");
+    grid->setCurrentRow(299);
+    EXPECT_EQ(inSight(), "300 de 300 registros.");
+    files->findChild<forms::CheckBox *>(u"Check2"_s)->setChecked(true);
+    const Answers yes({u"Sí"_s});
+    files->findChild<forms::CommandButton *>(u"Command3"_s)->click();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(inSight(), "299 de 299 registros.");
+    EXPECT_EQ(one(u"Select count(*) from Medidas where Paciente = 299"_s), u"0"_s);
+    files->unload();
 }
 
 /// As large as the screen leaves it, on a small one and on one of twice the scale: the window lies inside and

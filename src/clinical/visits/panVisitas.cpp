@@ -160,12 +160,19 @@ void panVisitas::activate()
 {
     if (!Data1.hasRecordset())
         buscarPaciente();
-    else if (!Data2.dirty())
-        records::reread(Data2); // they may have been emptied from the service window
+    else if (!Data2.dirty() && visitaBorrada())
+        records::reread(Data2);
     if (forms::tag(&Command3) != u"Activar")
         return;
     forms::setTag(&Command3, {});
     nueva();
+}
+
+/// By another station, or by the emptying of the daily tables while this window stood behind.
+bool panVisitas::visitaBorrada()
+{
+    return Data2.hasRow() && !basic::ignoring({dao::Error::RecordDeleted},
+                                              [this] { Data2.recordset()[u"idConsulta"].value(); });
 }
 
 void panVisitas::buscarPaciente()

@@ -25,6 +25,7 @@ private:
     void disponer();
     forms::Item visita();
     void conectar();
+    bool visitaBorrada();
     void buscarPaciente();
     void armarConsultas();
 

@@ -13,6 +13,8 @@
 
 #include <QShortcut>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using namespace forms;
 using MODULE11::BaseDatos;
@@ -20,7 +22,21 @@ using MODULE11::BaseDatos;
 namespace
 {
 
-constexpr int anchoDeColumna = 120, tablasEnLista = 25;
+constexpr int tablasEnLista = 25;
+constexpr int letra = 7, masAngosta = 90, masAncha = 260; ///< of a column of texts, in pixels
+
+/// As wide as its texts may be, within reason; the others as their heading is.
+int ancho(const dao::FieldDef &campo)
+{
+    switch (campo.type) {
+    case dao::FieldType::Text:
+        return std::clamp(campo.size * letra, masAngosta, masAncha);
+    case dao::FieldType::Memo:
+        return masAncha;
+    default:
+        return 0;
+    }
+}
 
 /// A column without one is chosen by its first entry, which is blank.
 void ofrecer(ComboBox &combo, const std::vector<dao::FieldDef> &campos)
@@ -197,7 +213,7 @@ void panGArchivos::mostrarColumnas()
 {
     std::vector<GridColumn> columnas;
     for (const dao::FieldDef &campo : Data1.recordset().fields())
-        columnas.push_back({campo.name, campo.name, {}, anchoDeColumna});
+        columnas.push_back({campo.name, campo.name, {}, ancho(campo)});
     DBGrid1.setSource(Data1, columnas);
     mostrarPosicion();
 }

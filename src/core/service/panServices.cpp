@@ -45,10 +45,10 @@ panServices::panServices() : Form(u"panServices"_s)
     DBGrid1.setSource(Data1, {{u"Estudio"_s, u"Estudio"_s}});
     DBGrid1.setEditable(true);
     DBGrid2.setSource(Data2, {{u"Orden"_s, u"orden"_s, {}, 60},
-                              {u"Nombre"_s, u"Descripcion"_s, {}, 170},
-                              {u"Detalles"_s, u"detalle"_s, {}, 330},
-                              {u"Período"_s, u"Dosis"_s, {}, 140},
-                              {u"Código"_s, u"Vacuna"_s, {}, 150},
+                              {u"Nombre"_s, u"Descripcion"_s, {}, 140},
+                              {u"Detalles"_s, u"detalle"_s, {}, 250},
+                              {u"Período"_s, u"Dosis"_s, {}, 120},
+                              {u"Código"_s, u"Vacuna"_s, {}, 110},
                               {u"Meses"_s, u"Tiempo en meses"_s, {}, 60}});
     DBGrid3.setSource(Data3, {{u"Edad (meses)"_s, u"Edad"_s, {}, 110},
                               {u"Tipo"_s, u"tipo"_s, {}, 70, false, true},

@@ -53,9 +53,10 @@ private:
 class DBGrid::Model : public QAbstractTableModel
 {
 public:
-    Model(Data &data, std::vector<GridColumn> columns) : data_(data), columns_(std::move(columns))
+    Model(Data &data, std::vector<GridColumn> columns, bool countsLater)
+        : data_(data), columns_(std::move(columns)), countsLater_(countsLater)
     {
-        reload();
+        startAnew();
     }
 
     /// The source may fail while it is asked: it is asked before the views are told, and a grid that cannot
@@ -135,11 +136,6 @@ public:
                                                     : 0;
     }
     void setSecretsShown(bool shown) { secretsShown_ = shown; }
-    void setCountsLater(bool later)
-    {
-        countsLater_ = later;
-        startAnew();
-    }
     /// The rows are others, and how many they are is not known.
     void startAnew()
     {
@@ -321,9 +317,8 @@ void DBGrid::setSource(Data &source, std::vector<GridColumn> columns)
         data_->disconnect(this);
     dropModel();
     data_ = &source;
-    model_ = new Model(source, std::move(columns));
+    model_ = new Model(source, std::move(columns), countsLater_);
     model_->setEditable(editTriggers() != QAbstractItemView::NoEditTriggers);
-    model_->setCountsLater(countsLater_);
     setModel(model_);
     delete itemDelegate();
     setItemDelegate(new CellDelegate(this, [this](int column) { return model_->length(column); }));
@@ -353,13 +348,6 @@ void DBGrid::countLater()
         followData();
         emit rowsCounted();
     });
-}
-
-void DBGrid::setCountsLater(bool later)
-{
-    countsLater_ = later;
-    if (model_)
-        model_->setCountsLater(later);
 }
 
 bool DBGrid::allCounted() const

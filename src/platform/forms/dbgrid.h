@@ -47,7 +47,7 @@ public:
     void setSecretsShown(bool shown);
     /// For tables of any size: the first rows are in sight at once, and how many there are is asked once they
     /// are.
-    void setCountsLater(bool later);
+    void setCountsLater(bool later) { countsLater_ = later; }
     bool allCounted() const;
     /// The person gave a column another width.
     bool columnsMoved() const { return columnsMoved_; }
