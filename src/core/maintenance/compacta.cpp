@@ -7,6 +7,7 @@
 #include "platform/dao/database.h"
 
 #include <QDir>
+#include <QFile>
 
 #include <optional>
 
@@ -61,7 +62,12 @@ bool compactar(const QString &base, const QString &copia, const QString &destino
 void reemplazar(const QString &base, const QString &fresca)
 {
     basic::removeFile(base + u"-journal"_s); // never to be played back into the new file
-    basic::replaceFile(fresca, base);
+    try {
+        basic::replaceFile(fresca, base);
+    } catch (const basic::Error &) {
+        QFile::remove(fresca);
+        throw;
+    }
 }
 
 QString actualizar(const QString &carpeta, const QString &conexion, const mantenimiento::Avance &avance)

@@ -15,7 +15,7 @@ bool compactar(const QString &base, const QString &copia, const QString &destino
                const mantenimiento::Avance &avance);
 
 /// Puts a checked file in the place of the closed one, in one stroke: what stood there is gone. Throws
-/// basic::Error.
+/// basic::Error; then there is no fresh one.
 void reemplazar(const QString &base, const QString &fresca);
 
 /// Deletes COMPACTA.MDB and BASE.BAK of the folder, keeps BASE.MDB as BASE.BAK, compacts it into COMPACTA.MDB

@@ -27,7 +27,7 @@ constexpr double mega = 1024 * 1024;
 
 QString fechaDe(const restauracion::Copia &copia)
 {
-    return copia.momento.toString(u"dd/MM/yyyy HH:mm:ss"_s);
+    return copia.momento.toString(u"dd/MM/yyyy HH:mm"_s);
 }
 
 /// What to show for the patients of a copy: their number, or that it is none.
