@@ -51,6 +51,8 @@ void tooth::nuevo()
     // What the new one has taken over may still be wanted in the old one.
     if (dejarCambios(u"Desea guradar los cambios realizados del paciente ?"_s))
         llenarCombo(nombre);
+    else
+        Combo1.addItem(nombre);
 }
 
 /// Until the changes are settled the scheme that they belong to is the chosen one.
