@@ -33,7 +33,8 @@ odonto::Esquema mouth(int which)
     odonto::Esquema full;
     for (int tooth = 1; tooth <= odonto::piezas; ++tooth) {
         const auto kinds = odonto::clasesDeMarca();
-        full.alternarMarca(tooth, kinds[static_cast<std::size_t>(tooth + which) % kinds.size()].tipo, odonto::azul);
+        full.alternarMarca(tooth, kinds[static_cast<std::size_t>(tooth + which) % kinds.size()].tipo,
+                           odonto::azul);
         full.ponerLeyenda(tooth, u"pieza %1"_s.arg(which), odonto::rojo);
         full.pintar(odonto::caraDe(tooth, (tooth + which) % odonto::carasPorPieza), odonto::rojo);
     }
@@ -84,23 +85,24 @@ void measureChart(const Report &report, qint64 patient)
     window.setTag(QString::number(patient));
     const double built = milliseconds(opening);
     opening.start();
-    modally([&] { window.showModal(); },
-            [&](forms::Form &form) {
-                form.grab();
-                report("tooth, open to first paint", built + milliseconds(opening), patienceForChart);
-                auto &list = in<forms::ComboBox>(form, "Combo1");
-                for (const int i : {1, 2, 3})
-                    report("tooth, another scheme", untilSeen(form, [&] { list.setCurrentIndex(i); }),
-                           patienceForScheme);
-                emit in<odonto::Odontograma>(form, "Picture1").caraPulsada(odonto::caraDe(1, odonto::Centro));
-                in<QToolButton>(form, "SSPanel2(0)").click();
-                report("tooth, scheme saved",
-                       elapsed([&] { in<forms::CommandButton>(form, "Command1").click(); }), patienceForSaving);
-                in<forms::CommandButton>(form, "sMenu(1)").click();
-                auto &all = in<forms::CommandButton>(form, "Command22");
-                report("tooth, 20,000 budgets listed", untilSeen(form, [&] { all.click(); }), patienceForBudgets);
-                form.unload();
-            });
+    modally(
+        [&] { window.showModal(); },
+        [&](forms::Form &form) {
+            form.grab();
+            report("tooth, open to first paint", built + milliseconds(opening), patienceForChart);
+            auto &list = in<forms::ComboBox>(form, "Combo1");
+            for (const int i : {1, 2, 3})
+                report("tooth, another scheme", untilSeen(form, [&] { list.setCurrentIndex(i); }),
+                       patienceForScheme);
+            emit in<odonto::Odontograma>(form, "Picture1").caraPulsada(odonto::caraDe(1, odonto::Centro));
+            in<QToolButton>(form, "SSPanel2(0)").click();
+            report("tooth, scheme saved",
+                   elapsed([&] { in<forms::CommandButton>(form, "Command1").click(); }), patienceForSaving);
+            in<forms::CommandButton>(form, "sMenu(1)").click();
+            auto &all = in<forms::CommandButton>(form, "Command22");
+            report("tooth, 20,000 budgets listed", untilSeen(form, [&] { all.click(); }), patienceForBudgets);
+            form.unload();
+        });
 }
 
 void measurePrices(const Report &report)

@@ -304,15 +304,17 @@ TEST_F(SyntheticPractice, HasTemporaryAndPermanentTeethTreatedAndBudgeted)
 {
     EXPECT_EQ(count(u"Odontograma"_s), 4);
     std::set<qint64> ages;
-    for (dao::Recordset rows = query(
-             u"Select distinct p.[Fecha de Nacimiento] as n from Odontograma o inner join Pacientes p on o.IdPaciente = p.Numero"_s);
-         !rows.eof(); rows.moveNext())
+    for (
+        dao::Recordset rows = query(
+            u"Select distinct p.[Fecha de Nacimiento] as n from Odontograma o inner join Pacientes p on o.IdPaciente = p.Numero"_s);
+        !rows.eof(); rows.moveNext())
         ages.insert(rows[u"n"].date().date().daysTo(today) / 365);
     EXPECT_EQ(ages.size(), 2u) << "a child and an adolescent";
     EXPECT_EQ(count(u"Odontograma where string1 not like '*|*'"_s), 0);
-    EXPECT_EQ(query(u"Select codpresupuesto from ConsultaPresupuesto where subtotal > 0 group by codpresupuesto"_s)
-                  .rowCount(),
-              2);
+    EXPECT_EQ(
+        query(u"Select codpresupuesto from ConsultaPresupuesto where subtotal > 0 group by codpresupuesto"_s)
+            .rowCount(),
+        2);
 }
 
 TEST_F(SyntheticPractice, FollowsAChildForItsHeart)

@@ -91,7 +91,8 @@ TEST(Esquema, aToothHasOneMarkAndItsLegendOutlivesIt)
 
 TEST(Esquema, whatCannotBeReadIsPassedOverAloneAndKept)
 {
-    const QString marcas = u"veneer;5|5|255||0;99|3|0||0;6|3|rojo||0;7|77|0||0;8|3|0;;9|3|255|100|0;-1|3|0||0"_s;
+    const QString marcas =
+        u"veneer;5|5|255||0;99|3|0||0;6|3|rojo||0;7|77|0||0;8|3|0;;9|3|255|100|0;-1|3|0||0"_s;
     const QString caras = u";7|255|16777215;300|1|1;0|5|5;8|x|1;9|1;10|99999999999|0;11|-2147483633|255"_s;
     const Esquema esquema = Esquema::deTexto(marcas, caras);
     EXPECT_EQ(esquema.marca(5).tipo, Ausente);
@@ -101,7 +102,8 @@ TEST(Esquema, whatCannotBeReadIsPassedOverAloneAndKept)
     EXPECT_EQ(esquema.color(11), blanco) << "a colour of the system was not painted by anybody";
     EXPECT_EQ(esquema.pintura(11).frente, -2147483633);
     EXPECT_EQ(esquema.sinLeer(), 6 + 5);
-    EXPECT_EQ(esquema.string1(), u"5|5|255||0;9|3|255||0;veneer;99|3|0||0;6|3|rojo||0;7|77|0||0;8|3|0;-1|3|0||0"_s);
+    EXPECT_EQ(esquema.string1(),
+              u"5|5|255||0;9|3|255||0;veneer;99|3|0||0;6|3|rojo||0;7|77|0||0;8|3|0;-1|3|0||0"_s);
     EXPECT_TRUE(esquema.string2().endsWith(u";300|1|1;0|5|5;8|x|1;9|1;10|99999999999|0"_s));
     EXPECT_EQ(Esquema::deTexto(esquema.string1(), esquema.string2()), esquema);
     // Two items of a tooth are one: neither its mark nor its legend is lost.

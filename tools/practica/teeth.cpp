@@ -23,10 +23,18 @@ struct Price {
     int price;
 };
 constexpr Price prices[] = {
-    {"Consulta y diagnóstico", 12000},   {"Corona de porcelana", 185000}, {"Corona de acero temporaria", 60000},
-    {"Extracción simple", 38000},        {"Implante", 420000},            {"Limpieza y fluoruro", 25000},
-    {"Obturación con resina", 45000},    {"Prótesis parcial", 230000},    {"Puente de tres piezas", 410000},
-    {"Reconstrucción de pieza", 70000},  {"Sellador de fosas", 18000},    {"Tratamiento de conducto", 120000},
+    {"Consulta y diagnóstico", 12000},
+    {"Corona de porcelana", 185000},
+    {"Corona de acero temporaria", 60000},
+    {"Extracción simple", 38000},
+    {"Implante", 420000},
+    {"Limpieza y fluoruro", 25000},
+    {"Obturación con resina", 45000},
+    {"Prótesis parcial", 230000},
+    {"Puente de tres piezas", 410000},
+    {"Reconstrucción de pieza", 70000},
+    {"Sellador de fosas", 18000},
+    {"Tratamiento de conducto", 120000},
 };
 
 /// A tooth as it was found and as it was left.

@@ -236,8 +236,8 @@ constexpr const char *tablasDeOftalmologia[] = {
     "CREATE INDEX Clase ON AuxiliarOftalmo (Clase, Descripcion)",
 };
 
-// A line of a budget keeps the name that its practice had; those of older versions have only its key. The key of the
-// budget stands in its head.
+// A line of a budget keeps the name that its practice had; those of older versions have only its key. The key
+// of the budget stands in its head.
 constexpr const char *renglonesDePresupuesto =
     "Select RelPractico.codpresupuesto, RelPractico.codpractico, "
     "IIf(RelPractico.detalle Is Null, Practicos.detalle, RelPractico.detalle) AS detalle, RelPractico.cantidad, "

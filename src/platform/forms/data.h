@@ -60,9 +60,9 @@ public:
     void change(const std::function<void(dao::Recordset &)> &work);
 
 signals:
-    void reposition(); ///< the current row is another, or none
-    void refreshed();  ///< the rows are others
-    void rowWritten(); ///< the bound controls' values are in the row
+    void reposition();  ///< the current row is another, or none
+    void refreshed();   ///< the rows are others
+    void rowWritten();  ///< the bound controls' values are in the row
     void cellWritten(); ///< writeCell() wrote a column of the current row
 
 private:

@@ -11,8 +11,8 @@ namespace forms
 {
 
 /// A column of a grid: heading, field, display pattern (basic::format; empty shows the value's text), width
-/// in pixels (0: by its heading). A secret one shows dots until setSecretsShown(); a fixed one is not typed in where
-/// the others are.
+/// in pixels (0: by its heading). A secret one shows dots until setSecretsShown(); a fixed one is not typed
+/// in where the others are.
 struct GridColumn {
     QString heading;
     QString field;

@@ -41,21 +41,22 @@ PannuePractico::PannuePractico(std::optional<qint64> presupuesto, std::function<
     : Form(u"PannuePractico"_s), presupuesto_(presupuesto), agregada_(std::move(agregada))
 {
     setWindowTitle(u"Seleccione una Práctica"_s);
-    DBGrid1.setSource(Data1, {{.heading = u"Práctica"_s, .field = u"detalle"_s, .width = 360},
-                              {.heading = u"Precio"_s, .field = u"precio"_s, .pattern = u"currency"_s, .width = 120}});
+    DBGrid1.setSource(
+        Data1, {{.heading = u"Práctica"_s, .field = u"detalle"_s, .width = 360},
+                {.heading = u"Precio"_s, .field = u"precio"_s, .pattern = u"currency"_s, .width = 120}});
     CommandButton &usarla = comando(*this, u"Command1"_s, u"&USAR>>"_s, u"aceptar"_s, [this] { usar(); });
     usarla.setDefault(true);
-    setContents(this, Column{
-                          Fields{{u"&Buscar :"_s, Text1}},
-                          Expanding(DBGrid1),
-                          lblAgregada,
-                          Row{comando(*this, u"Command3"_s, u"&Nuevo..."_s, u"agregar"_s, [this] { nueva(); }),
-                              comando(*this, u"Command5"_s, u"&Precio..."_s, u"editar"_s,
-                                      [this] { cambiarPrecio(); }),
-                              comando(*this, u"Command4"_s, u"&Quitar"_s, u"quitar"_s, [this] { quitar(); }),
-                              Stretch(), usarla,
-                              comando(*this, u"Command2"_s, u"&Cerrar"_s, u"cerrar"_s, [this] { unload(); })},
-                      });
+    setContents(
+        this,
+        Column{
+            Fields{{u"&Buscar :"_s, Text1}},
+            Expanding(DBGrid1),
+            lblAgregada,
+            Row{comando(*this, u"Command3"_s, u"&Nuevo..."_s, u"agregar"_s, [this] { nueva(); }),
+                comando(*this, u"Command5"_s, u"&Precio..."_s, u"editar"_s, [this] { cambiarPrecio(); }),
+                comando(*this, u"Command4"_s, u"&Quitar"_s, u"quitar"_s, [this] { quitar(); }), Stretch(),
+                usarla, comando(*this, u"Command2"_s, u"&Cerrar"_s, u"cerrar"_s, [this] { unload(); })},
+        });
     resize(620, 480);
     connect(&Text1, &QLineEdit::textChanged, this, [this] { buscar(); });
     connect(&DBGrid1, &DBGrid::accepted, this, &PannuePractico::usar);
@@ -72,8 +73,8 @@ void PannuePractico::buscar(const QString &criterio)
     const QString escrito = Text1.text().trimmed();
     Data1.setRecordSource(escrito.isEmpty()
                               ? u"Select * from practicos order by detalle"_s
-                              : u"Select * from practicos where detalle LIKE %1 order by detalle"_s.arg(dao::quoted(
-                                    dao::typedPattern(escrito, dao::Match::Beginning))));
+                              : u"Select * from practicos where detalle LIKE %1 order by detalle"_s.arg(
+                                    dao::quoted(dao::typedPattern(escrito, dao::Match::Beginning))));
     Data1.refresh(criterio);
     Text1.setFound(escrito.isEmpty() || Data1.hasRow());
 }
@@ -88,8 +89,7 @@ bool PannuePractico::hayPractica()
 
 void PannuePractico::nueva()
 {
-    const auto detalle =
-        inputBox(u"Escriba el Nombre de la practica"_s, u"Practicas"_s, {}, largoDelDetalle);
+    const auto detalle = inputBox(u"Escriba el Nombre de la practica"_s, u"Practicas"_s, {}, largoDelDetalle);
     if (!detalle || detalle->trimmed().isEmpty())
         return;
     const auto precio = pidePrecio();

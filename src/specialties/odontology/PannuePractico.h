@@ -8,8 +8,8 @@
 #include <functional>
 #include <optional>
 
-/// "Seleccione una Práctica": the price list, from which practices are added to a budget one after another. The tag
-/// says who asks: "tooth", or "presu" for the window of a new budget.
+/// "Seleccione una Práctica": the price list, from which practices are added to a budget one after another.
+/// The tag says who asks: "tooth", or "presu" for the window of a new budget.
 class PannuePractico : public forms::Form
 {
     Q_OBJECT

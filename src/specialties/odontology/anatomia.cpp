@@ -21,11 +21,13 @@ struct Forma {
 };
 
 // By place from the middle line.
-constexpr Forma superiores[] = {{.76, .50, .42, .55, 1, 0}, {.62, .42, .39, .55, 1, 0}, {.68, .50, .41, .58, 1, 1},
-                                {.66, .50, .36, .55, 2, 1}, {.64, .48, .35, .55, 1, 1}, {.94, .76, .34, .54, 3, 2},
+constexpr Forma superiores[] = {{.76, .50, .42, .55, 1, 0}, {.62, .42, .39, .55, 1, 0},
+                                {.68, .50, .41, .58, 1, 1}, {.66, .50, .36, .55, 2, 1},
+                                {.64, .48, .35, .55, 1, 1}, {.94, .76, .34, .54, 3, 2},
                                 {.88, .72, .33, .50, 3, 2}, {.78, .62, .31, .42, 3, 2}};
-constexpr Forma inferiores[] = {{.52, .36, .38, .52, 1, 0}, {.56, .38, .39, .54, 1, 0}, {.62, .46, .42, .57, 1, 1},
-                                {.64, .46, .37, .54, 1, 1}, {.68, .50, .36, .54, 1, 1}, {.98, .80, .33, .54, 2, 3},
+constexpr Forma inferiores[] = {{.52, .36, .38, .52, 1, 0}, {.56, .38, .39, .54, 1, 0},
+                                {.62, .46, .42, .57, 1, 1}, {.64, .46, .37, .54, 1, 1},
+                                {.68, .50, .36, .54, 1, 1}, {.98, .80, .33, .54, 2, 3},
                                 {.92, .74, .32, .52, 2, 2}, {.86, .68, .31, .43, 2, 2}};
 constexpr Forma superioresTemporarias[] = {{.64, .46, .34, .44, 1, 0},
                                            {.54, .40, .33, .44, 1, 0},
@@ -46,8 +48,8 @@ const Forma &formaDe(int pieza)
     return esSuperior(pieza) ? superiores[lugar] : inferiores[lugar];
 }
 
-/// An upper tooth of the patient's left: the tips of its cusps on y = 0, its roots upwards, x = 0 its middle, the
-/// middle line of the face to the left.
+/// An upper tooth of the patient's left: the tips of its cusps on y = 0, its roots upwards, x = 0 its middle,
+/// the middle line of the face to the left.
 class Trazo
 {
 public:
@@ -120,7 +122,8 @@ private:
             const QPointF desde = linea.currentPosition(), tip = apice(raiz);
             const QPointF hasta = raiz == 0 ? QPointF(-cuello_ / 2, -corona_) : horqueta(raiz);
             const double media = (desde.y() + tip.y()) / 2, vuelta = (hasta.y() + tip.y()) / 2;
-            linea.cubicTo(desde.x(), media, tip.x() + 3 * punta, tip.y() + .2 * raiz_, tip.x() + punta, tip.y());
+            linea.cubicTo(desde.x(), media, tip.x() + 3 * punta, tip.y() + .2 * raiz_, tip.x() + punta,
+                          tip.y());
             linea.quadTo(tip.x(), tip.y() - punta, tip.x() - punta, tip.y());
             linea.cubicTo(tip.x() - 3 * punta, tip.y() + .2 * raiz_, hasta.x(), vuelta, hasta.x(), hasta.y());
         }
@@ -144,7 +147,8 @@ private:
         for (int raiz = 0; raiz < raices_; ++raiz) {
             const QPointF tip = apice(raiz);
             lineas.moveTo(tip.x() * .35, -.55 * corona_);
-            lineas.cubicTo(tip.x() * .5, -corona_, tip.x() * .9, -corona_ - .4 * raiz_, tip.x(), tip.y() + 2 * punta);
+            lineas.cubicTo(tip.x() * .5, -corona_, tip.x() * .9, -corona_ - .4 * raiz_, tip.x(),
+                           tip.y() + 2 * punta);
         }
         return lineas;
     }

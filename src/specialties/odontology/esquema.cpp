@@ -99,7 +99,8 @@ bool Esquema::leerMarca(const QString &item)
         return false;
     const auto pieza = numero(campos[0]), tipo = numero(campos[1]), color = numero(campos[2]),
                segundo = numero(campos[4]);
-    if (!pieza || !esPieza(*pieza) || !tipo || (*tipo != sinMarca && !claseDeMarca(*tipo)) || !color || !segundo)
+    if (!pieza || !esPieza(*pieza) || !tipo || (*tipo != sinMarca && !claseDeMarca(*tipo)) || !color ||
+        !segundo)
         return false;
     Marca &marca = marcas_[static_cast<std::size_t>(*pieza)];
     if (*tipo != sinMarca) {
@@ -214,8 +215,9 @@ std::vector<Diferencia> diferencias(const Esquema &uno, const Esquema &otro)
         if (iguales(uno, otro, pieza))
             continue;
         const QString antes = dicho(uno, pieza), despues = dicho(otro, pieza);
-        todas.push_back({pieza, u"%1: "_s.arg(numeroFdi(pieza)) +
-                                    (antes == despues ? antes + u" (otro color)"_s : antes + u" → "_s + despues)});
+        todas.push_back(
+            {pieza, u"%1: "_s.arg(numeroFdi(pieza)) +
+                        (antes == despues ? antes + u" (otro color)"_s : antes + u" → "_s + despues)});
     }
     return todas;
 }

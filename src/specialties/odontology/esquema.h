@@ -9,7 +9,8 @@
 #include <span>
 #include <vector>
 
-/// A scheme of the tooth chart: what is marked, painted and written on the teeth, and the two texts that keep it.
+/// A scheme of the tooth chart: what is marked, painted and written on the teeth, and the two texts that keep
+/// it.
 namespace odonto
 {
 
@@ -18,7 +19,15 @@ constexpr int blanco = 0xffffff, rojo = 0x0000ff, azul = 0xff0000;
 
 constexpr int sinMarca = 100;
 /// The kinds of mark. A tooth has one at most.
-enum Tipo { Puente = 0, Corona = 3, Ausente = 5, Conducto = 10, Extraccion = 11, Implante = 12, Fractura = 13 };
+enum Tipo {
+    Puente = 0,
+    Corona = 3,
+    Ausente = 5,
+    Conducto = 10,
+    Extraccion = 11,
+    Implante = 12,
+    Fractura = 13
+};
 
 struct ClaseDeMarca {
     int tipo;

@@ -15,7 +15,8 @@ namespace
 
 QString condicion(qint64 paciente, const QString &nombre)
 {
-    return u" from Odontograma where idPaciente=%1 and descripcion=%2"_s.arg(paciente).arg(dao::quoted(nombre));
+    return u" from Odontograma where idPaciente=%1 and descripcion=%2"_s.arg(paciente).arg(
+        dao::quoted(nombre));
 }
 
 void escribir(dao::Recordset &fila, qint64 paciente, const Guardado &esquema)

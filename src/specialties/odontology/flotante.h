@@ -15,7 +15,7 @@ class Flotante : public QFrame
     Q_OBJECT
 public:
     Flotante(const QString &titulo, const QString &rotulo); ///< the title is a label of that name
-    bool movida() const { return movida_; } ///< by the person
+    bool movida() const { return movida_; }                 ///< by the person
 
 signals:
     void mostrada();

@@ -34,9 +34,9 @@ struct ColorConNombre {
     int color;
 };
 constexpr ColorConNombre paleta[] = {
-    {u"Rojo", rojo},          {u"Azul", azul},         {u"Negro", 0x000000},    {u"Verde", 0x008000},
-    {u"Blanco", blanco},      {u"Amarillo", 0x00ffff}, {u"Naranja", 0x0080ff},  {u"Marrón", 0x204080},
-    {u"Celeste", 0xffc080},   {u"Gris", 0x808080},
+    {u"Rojo", rojo},        {u"Azul", azul},         {u"Negro", 0x000000},   {u"Verde", 0x008000},
+    {u"Blanco", blanco},    {u"Amarillo", 0x00ffff}, {u"Naranja", 0x0080ff}, {u"Marrón", 0x204080},
+    {u"Celeste", 0xffc080}, {u"Gris", 0x808080},
 };
 
 QIcon icono(const std::function<void(QPainter &)> &dibujar)
@@ -100,7 +100,8 @@ Herramienta::Herramienta(const QString &nombre, const QString &rotulo, const QIc
 }
 
 Herramientas::Herramientas()
-    : Flotante(u"Label8"_s, u"Herramientas"_s), cmLeyenda(u"cmLeyenda"_s, u"Leyenda particular"_s, iconoDelPrograma(u"editar"_s), false),
+    : Flotante(u"Label8"_s, u"Herramientas"_s),
+      cmLeyenda(u"cmLeyenda"_s, u"Leyenda particular"_s, iconoDelPrograma(u"editar"_s), false),
       cmLimpiar(u"cmLimpiar"_s, u"Limpiar la pieza"_s, iconoDelPrograma(u"borrar"_s), false)
 {
     setObjectName(u"herramientas"_s);
@@ -121,7 +122,8 @@ Herramientas::Herramientas()
                              Grid(2, marcas)});
     layout()->setContentsMargins(8, 6, 8, 8);
     for (auto &[panel, herramienta] : SSPanel2)
-        connect(herramienta.get(), &QToolButton::clicked, this, [this, panel = panel] { emit elegida(panel); });
+        connect(herramienta.get(), &QToolButton::clicked, this,
+                [this, panel = panel] { emit elegida(panel); });
     connect(&cmLeyenda, &QToolButton::clicked, this, &Herramientas::leyendaPedida);
     connect(&cmLimpiar, &QToolButton::clicked, this, &Herramientas::limpiezaPedida);
 }

@@ -15,8 +15,8 @@ namespace odonto
 namespace
 {
 
-const QColor tinta(0x5a, 0x62, 0x70), tenue(0xc9, 0xd1, 0xd8), marfil(0xfd, 0xf8, 0xec), detalle(0xb9, 0xa9, 0x88),
-    cambiada(0xe0, 0x8a, 0x1e);
+const QColor tinta(0x5a, 0x62, 0x70), tenue(0xc9, 0xd1, 0xd8), marfil(0xfd, 0xf8, 0xec),
+    detalle(0xb9, 0xa9, 0x88), cambiada(0xe0, 0x8a, 0x1e);
 constexpr double pixel = twipsPorBorde;
 constexpr int puntosDeLetra = 7;
 constexpr double anchoDeLeyenda = 1.2 * anchoDePieza;
@@ -125,16 +125,18 @@ void Odontograma::agregarPieza(int pieza)
     p.contorno->setFlag(QGraphicsItem::ItemIsFocusable, false);
     p.contorno->setToolTip(nombre);
     p.silueta = agregar(u"diente", {}, figura(forma.silueta, marfil, tinta, .8 * pixel));
-    CanvasItem *relieve = agregar(u"relieve", {}, figura(forma.relieve, Qt::transparent, detalle, .6 * pixel));
+    CanvasItem *relieve =
+        agregar(u"relieve", {}, figura(forma.relieve, Qt::transparent, detalle, .6 * pixel));
     const QPointF cuadro = cuadroDeCaras(pieza).topLeft();
     for (int c = Arriba; c <= Centro; ++c) {
         const int cara = caraDe(pieza, c);
-        CanvasItem &item =
-            add(llamado(u"cara", cara), lugar.topLeft() + cuadro, figura(contornoDeCara(c), Qt::white, tinta, .8 * pixel));
+        CanvasItem &item = add(llamado(u"cara", cara), lugar.topLeft() + cuadro,
+                               figura(contornoDeCara(c), Qt::white, tinta, .8 * pixel));
         item.setToolTip(u"%1: %2"_s.arg(nombre, nombreDeCara(cara)));
         p.caras[static_cast<std::size_t>(c)] = &item;
     }
-    p.numero = &add(llamado(u"nMue", pieza), lugarDelNumero(pieza), TextLook{QString::number(numeroFdi(pieza)), letra()});
+    p.numero = &add(llamado(u"nMue", pieza), lugarDelNumero(pieza),
+                    TextLook{QString::number(numeroFdi(pieza)), letra()});
     p.leyenda = agregar(u"le", {-.1 * anchoDePieza, lugar.height() + pixel},
                         TextLook{{}, letra(), anchoDeLeyenda, Qt::black, Qt::AlignHCenter});
     p.cruz = agregar(u"xh", {}, figura(cruz(), Qt::transparent, colorDe(rojo), 3 * pixel));
@@ -175,8 +177,9 @@ void Odontograma::mostrarCara(const Esquema &esquema, int cara)
     if (antes == esquema.pintura(cara))
         return;
     antes = esquema.pintura(cara);
-    piezas_[static_cast<std::size_t>(piezaDe(cara))].caras[static_cast<std::size_t>(cara % carasPorPieza)]->setFill(
-        colorDe(esquema.color(cara)));
+    piezas_[static_cast<std::size_t>(piezaDe(cara))]
+        .caras[static_cast<std::size_t>(cara % carasPorPieza)]
+        ->setFill(colorDe(esquema.color(cara)));
 }
 
 void Odontograma::mostrarMarca(const Marca &marca, int pieza)

@@ -13,8 +13,10 @@ QPainterPath contornoDeCara(int cara, double lado = anchoDePieza);
 /// The colour of a number as the chart keeps it.
 QColor colorDe(int numero);
 
-/// The tooth chart as a person sees it: of each tooth its picture, its number, its five faces (`cara`), its outline
-/// (`shape`), what is marked on it (`marca`, `xh`) and its legend (`le`). It shows a scheme and does not change it.
+/// The tooth chart as a person sees it: of each tooth its picture, its number, its five faces (`cara`), its
+/// outline
+/// (`shape`), what is marked on it (`marca`, `xh`) and its legend (`le`). It shows a scheme and does not
+/// change it.
 class Odontograma : public forms::Canvas
 {
     Q_OBJECT

@@ -59,12 +59,13 @@ Item Pagina::filtros()
 
 Item Pagina::cabezas()
 {
-    return Group(u"Presupuestos"_s,
-                 Column{Expanding(DBGrid4),
-                        Row{comando(ventana_, u"Command20"_s, u"Nuevo..."_s, u"agregar"_s, [this] { nuevo(); }),
-                            comando(ventana_, u"Command21"_s, u"Borrar"_s, u"borrar"_s, [this] { borrar(); }), Stretch(),
-                            comando(ventana_, u"Command26"_s, u"Imprimir..."_s, u"imprimir"_s,
-                                    [this] { imprimir(); })}});
+    return Group(
+        u"Presupuestos"_s,
+        Column{
+            Expanding(DBGrid4),
+            Row{comando(ventana_, u"Command20"_s, u"Nuevo..."_s, u"agregar"_s, [this] { nuevo(); }),
+                comando(ventana_, u"Command21"_s, u"Borrar"_s, u"borrar"_s, [this] { borrar(); }), Stretch(),
+                comando(ventana_, u"Command26"_s, u"Imprimir..."_s, u"imprimir"_s, [this] { imprimir(); })}});
 }
 
 Item Pagina::lineas()
@@ -75,8 +76,8 @@ Item Pagina::lineas()
                                     [this] { renglones_.agregar(u"tooth"_s); }),
                             comando(ventana_, u"Command25"_s, u"&Quitar"_s, u"quitar"_s,
                                     [this] { renglones_.quitar(); }),
-                            comando(ventana_, u"Command27"_s, u"Proponer &según el odontograma..."_s, u"odontologia"_s,
-                                    [this] { proponer(); }),
+                            comando(ventana_, u"Command27"_s, u"Proponer &según el odontograma..."_s,
+                                    u"odontologia"_s, [this] { proponer(); }),
                             Stretch(), renglones_.renglonDelTotal()}});
 }
 

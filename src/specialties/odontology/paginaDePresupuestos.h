@@ -9,8 +9,8 @@
 namespace presupuestos
 {
 
-/// The tab "Presupuesto" of the dentist's record: the budgets, of one patient or of all, and the lines of the current
-/// one.
+/// The tab "Presupuesto" of the dentist's record: the budgets, of one patient or of all, and the lines of the
+/// current one.
 class Pagina : public QWidget
 {
     Q_OBJECT

@@ -24,7 +24,8 @@ panComparaEsquemas::panComparaEsquemas() : Form(u"panComparaEsquemas"_s)
     Label4.setFont(destacada);
     setContents(this, Column{
                           Label4,
-                          Expanding(Row{Expanding(lado(0, u"&Esquema :"_s)), Expanding(lado(1, u"Com&parado con :"_s))}),
+                          Expanding(Row{Expanding(lado(0, u"&Esquema :"_s)),
+                                        Expanding(lado(1, u"Com&parado con :"_s))}),
                           lblDiferencias,
                           List1,
                           Row{Stretch(), Command2},

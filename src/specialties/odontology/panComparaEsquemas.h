@@ -6,8 +6,8 @@
 #include "platform/forms/layout.h"
 #include "specialties/odontology/odontograma.h"
 
-/// Two schemes of the patient whose number is the tag side by side, with the teeth in which they differ framed and told
-/// in words. Opens with the oldest and the newest.
+/// Two schemes of the patient whose number is the tag side by side, with the teeth in which they differ
+/// framed and told in words. Opens with the oldest and the newest.
 class panComparaEsquemas : public forms::Form
 {
     Q_OBJECT
@@ -26,5 +26,6 @@ private:
     forms::ControlArray<odonto::Odontograma> Picture1{QStringLiteral("Picture1")};
     forms::ListBox List1{QStringLiteral("List1")};
     forms::Label lblDiferencias{QStringLiteral("lblDiferencias")};
-    forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("&Cerrar"), QStringLiteral("cerrar")};
+    forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("&Cerrar"),
+                                  QStringLiteral("cerrar")};
 };

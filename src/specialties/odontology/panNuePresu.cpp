@@ -38,12 +38,12 @@ panNuePresu::panNuePresu(qint64 paciente) : Form(u"panNuePresu"_s), renglones_(u
                    {u"Presupuesto Nº :"_s, Row{Text3, Stretch()}},
                    {u"&Fecha :"_s, Row{DTPicker1, Stretch()}},
                    {u"&Descripción :"_s, Text1}},
-            Expanding(Group(
-                u"Prácticas"_s,
-                Column{Expanding(renglones_.grilla()),
-                       Row{comando(*this, u"Command18"_s, u"A&gregar..."_s, u"agregar"_s, [this] { agregar(); }),
-                           comando(*this, u"Command19"_s, u"&Quitar"_s, u"quitar"_s, [this] { renglones_.quitar(); }),
-                           Stretch(), renglones_.renglonDelTotal()}})),
+            Expanding(Group(u"Prácticas"_s, Column{Expanding(renglones_.grilla()),
+                                                   Row{comando(*this, u"Command18"_s, u"A&gregar..."_s,
+                                                               u"agregar"_s, [this] { agregar(); }),
+                                                       comando(*this, u"Command19"_s, u"&Quitar"_s,
+                                                               u"quitar"_s, [this] { renglones_.quitar(); }),
+                                                       Stretch(), renglones_.renglonDelTotal()}})),
             Row{Stretch(), comando(*this, u"Command1"_s, u"&Aceptar"_s, u"aceptar"_s, [this] { aceptar(); }),
                 comando(*this, u"Command2"_s, u"&Cancelar"_s, u"cancelar"_s, [this] { cancelar(); })},
         });

@@ -3,8 +3,8 @@
 #include "platform/forms/form.h"
 #include "specialties/odontology/renglones.h"
 
-/// "Nuevo Presupuesto" of the patient whose number is set. Lines go to a head that is saved, so adding the first one
-/// saves it; cancelling deletes both. Answers "SI" or "NO".
+/// "Nuevo Presupuesto" of the patient whose number is set. Lines go to a head that is saved, so adding the
+/// first one saves it; cancelling deletes both. Answers "SI" or "NO".
 class panNuePresu : public forms::Form
 {
     Q_OBJECT

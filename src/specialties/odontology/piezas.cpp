@@ -18,7 +18,7 @@ struct Tramo {
     int primera, ultima, numero, sentido;
 };
 constexpr Tramo tramos[] = {
-    {1, 8, 18, -1},  {9, 16, 21, 1},  {17, 24, 48, -1}, {25, 32, 31, 1},
+    {1, 8, 18, -1},   {9, 16, 21, 1},  {17, 24, 48, -1}, {25, 32, 31, 1},
     {33, 37, 55, -1}, {38, 42, 61, 1}, {43, 47, 85, -1}, {48, 52, 71, 1},
 };
 
@@ -28,7 +28,8 @@ struct Renglon {
     double izquierda;
 };
 constexpr double margen = 250, margenDeTemporarias = 2160, arriba = 350;
-constexpr Renglon renglones[] = {{1, margen}, {17, margen}, {33, margenDeTemporarias}, {43, margenDeTemporarias}};
+constexpr Renglon renglones[] = {
+    {1, margen}, {17, margen}, {33, margenDeTemporarias}, {43, margenDeTemporarias}};
 constexpr double paso = 1.2 * anchoDePieza, bajada = 1.5 * altoDePieza;
 constexpr double bajoElNumero = 390, altoDeLaLeyenda = 240;
 constexpr QPointF delNumero(55, 245);
@@ -83,11 +84,12 @@ QString nombreDePieza(int pieza)
     static const QStringList permanentes = {u"incisivo central"_s, u"incisivo lateral"_s, u"canino"_s,
                                             u"primer premolar"_s,  u"segundo premolar"_s, u"primer molar"_s,
                                             u"segundo molar"_s,    u"tercer molar"_s};
-    static const QStringList temporarias = {u"incisivo central temporario"_s, u"incisivo lateral temporario"_s,
-                                            u"canino temporario"_s, u"primer molar temporario"_s,
-                                            u"segundo molar temporario"_s};
+    static const QStringList temporarias = {u"incisivo central temporario"_s,
+                                            u"incisivo lateral temporario"_s, u"canino temporario"_s,
+                                            u"primer molar temporario"_s, u"segundo molar temporario"_s};
     const QStringList &nombres = esTemporaria(pieza) ? temporarias : permanentes;
-    return u"%1 %2 %3"_s.arg(nombres.value(posicion(pieza) - 1), esSuperior(pieza) ? u"superior" : u"inferior",
+    return u"%1 %2 %3"_s.arg(nombres.value(posicion(pieza) - 1),
+                             esSuperior(pieza) ? u"superior" : u"inferior",
                              esDerecha(pieza) ? u"derecho" : u"izquierdo");
 }
 

@@ -4,8 +4,8 @@
 #include <QRectF>
 #include <QString>
 
-/// The teeth of the chart, permanent and temporary, by their place in it: two rows of sixteen and two of ten, seen
-/// from in front of the patient.
+/// The teeth of the chart, permanent and temporary, by their place in it: two rows of sixteen and two of ten,
+/// seen from in front of the patient.
 namespace odonto
 {
 

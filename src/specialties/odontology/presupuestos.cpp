@@ -19,19 +19,21 @@ constexpr double mayorImporte = 9e14;
 
 std::optional<Practica> practicaCon(QStringView palabra)
 {
-    dao::Recordset filas = BaseDatos.openRecordset(
-        u"Select * from practicos where detalle LIKE %1 order by detalle"_s.arg(
+    dao::Recordset filas =
+        BaseDatos.openRecordset(u"Select * from practicos where detalle LIKE %1 order by detalle"_s.arg(
             dao::quoted(dao::typedPattern(palabra.toString(), dao::Match::Anywhere))));
     if (filas.eof())
         return std::nullopt;
-    return Practica{filas[u"idpractico"].integer(), filas[u"detalle"].text(), filas[u"precio"].value().currency()};
+    return Practica{filas[u"idpractico"].integer(), filas[u"detalle"].text(),
+                    filas[u"precio"].value().currency()};
 }
 
 } // namespace
 
 QString renglones(std::optional<qint64> presupuesto)
 {
-    return u"select * from ConsultaPresupuesto where codpresupuesto=%1"_s.arg(presupuesto.value_or(deNinguno));
+    return u"select * from ConsultaPresupuesto where codpresupuesto=%1"_s.arg(
+        presupuesto.value_or(deNinguno));
 }
 
 basic::Currency total(qint64 presupuesto)
@@ -51,7 +53,8 @@ std::optional<basic::Currency> subtotal(double cantidad, basic::Currency precio)
 
 bool existe(qint64 presupuesto)
 {
-    return !BaseDatos.openRecordset(u"Select * from presupuestos where idpresupuesto=%1"_s.arg(presupuesto)).eof();
+    return !BaseDatos.openRecordset(u"Select * from presupuestos where idpresupuesto=%1"_s.arg(presupuesto))
+                .eof();
 }
 
 void agregar(qint64 presupuesto, qint64 practica, double cantidad)

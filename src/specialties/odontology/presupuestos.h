@@ -38,8 +38,8 @@ struct Propuesta {
     Practica practica;
     std::vector<int> piezas;
 };
-/// The marks by kind with the first practice of the price list whose name has the kind's word. `sinPractica` gets the
-/// names of the kinds that none has.
+/// The marks by kind with the first practice of the price list whose name has the kind's word. `sinPractica`
+/// gets the names of the kinds that none has.
 std::vector<Propuesta> propuestas(const odonto::Esquema &esquema, QStringList &sinPractica);
 
 } // namespace presupuestos

@@ -21,14 +21,15 @@ constexpr int anchoDelTotal = 130;
 
 Renglones::Renglones(const QString &formato) : formato_(formato)
 {
-    DBGrid3.setSource(Data3, {{.heading = u"Práctica"_s, .field = u"detalle"_s, .width = 300, .fixed = true},
-                              {.heading = u"Cantidad"_s, .field = u"cantidad"_s, .width = 80},
-                              {.heading = u"Precio"_s, .field = u"precio"_s, .pattern = u"currency"_s, .width = 110},
-                              {.heading = u"Subtotal"_s,
-                               .field = u"subtotal"_s,
-                               .pattern = u"currency"_s,
-                               .width = 110,
-                               .fixed = true}});
+    DBGrid3.setSource(Data3,
+                      {{.heading = u"Práctica"_s, .field = u"detalle"_s, .width = 300, .fixed = true},
+                       {.heading = u"Cantidad"_s, .field = u"cantidad"_s, .width = 80},
+                       {.heading = u"Precio"_s, .field = u"precio"_s, .pattern = u"currency"_s, .width = 110},
+                       {.heading = u"Subtotal"_s,
+                        .field = u"subtotal"_s,
+                        .pattern = u"currency"_s,
+                        .width = 110,
+                        .fixed = true}});
     DBGrid3.setEditable(true);
     Text5.setReadOnly(true);
     Text5.setAlignment(Qt::AlignRight);

@@ -23,8 +23,8 @@ public:
     bool vacio() const { return !Data3.hasRow(); }
     /// Reads them again after lines were added, and stands on the last.
     void releer();
-    /// Lets the person choose practices from the price list for the budget. `quien` is what the list is told of its
-    /// caller.
+    /// Lets the person choose practices from the price list for the budget. `quien` is what the list is told
+    /// of its caller.
     void agregar(const QString &quien);
     /// Takes off the current line, after a question.
     void quitar();

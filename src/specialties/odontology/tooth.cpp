@@ -35,7 +35,8 @@ tooth::tooth() : Form(u"tooth"_s)
     setWindowTitle(titulo);
     destacar(Label4, 2);
     destacar(Label19, 0);
-    lblPieza.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long legend does not widen the window
+    lblPieza.setSizePolicy(QSizePolicy::Ignored,
+                           QSizePolicy::Preferred); // a long legend does not widen the window
     Combo1.setMinimumWidth(200);
     mesa_.agregar(herramientas_);
     mesa_.agregar(colores_);
@@ -46,17 +47,18 @@ tooth::tooth() : Form(u"tooth"_s)
         boton.setAutoDefault(false);
         paginas_.addButton(&boton, i++);
     }
-    setContents(this, Column{
-                          Row{Label4, Stretch(), sMenu(delOdontograma), sMenu(delPresupuesto)},
-                          Expanding(Tabs(SSTab1, {{paginas[delOdontograma], paginaDelOdontograma()},
-                                                  {paginas[delPresupuesto], Expanding(presupuestos_)}})),
-                          Row{comando(*this, u"Command5"_s, u"&Imprimir"_s, u"imprimir"_s, [this] { imprimir(); }),
-                              comando(*this, u"Command6"_s, u"Informes..."_s, u"informes"_s,
-                                      [] { screens::showModal("panInformes"); }),
-                              comando(*this, u"Command7"_s, u"A&yuda"_s, u"ayuda"_s, [this] { abrirAyuda(); }),
-                              Stretch(),
-                              comando(*this, u"Command2"_s, u"&Cerrar"_s, u"cerrar"_s, [this] { unload(); })},
-                      });
+    setContents(
+        this,
+        Column{
+            Row{Label4, Stretch(), sMenu(delOdontograma), sMenu(delPresupuesto)},
+            Expanding(Tabs(SSTab1, {{paginas[delOdontograma], paginaDelOdontograma()},
+                                    {paginas[delPresupuesto], Expanding(presupuestos_)}})),
+            Row{comando(*this, u"Command5"_s, u"&Imprimir"_s, u"imprimir"_s, [this] { imprimir(); }),
+                comando(*this, u"Command6"_s, u"Informes..."_s, u"informes"_s,
+                        [] { screens::showModal("panInformes"); }),
+                comando(*this, u"Command7"_s, u"A&yuda"_s, u"ayuda"_s, [this] { abrirAyuda(); }), Stretch(),
+                comando(*this, u"Command2"_s, u"&Cerrar"_s, u"cerrar"_s, [this] { unload(); })},
+        });
     SSTab1.tabBar()->hide();
     SSTab1.setFocusProxy(nullptr); // the Tab key would come to the hidden bar and stay there
     SSTab1.setDocumentMode(true);

@@ -9,9 +9,9 @@
 #include <QButtonGroup>
 #include <QMenu>
 
-/// "Odontología": the dentist's record of the patient whose number is the window's tag. The tooth chart is kept in
-/// named schemes; what is painted and marked is written when it is saved, or on leaving the scheme with a question.
-/// A window whose `Combo1` has the tag "PRE" opens on the budgets.
+/// "Odontología": the dentist's record of the patient whose number is the window's tag. The tooth chart is
+/// kept in named schemes; what is painted and marked is written when it is saved, or on leaving the scheme
+/// with a question. A window whose `Combo1` has the tag "PRE" opens on the budgets.
 class tooth : public forms::Form
 {
     Q_OBJECT
@@ -30,7 +30,8 @@ private:
     forms::Item paginaDelOdontograma();
     void conectar();
     void armarMenu();
-    QAction &agregarAlMenu(QMenu &menu, const QString &nombre, const QString &rotulo, std::function<void()> trabajo);
+    QAction &agregarAlMenu(QMenu &menu, const QString &nombre, const QString &rotulo,
+                           std::function<void()> trabajo);
     void mostrarPagina(int pagina);
 
     // The schemes.

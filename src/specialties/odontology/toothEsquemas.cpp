@@ -51,6 +51,8 @@ void tooth::nuevo()
     // What the new one has taken over may still be wanted in the old one.
     if (dejarCambios(u"Desea guradar los cambios realizados del paciente ?"_s))
         llenarCombo(nombre);
+    else
+        Combo1.addItem(nombre);
 }
 
 /// Until the changes are settled the scheme that they belong to is the chosen one.
@@ -70,8 +72,7 @@ void tooth::cambiarEsquema()
 
 void tooth::abrirEsquema(const QString &nombre)
 {
-    const auto guardado =
-        paciente_ && !nombre.isEmpty() ? esquemas::leer(*paciente_, nombre) : std::nullopt;
+    const auto guardado = paciente_ && !nombre.isEmpty() ? esquemas::leer(*paciente_, nombre) : std::nullopt;
     leido_ = guardado.value_or(esquemas::Guardado());
     esquema_ = odonto::Esquema::deTexto(leido_.string1, leido_.string2);
     forms::setTag(&Combo1, guardado ? nombre : QString());
@@ -138,14 +139,15 @@ void tooth::imprimir()
     if (!impresora)
         return;
     informes::Papel papel(*impresora);
-    papel.escribir((esquema().isEmpty() ? QString() : u"Esquema: %1     "_s.arg(esquema())) + u"Impreso el "_s +
-                       basic::dateText(basic::today()),
+    papel.escribir((esquema().isEmpty() ? QString() : u"Esquema: %1     "_s.arg(esquema())) +
+                       u"Impreso el "_s + basic::dateText(basic::today()),
                    9);
     Picture1.elegir(0);
     papel.dibujar(Picture1);
     for (int pieza = 1; pieza <= odonto::piezas; ++pieza)
         if (const QString texto = odonto::enPalabras(esquema_, pieza); !texto.isEmpty())
-            papel.escribir(u"%1, %2: %3"_s.arg(odonto::numeroFdi(pieza)).arg(odonto::nombreDePieza(pieza), texto), 9);
+            papel.escribir(
+                u"%1, %2: %3"_s.arg(odonto::numeroFdi(pieza)).arg(odonto::nombreDePieza(pieza), texto), 9);
     papel.terminar();
     mostrarEleccion();
 }

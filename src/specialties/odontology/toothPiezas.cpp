@@ -18,8 +18,8 @@ bool tooth::hayDondeTrabajar()
 {
     if (paciente_ && !esquema().isEmpty())
         return true;
-    msgBox(paciente_ ? u"Seleccione un esquema de Odontograma"_s : u"Seleccione un Paciente"_s, Icon::Critical,
-           u"Error"_s);
+    msgBox(paciente_ ? u"Seleccione un esquema de Odontograma"_s : u"Seleccione un Paciente"_s,
+           Icon::Critical, u"Error"_s);
     return false;
 }
 
@@ -37,9 +37,10 @@ void tooth::mostrarEleccion()
     Picture1.elegir(pieza);
     Label3.setCaption(pieza == 0 ? QString() : QString::number(pieza));
     const QString dicho = pieza == 0 ? QString() : odonto::enPalabras(esquema_, pieza);
-    lblPieza.setCaption(pieza == 0 ? u"Elija una pieza con un clic; el botón derecho abre su menú."_s
-                                   : u"Pieza %1, %2%3"_s.arg(odonto::numeroFdi(pieza))
-                                         .arg(odonto::nombreDePieza(pieza), dicho.isEmpty() ? QString() : u": "_s + dicho));
+    lblPieza.setCaption(
+        pieza == 0 ? u"Elija una pieza con un clic; el botón derecho abre su menú."_s
+                   : u"Pieza %1, %2%3"_s.arg(odonto::numeroFdi(pieza))
+                         .arg(odonto::nombreDePieza(pieza), dicho.isEmpty() ? QString() : u": "_s + dicho));
     herramientas_.bajar(pieza == 0 ? odonto::sinMarca : esquema_.marca(pieza).tipo);
 }
 
@@ -130,7 +131,8 @@ void tooth::armarMenu()
                       [this, tipo = clase.tipo] { marcar(tipo); });
     menuPop.addSeparator();
     const auto muestra = [this](const QString &nombre, const QString &rotulo, QWidget &ventana) {
-        QAction &accion = agregarAlMenu(menuPop, nombre, rotulo, [&ventana] { ventana.setVisible(ventana.isHidden()); });
+        QAction &accion =
+            agregarAlMenu(menuPop, nombre, rotulo, [&ventana] { ventana.setVisible(ventana.isHidden()); });
         accion.setCheckable(true);
         connect(&menuPop, &QMenu::aboutToShow, &accion, [&] { accion.setChecked(!ventana.isHidden()); });
     };

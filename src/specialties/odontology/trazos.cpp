@@ -19,7 +19,8 @@ QPainterPath lineas(std::initializer_list<QPolygonF> quebradas)
 /// Two bars across the tooth, as an extraction is asked for.
 QPainterPath barras()
 {
-    constexpr double inclinada = 260, separadas = 110, medio = anchoDePieza / 2, alto = altoDePieza - 2 * margen;
+    constexpr double inclinada = 260, separadas = 110, medio = anchoDePieza / 2,
+                     alto = altoDePieza - 2 * margen;
     const auto barra = [&](double x) {
         return QPolygonF({{x + inclinada / 2, margen}, {x - inclinada / 2, margen + alto}});
     };
@@ -45,9 +46,13 @@ QPainterPath tornillo(const QRectF &raiz)
 /// A crack through the crown.
 QPainterPath grieta(const QRectF &corona)
 {
-    const double x = corona.left(), y = corona.center().y(), cuarto = corona.width() / 4, salto = corona.height() / 4;
-    return lineas({QPolygonF({{x, y}, {x + cuarto, y - salto}, {x + 2 * cuarto, y + salto},
-                              {x + 3 * cuarto, y - salto}, {x + 4 * cuarto, y}})});
+    const double x = corona.left(), y = corona.center().y(), cuarto = corona.width() / 4,
+                 salto = corona.height() / 4;
+    return lineas({QPolygonF({{x, y},
+                              {x + cuarto, y - salto},
+                              {x + 2 * cuarto, y + salto},
+                              {x + 3 * cuarto, y - salto},
+                              {x + 4 * cuarto, y}})});
 }
 
 } // namespace
@@ -55,7 +60,8 @@ QPainterPath grieta(const QRectF &corona)
 QPainterPath cruz()
 {
     constexpr double derecha = anchoDePieza - margen, abajo = altoDePieza - margen;
-    return lineas({QPolygonF({{margen, margen}, {derecha, abajo}}), QPolygonF({{derecha, margen}, {margen, abajo}})});
+    return lineas(
+        {QPolygonF({{margen, margen}, {derecha, abajo}}), QPolygonF({{derecha, margen}, {margen, abajo}})});
 }
 
 QPainterPath trazoDe(int tipo, int pieza)
