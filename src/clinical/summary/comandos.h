@@ -21,18 +21,28 @@ enum class Lugar {
     Barra
 };
 
+/// What a command opens, once the patient and the level allow it.
+enum class Abre {
+    Ventana, ///< modal, with the patient's number as its tag
+    Hija,
+    Pagina, ///< of a window that is not the patient's, which has it for its tag
+    Examen, ///< one of the complementary examinations, of the window of them all
+    UltimaLectura,
+    Presupuestos,
+    EvaluacionDeportiva,
+};
+
 /// A command of the page that opens a window of the patient; one whose window is not there is disabled. The
 /// alarm is the icon beside it that a person colours; two commands of one alarm show the same mark.
 struct Comando {
     const char *control, *caption;
     Lugar lugar;
     const char *ventana;
+    Abre abre = Abre::Ventana;
+    const char *dato = ""; ///< which page, which examination
     const char *nivel = "";
     const char *titulo = ""; ///< before the patient's name; the window's own caption without
-    bool hija = false;       ///< a child window; the others are modal
     const char *alarma = "", *tema = "";
-    const char *examen = ""; ///< which of the complementary examinations, of the window of them all
-    const char *pagina = ""; ///< the page of a window that is not the patient's, which it has for its tag
 };
 
 std::span<const Comando> comandos();

@@ -71,6 +71,8 @@ private:
     void traerAlFrente(const clinical::Especialidad &especialidad);
     void ofrecerInformes();
     void abrirComando(const clinical::Comando &comando);
+    void abrirVentana(const clinical::Comando &comando, const QString &etiqueta);
+    QString tituloDe(const clinical::Comando &comando) const;
     void marcarAlarma(const clinical::Comando &comando);
     void nuevaConsulta();
     void abrirConsultas();

@@ -25,6 +25,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace forms;
+using clinical::Abre;
 using clinical::Comando;
 using clinical::Especialidad;
 
@@ -85,48 +86,60 @@ void panEstadPaciente::filtrarConsultas()
 
 void panEstadPaciente::abrirComando(const Comando &comando)
 {
-    const QString nivel = QString::fromLatin1(comando.nivel);
     if (numero() == 0) {
         MODULE11::MuestraError(
             u"Error, no existe un puntero adecuado para ubicar al paciente !, Intente cerrar esta ventana y volverla a abrir, seleccionando un paciente."_s);
         return;
     }
-    if (!nivel.isEmpty() && !MODULE11::VerificaNivel(nivel))
+    if (const QString nivel = QString::fromLatin1(comando.nivel);
+        !nivel.isEmpty() && !MODULE11::VerificaNivel(nivel))
         return;
-    if (*comando.examen) {
-        complementos::abrir(numero(), QString::fromUtf8(comando.examen));
-        llenar();
+    const QString dato = QString::fromUtf8(comando.dato);
+    switch (comando.abre) {
+    case Abre::Ventana:
+        abrirVentana(comando, tag());
+        break;
+    case Abre::Hija: // the page is shown anew when it comes back to the front
+        screens::showChild(*screens::Window::find(QString::fromLatin1(comando.ventana)), tag(), tituloDe(comando));
         return;
-    }
-    if (QByteArrayView(comando.control) == "label84") {
+    case Abre::Pagina:
+        abrirVentana(comando, dato);
+        break;
+    case Abre::Examen:
+        complementos::abrir(numero(), dato);
+        break;
+    case Abre::UltimaLectura:
         abrirUltimaLectura();
         return;
-    }
-    if (QByteArrayView(comando.control) == "label32") {
+    case Abre::Presupuestos:
         ports::abrePresupuestos(numero());
-        llenar();
-        return;
-    }
-    const screens::Window ventana = *screens::Window::find(QString::fromLatin1(comando.ventana));
-    if (QByteArrayView(comando.ventana) == "panEvalDeportiva" &&
-        !clinical::tieneEvolucionCardiologica(numero())) {
-        msgBox(u"Debe generar un nuevo registro primero desde el botón Evolución !"_s, Icon::Information,
-               u"Atención"_s);
-        return;
-    }
-    const QString titulo =
-        *comando.titulo ? QString::fromUtf8(comando.titulo) + datos_["Text10"]->caption() : QString();
-    if (comando.hija) {
-        screens::showChild(ventana, tag(), titulo);
-        return;
-    }
-    if (auto form = screens::make(ventana)) {
-        form->setTag(*comando.pagina ? QString::fromUtf8(comando.pagina) : tag());
-        if (!titulo.isEmpty())
-            form->setWindowTitle(titulo);
-        form->showModal();
+        break;
+    case Abre::EvaluacionDeportiva:
+        if (!clinical::tieneEvolucionCardiologica(numero())) {
+            msgBox(u"Debe generar un nuevo registro primero desde el botón Evolución !"_s, Icon::Information,
+                   u"Atención"_s);
+            return;
+        }
+        abrirVentana(comando, tag());
+        break;
     }
     llenar();
+}
+
+QString panEstadPaciente::tituloDe(const Comando &comando) const
+{
+    return *comando.titulo ? QString::fromUtf8(comando.titulo) + datos_.at("Text10")->caption() : QString();
+}
+
+void panEstadPaciente::abrirVentana(const Comando &comando, const QString &etiqueta)
+{
+    auto ventana = screens::make(*screens::Window::find(QString::fromLatin1(comando.ventana)));
+    if (!ventana)
+        return;
+    ventana->setTag(etiqueta);
+    if (const QString titulo = tituloDe(comando); !titulo.isEmpty())
+        ventana->setWindowTitle(titulo);
+    ventana->showModal();
 }
 
 /// The reading check is a part of the last visit.
