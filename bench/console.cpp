@@ -54,7 +54,8 @@ void emptying(const Report &report)
     QFile::copy(file, copy);
     BaseDatos.open(copy, false, false, MODULE11::conexionDeLaBase());
     report("rows of the daily tables counted", elapsed([] { vaciado::cuentas(); }), patienceForTheCounts);
-    report("all daily tables emptied", elapsed([] { vaciado::vaciar([](int) { return true; }); }),
+    report("all daily tables emptied",
+           elapsed([] { vaciado::vaciar(BaseDatos, [](const QString &) { return true; }); }),
            patienceForEmptying);
     BaseDatos.close();
     QFile::remove(copy);

@@ -5,8 +5,8 @@
 namespace bench
 {
 
-/// The patient's page of the one with the most visits and five hundred events in the last year, its history as
-/// text, and the family tree.
+/// The patient's page of the one with the most visits and five hundred events in the last year, its history
+/// as text, and the family tree.
 void summary(const Report &report);
 
 } // namespace bench

@@ -28,10 +28,9 @@ QString visitasQueNombran(Nombrado que, const QString &nombre, int anio, const Q
     for (int n = 1; n <= lugaresDeLaVisita; ++n)
         alguna +=
             u"[%1 %2] = %3"_s.arg(QLatin1StringView(origen(que).columna)).arg(n).arg(dao::quoted(nombre));
-    return u"year(Fecha) = %1%2 and (%3)"_s.arg(QString::number(anio),
-                                                sexo.isEmpty() ? QString()
-                                                               : u" and Sexo = "_s + dao::quoted(sexo),
-                                                alguna.join(u" or "_s));
+    return u"year(Fecha) = %1%2 and (%3)"_s.arg(
+        QString::number(anio), sexo.isEmpty() ? QString() : u" and Sexo = "_s + dao::quoted(sexo),
+        alguna.join(u" or "_s));
 }
 
 } // namespace
@@ -39,10 +38,10 @@ QString visitasQueNombran(Nombrado que, const QString &nombre, int anio, const Q
 std::array<qint64, 12> vecesPorMes(Nombrado que, const QString &nombre, int anio, const QString &sexo)
 {
     std::array<qint64, 12> veces{};
-    dao::Recordset visitas = MODULE11::BaseDatos.openRecordset(
-        u"Select month(Fecha), %1 from Consulta where %2"_s.arg(
-            columnas(que), visitasQueNombran(que, nombre, anio, sexo)),
-        dao::Recordset::Kind::Snapshot);
+    dao::Recordset visitas =
+        MODULE11::BaseDatos.openRecordset(u"Select month(Fecha), %1 from Consulta where %2"_s.arg(
+                                              columnas(que), visitasQueNombran(que, nombre, anio, sexo)),
+                                          dao::Recordset::Kind::Snapshot);
     for (qint64 fila = 0; visitas.hasRow(fila); ++fila)
         for (int lugar = 1; lugar <= lugaresDeLaVisita; ++lugar)
             if (const basic::Value valor = visitas.valueAt(fila, lugar);

@@ -2,8 +2,8 @@
 #include "delivered.h"
 
 #include "core/maintenance/compacta.h"
+#include "core/maintenance/copiaPrevia.h"
 #include "core/maintenance/copias.h"
-#include "core/maintenance/ofrecerRespaldo.h"
 #include "core/maintenance/panErrorBase.h"
 #include "core/maintenance/proteccion.h"
 #include "core/maintenance/restauracion.h"
@@ -314,21 +314,24 @@ TEST_F(MantenimientoTest, withoutTheFileTheMainWindowSaysWhatThereIsToGoBackTo)
 
 TEST_F(MantenimientoTest, aCopyIsOfferedAndTheBaseStaysOpen)
 {
-    QWidget ventana;
+    EXPECT_FALSE(CopiaPrevia(u"Check1"_s).isChecked()) << "no folder was ever chosen";
     respaldo::recordar(aqui());
-    const auto ofrecer = [&](const QStringList &captions) {
+    CopiaPrevia copia(u"Check1"_s);
+    EXPECT_TRUE(copia.isChecked());
+    const auto hacer = [&](const QStringList &captions) {
         Answers respuestas(captions);
-        return MODULE11::ofrecerRespaldo(&ventana);
+        return copia.hacer();
     };
-    EXPECT_FALSE(ofrecer({u"Cancelar"_s}));
-    EXPECT_TRUE(ofrecer({u"No"_s}));
+    copia.setChecked(false);
+    EXPECT_TRUE(hacer({}));
     EXPECT_TRUE(respaldo::copiasEn(folder.path()).isEmpty());
-    EXPECT_TRUE(ofrecer({u"Sí"_s}));
+    copia.setChecked(true);
+    EXPECT_TRUE(hacer({}));
     EXPECT_EQ(respaldo::copiasEn(folder.path()).size(), 1);
     run({"INSERT INTO Pacientes (Numero, [Apellido y Nombres]) VALUES (8, 'O''Higgins')"});
     respaldo::Destino lejos = aqui();
     lejos.carpeta = en(u"no hay"_s);
     respaldo::recordar(lejos);
-    EXPECT_FALSE(ofrecer({u"Sí"_s, u"Aceptar"_s, u"No"_s}));
-    EXPECT_TRUE(ofrecer({u"Sí"_s, u"Aceptar"_s, u"Sí"_s}));
+    EXPECT_FALSE(hacer({u"Aceptar"_s, u"No"_s}));
+    EXPECT_TRUE(hacer({u"Aceptar"_s, u"Sí"_s}));
 }

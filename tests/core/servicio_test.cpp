@@ -102,9 +102,13 @@ TEST_F(ServicioTest, emptyingPassesOverWhatIsNotThereAndKeepsTheRest)
          "INSERT INTO DetalleFacturacion (idFactura) VALUES (1)", "INSERT INTO Caja (Detalle) VALUES ('x')",
          "DROP TABLE Alergia"});
     const auto columnas = BaseDatos.tableDef(u"Consulta").fields();
-    int pasos = 0;
-    const vaciado::Resultado hecho = vaciado::vaciar([&](int hechas) { return hechas == pasos++; });
-    EXPECT_EQ(pasos, 36);
+    QStringList pasos;
+    const vaciado::Resultado hecho = vaciado::vaciar(BaseDatos, [&](const QString &tabla) {
+        pasos += tabla;
+        return true;
+    });
+    EXPECT_EQ(pasos.size(), 36);
+    EXPECT_EQ(pasos.first() + u' ' + pasos.last(), u"CONSULTA DETALLEFACTURACION"_s);
     EXPECT_EQ(hecho.vaciadas, 35);
     EXPECT_TRUE(hecho.fallas.isEmpty() && !hecho.detenido);
     EXPECT_EQ(one(u"Select count(*) from Caja"_s), u"1"_s);
@@ -117,7 +121,8 @@ TEST_F(ServicioTest, emptyingPassesOverWhatIsNotThereAndKeepsTheRest)
 TEST_F(ServicioTest, emptyingStopsBetweenTablesAndNamesWhatItCouldNotEmpty)
 {
     run({"INSERT INTO Consulta (Paciente) VALUES (1)", "INSERT INTO Visual (Paciente) VALUES (1)"});
-    const vaciado::Resultado hecho = vaciado::vaciar([](int hechas) { return hechas < 1; });
+    const vaciado::Resultado hecho =
+        vaciado::vaciar(BaseDatos, [](const QString &tabla) { return tabla == u"CONSULTA"; });
     EXPECT_TRUE(hecho.detenido);
     EXPECT_EQ(one(u"Select count(*) from Consulta"_s) + one(u"Select count(*) from Visual"_s), u"01"_s);
     dao::Database otra; // another station holds the file
@@ -125,7 +130,7 @@ TEST_F(ServicioTest, emptyingStopsBetweenTablesAndNamesWhatItCouldNotEmpty)
     BaseDatos.setPatience(1);
     dao::Batch sinSoltar(otra);
     otra.execute(u"INSERT INTO Visual (Paciente) VALUES (2)"_s);
-    const vaciado::Resultado fallido = vaciado::vaciar([](int) { return true; });
+    const vaciado::Resultado fallido = vaciado::vaciar(BaseDatos, [](const QString &) { return true; });
     EXPECT_EQ(fallido.vaciadas, 0);
     EXPECT_EQ(fallido.fallas.size(), 36);
 }

@@ -89,8 +89,9 @@ TEST_F(SeleccionesTest, eachFilterNarrowsAndApostrophesAreLetters)
     EXPECT_EQ(places(seleccion::deTurnos(march, {.paciente = injected})), QString());
     EXPECT_EQ(visits(seleccion::deAtenciones(march, {})), u"1|2|4"_s);
     EXPECT_EQ(visits(seleccion::deAtenciones(march, {.profesional = u"Dr. Paz"_s})), u"2|4"_s);
-    for (const Filtros &filtros : {Filtros{.paciente = u"D'Angelo, Luz"_s}, Filtros{.obraSocial = u"Mutual"_s},
-                                   Filtros{.idPrestacion = 7}, Filtros{.estadoDeOrden = u"PENDIENTE"_s}})
+    for (const Filtros &filtros :
+         {Filtros{.paciente = u"D'Angelo, Luz"_s}, Filtros{.obraSocial = u"Mutual"_s},
+          Filtros{.idPrestacion = 7}, Filtros{.estadoDeOrden = u"PENDIENTE"_s}})
         EXPECT_EQ(visits(seleccion::deAtenciones(march, filtros)), u"1"_s);
 }
 

@@ -186,7 +186,8 @@ TEST_F(RollTest, unattendedItWorksOrLeavesWhyNotInTheEvents)
     settings::saveSetting(u"Miscelaneas"_s, u"OBRASOCIAL"_s, u"Mutual d'Oro"_s);
     settings::saveSetting(u"Miscelaneas"_s, u"RutaArchivoTXTImportar"_s, write({line("Z1", "Zeta", "M")}));
     EXPECT_EQ(answer(), u"SI"); // an old file has no such column
-    EXPECT_EQ(one(u"Select [Obra Social] from Pacientes where [Numero de Afiliado] = 'Z1'"_s), u"Mutual d'Oro");
+    EXPECT_EQ(one(u"Select [Obra Social] from Pacientes where [Numero de Afiliado] = 'Z1'"_s),
+              u"Mutual d'Oro");
     run({"Delete * from CamposImport"});
     EXPECT_EQ(answer(), u"NO");
     EXPECT_EQ(column(u"Select Suceso from Eventos where Proceso = 'ImportarAfiliados' order by Suceso"_s),

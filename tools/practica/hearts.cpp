@@ -59,8 +59,8 @@ void addAntecedents(qint64 patient)
 
 void addHeartPatient(const std::vector<Patient> &patients)
 {
-    const auto followed = std::ranges::max_element(
-        patients, {}, [](const Patient &patient) { return patient.visits.size(); });
+    const auto followed =
+        std::ranges::max_element(patients, {}, [](const Patient &patient) { return patient.visits.size(); });
     if (followed == patients.end() || followed->visits.size() < std::size(inTurn))
         return;
     addAntecedents(followed->number);

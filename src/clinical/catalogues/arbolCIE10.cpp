@@ -2,9 +2,9 @@
 
 #include "core/services/services.h"
 #include "core/session/session.h"
+#include "platform/basic/runtime.h"
 #include "platform/basic/typed.h"
 #include "platform/dao/sqltext.h"
-#include "platform/basic/runtime.h"
 
 #include <QSet>
 #include <QSignalBlocker>

@@ -88,8 +88,9 @@ void PanelDePruebas::mostrar(dao::Recordset &registro, const QStringList &column
 
 } // namespace clinical
 
-hc::hc() : FichaDelPaciente(u"hc"_s, u"Gestión Alergias"_s, u"Antecedentes Personales"_s, u"Paciente"_s,
-                           u"Antecedente is null"_s)
+hc::hc()
+    : FichaDelPaciente(u"hc"_s, u"Gestión Alergias"_s, u"Antecedentes Personales"_s, u"Paciente"_s,
+                       u"Antecedente is null"_s)
 {
     setContents(this, Column{
                           lblPaciente,

@@ -100,7 +100,8 @@ void panEstadPaciente::abrirComando(const Comando &comando)
         abrirVentana(comando, tag());
         break;
     case Abre::Hija: // the page is shown anew when it comes back to the front
-        screens::showChild(*screens::Window::find(QString::fromLatin1(comando.ventana)), tag(), tituloDe(comando));
+        screens::showChild(*screens::Window::find(QString::fromLatin1(comando.ventana)), tag(),
+                           tituloDe(comando));
         return;
     case Abre::Pagina:
         abrirVentana(comando, dato);

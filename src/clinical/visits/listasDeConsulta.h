@@ -51,7 +51,7 @@ private:
     forms::ControlArray<forms::CommandButton> Command2{QStringLiteral("Command2")};
 
     std::array<forms::ListBox *, grupos.size()> listas_ = {&mSintomas, &mTratamientos,
-                                                                      &mDiagnosticos}; ///< by Grupo
+                                                           &mDiagnosticos}; ///< by Grupo
     QString paciente_;
 };
 

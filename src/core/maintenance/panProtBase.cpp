@@ -1,6 +1,5 @@
 #include "core/maintenance/panProtBase.h"
 
-#include "core/maintenance/ofrecerRespaldo.h"
 #include "core/maintenance/proteccion.h"
 #include "core/maintenance/trabajo.h"
 #include "core/services/services.h"
@@ -90,7 +89,7 @@ void panProtBase::establecer()
     if (!clavesBienEscritas() || !claveAnteriorBien() ||
         !MODULE11::Pregunta(u"Está seguro de protejer la base de datos con esta contraseña ??"_s))
         return;
-    if ((Check1.isChecked() && !MODULE11::respaldarAntes()) || !mantenimiento::cerrarFichas())
+    if (!Check1.hacer() || !mantenimiento::cerrarFichas())
         return;
     const mantenimiento::EnCurso enCurso;
     basic::ignoring(dao::fileTrouble, [] { MODULE11::BaseDatos.close(); });

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/forms/controls.h"
+#include "core/maintenance/copiaPrevia.h"
 #include "platform/forms/form.h"
 
 /// "Protección de la base de datos": puts the practice's file under a new password and ends the program.
@@ -23,8 +23,7 @@ private:
     forms::TextBox Text3{QStringLiteral("Text3"), 10};
     forms::Label Label4{QStringLiteral("Label4"), QStringLiteral("(Máximo 10 caracteres)")};
     forms::Label Label5{QStringLiteral("Label5")};
-    forms::CheckBox Check1{QStringLiteral("Check1"),
-                           QStringLiteral("&Hacer antes una copia en la carpeta de backup")};
+    CopiaPrevia Check1{QStringLiteral("Check1")};
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("A&ceptar"),
                                   QStringLiteral("candado")};
     forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("Cance&lar"),

@@ -104,7 +104,7 @@ Item panServices::paginaDeVaciado()
     return Column{
         nota(
             u"Si desea vaciar las tablas de consultorio, historias clinicas, consultas, medidas, a excepcion del padrón de pacientes, utilice éste botón."_s),
-        Row{Command9, Stretch()}, Expanding(Tree1)};
+        chkCopia, Row{Command9, Stretch()}, Expanding(Tree1)};
 }
 
 void panServices::disponer()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/maintenance/copiaPrevia.h"
 #include "core/service/opciones.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/data.h"
@@ -59,6 +60,7 @@ private:
     forms::ListBox List1{QStringLiteral("List1")};  ///< laboratory tests
     forms::TreeView Tree1{QStringLiteral("Tree1")}; ///< rows of each table that is emptied
     Opciones opciones_;
+    CopiaPrevia chkCopia{QStringLiteral("chkCopia")};
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("Crear recetar&io"),
                                   QStringLiteral("agregar")};
     forms::CommandButton Command2{QStringLiteral("Command2"), QStringLiteral("&Agregar..."),

@@ -2,7 +2,7 @@
 #include "core/service/panServices.h"
 
 #include "core/database/actualiza.h"
-#include "core/maintenance/ofrecerRespaldo.h"
+#include "core/maintenance/trabajo.h"
 #include "core/security/eventos.h"
 #include "core/service/nombres.h"
 #include "core/service/vaciado.h"
@@ -11,10 +11,10 @@
 #include "core/services/tiposDeAnalisis.h"
 #include "core/session/recetario.h"
 #include "core/session/session.h"
+#include "core/session/startup.h"
 #include "platform/basic/runtime.h"
 #include "platform/dao/sqltext.h"
 #include "platform/forms/boxes.h"
-#include "platform/forms/progress.h"
 #include "platform/forms/wrong.h"
 
 using namespace Qt::StringLiterals;
@@ -159,14 +159,17 @@ void panServices::vaciar()
     if (!askBox(
             u"Atención, está a punto de vaciar las tablas de información referente a consultas, registros de todo tipo, desea continuar ??"_s,
             u"Atención"_s, Answer::No, Icon::Exclamation) ||
-        !MODULE11::ofrecerRespaldo(this))
+        !chkCopia.hacer())
         return;
     vaciado::Resultado resultado;
-    {
-        Progress avance(u"Tablas vaciadas :"_s);
-        resultado = vaciado::vaciar(
-            [&](int hechas) { return avance.tell(hechas, static_cast<qint64>(vaciado::tablas().size())); });
-    }
+    mantenimiento::trabajar(
+        u"Se vacían las tablas"_s, mantenimiento::Detencion::Posible, [&](const auto &avance) {
+            dao::Database propia;
+            propia.open(MODULE11::BaseDatos.path(), false, false, MODULE11::conexionDeLaBase());
+            resultado = vaciado::vaciar(
+                propia, [&](const QString &tabla) { return avance(u"Tabla "_s + tabla, 0, 0); });
+            return true;
+        });
     MODULE11::RegistraEvento(u"VACIADO DE TABLAS"_s, u"TABLAS : %1"_s.arg(resultado.vaciadas));
     contarRegistros();
     if (resultado.detenido)

@@ -79,17 +79,16 @@ std::vector<Cuenta> cuentas()
     return todas;
 }
 
-Resultado vaciar(const std::function<bool(int hechas)> &sigue)
+Resultado vaciar(dao::Database &base, const std::function<bool(const QString &tabla)> &sigue)
 {
     Resultado resultado;
-    int hechas = 0;
     for (QStringView tabla : delDia) {
-        if (!sigue(hechas++)) {
+        if (!sigue(tabla.toString())) {
             resultado.detenido = true;
             break;
         }
         try {
-            resultado.vaciadas += siExiste([&] { BaseDatos.execute(u"DELETE * FROM [%1]"_s.arg(tabla)); });
+            resultado.vaciadas += siExiste([&] { base.execute(u"DELETE * FROM [%1]"_s.arg(tabla)); });
         } catch (const dao::Error &error) {
             resultado.fallas += u"%1: %2"_s.arg(tabla, error.description());
         }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/dao/database.h"
+
 #include <QStringList>
 
 #include <functional>
@@ -28,7 +30,7 @@ struct Resultado {
     bool detenido = false;
 };
 /// Empties one table after another, each in one stroke: it is emptied or stays as it was. A table that this
-/// file does not have is passed over. `sigue` hears how many of them are done, and stops the work with false.
-Resultado vaciar(const std::function<bool(int hechas)> &sigue);
+/// file does not have is passed over. `sigue` hears the table that is next, and stops the work with false.
+Resultado vaciar(dao::Database &base, const std::function<bool(const QString &tabla)> &sigue);
 
 } // namespace vaciado

@@ -1,8 +1,8 @@
 #include "core/windows/Vademecum.h"
 
 #include "core/maintenance/compacta.h"
+#include "core/maintenance/copiaPrevia.h"
 #include "core/maintenance/copias.h"
-#include "core/maintenance/ofrecerRespaldo.h"
 #include "core/maintenance/restauracion.h"
 #include "core/services/services.h"
 #include "core/session/screens.h"

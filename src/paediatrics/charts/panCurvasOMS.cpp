@@ -134,7 +134,8 @@ void panCurvasOMS::dibujarFila(const charts::WhoChart &chart, dao::Recordset &me
 
 void panCurvasOMS::imprimir()
 {
-    const auto impresora = printing::defaultChoice(services::nombreDePaciente(tag()) + u" - "_s + windowTitle());
+    const auto impresora =
+        printing::defaultChoice(services::nombreDePaciente(tag()) + u" - "_s + windowTitle());
     if (!impresora)
         return;
     QImage imagen(Image1.size() * nitidez, QImage::Format_RGB32);

@@ -51,8 +51,8 @@ public:
 };
 
 /// The kinds by which the file itself cannot be read or written at the moment, whatever was asked of it.
-inline constexpr std::initializer_list<int> fileTrouble = {Error::Locked,      Error::ReadOnly, Error::DiskFull,
-                                                           Error::FileDamaged, Error::Closed,   Error::Engine};
+inline constexpr std::initializer_list<int> fileTrouble = {
+    Error::Locked, Error::ReadOnly, Error::DiskFull, Error::FileDamaged, Error::Closed, Error::Engine};
 
 /// The kinds by which a column refuses a value.
 inline constexpr std::initializer_list<int> valueRefused = {Error::TypeMismatch, Error::TextTooLong,

@@ -257,7 +257,8 @@ Form *openChild(const QString &name)
 {
     for (Form *form : state().byActivity) {
         const auto *sub = qobject_cast<QMdiSubWindow *>(form->parentWidget());
-        if (sub && sub->isVisible() && form->name() == name) // made small, it is visible, its contents are not
+        if (sub && sub->isVisible() &&
+            form->name() == name) // made small, it is visible, its contents are not
             return form;
     }
     return nullptr;

@@ -5,8 +5,8 @@
 namespace forms
 {
 
-/// A button whose picture stands above its caption, flat until it is pointed at. `icon` names a picture of the
-/// program's own set.
+/// A button whose picture stands above its caption, flat until it is pointed at. `icon` names a picture of
+/// the program's own set.
 class ToolbarButton : public QToolButton
 {
     Q_OBJECT

@@ -13,8 +13,8 @@ constexpr double milimetrosPorMilivolt = 10;
 
 /// How a tracing lies in its picture.
 struct Escala {
-    double porMilimetro = 0;           ///< twips of the picture a millimetre of paper; 0 while it is not known
-    double milimetrosPorSegundo = 25;  ///< the speed of the paper
+    double porMilimetro = 0;          ///< twips of the picture a millimetre of paper; 0 while it is not known
+    double milimetrosPorSegundo = 25; ///< the speed of the paper
 };
 
 /// "12,0 mm = 480 ms (125 por minuto)" for twips along the paper; empty without a scale.

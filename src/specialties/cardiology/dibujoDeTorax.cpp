@@ -14,14 +14,10 @@ namespace
 {
 
 constexpr dibujo::Simbolo porDireccion[torax::flechas] = {
-    {u"flecha1", u"Flecha arriba", u"01"},
-    {u"flecha2", u"Flecha arriba a la derecha", u"02"},
-    {u"flecha3", u"Flecha a la derecha", u"03"},
-    {u"flecha4", u"Flecha abajo a la derecha", u"04"},
-    {u"flecha5", u"Flecha abajo", u"05"},
-    {u"flecha6", u"Flecha abajo a la izquierda", u"06"},
-    {u"flecha7", u"Flecha a la izquierda", u"07"},
-    {u"flecha8", u"Flecha arriba a la izquierda", u"08"},
+    {u"flecha1", u"Flecha arriba", u"01"},         {u"flecha2", u"Flecha arriba a la derecha", u"02"},
+    {u"flecha3", u"Flecha a la derecha", u"03"},   {u"flecha4", u"Flecha abajo a la derecha", u"04"},
+    {u"flecha5", u"Flecha abajo", u"05"},          {u"flecha6", u"Flecha abajo a la izquierda", u"06"},
+    {u"flecha7", u"Flecha a la izquierda", u"07"}, {u"flecha8", u"Flecha arriba a la izquierda", u"08"},
 };
 
 constexpr dibujo::Plano plano(QStringView fondo)

@@ -150,12 +150,11 @@ Item panCardioPrin::electro()
     Data1.bind(mImagen, u"Electro - Imagen"_s);
     Data1.bind(mInterpretacion, u"Electro - Interpretacion"_s);
     return Row{Column{Fields(datos), Expanding(Above(u"&Interpretación :"_s, mInterpretacion))},
-               Expanding(Column{Expanding(Image3),
-                                Row{Expanding(mImagen),
-                                    rowCommand(u"Command11"_s, u"&Adquirir..."_s, u"abrir"_s,
-                                               [this] { adquirir(); }),
-                                    rowCommand(u"Command13"_s, u"&Ver..."_s, u"ver"_s,
-                                               [this] { verTrazado(); })}})};
+               Expanding(Column{
+                   Expanding(Image3),
+                   Row{Expanding(mImagen),
+                       rowCommand(u"Command11"_s, u"&Adquirir..."_s, u"abrir"_s, [this] { adquirir(); }),
+                       rowCommand(u"Command13"_s, u"&Ver..."_s, u"ver"_s, [this] { verTrazado(); })}})};
 }
 
 Item panCardioPrin::pulsosDe(QChar lado, const QString &nombre)

@@ -15,7 +15,8 @@ constexpr double grueso = 60; ///< of a bar, in twips
 constexpr double paso = 1.25;
 enum Barra { desde, hasta, arriba, abajo };
 constexpr std::array barras = {desde, hasta, arriba, abajo};
-const char *const nombres[] = {"Comienzo del intervalo", "Fin del intervalo", "Punto más alto", "Punto más bajo"};
+const char *const nombres[] = {"Comienzo del intervalo", "Fin del intervalo", "Punto más alto",
+                               "Punto más bajo"};
 
 QString nombreDe(int barra)
 {
@@ -43,10 +44,10 @@ panTrazado::panTrazado(const QString &archivo, const QString &velocidad)
     lblAyuda.setCaption(
         u"Ponga las barras rojas sobre dos líneas gruesas seguidas del papel (5 mm) y pulse Calibrar."_s);
     lblAyuda.setWordWrap(true);
-    setContents(this,
-                Column{Expanding(Image1), lblAyuda,
-                       Row{Fields{{u"&Velocidad, mm/s :"_s, Text1}}, Command4, lblIntervalo, lblAmplitud, Stretch()},
-                       Row{Command2, Command3, Stretch(), Command1}});
+    setContents(this, Column{Expanding(Image1), lblAyuda,
+                             Row{Fields{{u"&Velocidad, mm/s :"_s, Text1}}, Command4, lblIntervalo,
+                                 lblAmplitud, Stretch()},
+                             Row{Command2, Command3, Stretch(), Command1}});
     resize(1000, 620);
     connect(&Image1, &Canvas::moved, this, &panTrazado::medir);
     connect(&Text1, &QLineEdit::textChanged, this, &panTrazado::medir);
@@ -67,9 +68,10 @@ void panTrazado::ponerCalibres()
         QColor relleno = color;
         relleno.setAlpha(70);
         const QSizeF medida = parada ? QSizeF(grueso, hoja.height()) : QSizeF(hoja.width(), grueso);
-        CanvasItem &puesta = Image1.add(
-            nombreDe(barra), parada ? QPointF(hoja.width() * parte[barra], 0) : QPointF(0, hoja.height() * parte[barra]),
-            polygon(QRectF(QPointF(), medida), relleno, color));
+        CanvasItem &puesta = Image1.add(nombreDe(barra),
+                                        parada ? QPointF(hoja.width() * parte[barra], 0)
+                                               : QPointF(0, hoja.height() * parte[barra]),
+                                        polygon(QRectF(QPointF(), medida), relleno, color));
         puesta.setMovable(true);
         puesta.setAccessibleName(QString::fromUtf8(nombres[barra]));
         puesta.setToolTip(puesta.accessibleName());
@@ -95,9 +97,11 @@ void panTrazado::medir()
     const auto velocidad = calibre::velocidad(Text1.text());
     escala_.milimetrosPorSegundo = velocidad.value_or(0);
     const bool lista = escala_.porMilimetro > 0;
-    lblIntervalo.setCaption(lista && velocidad ? u"Intervalo : "_s + calibre::intervalo(entre(desde, hasta), escala_)
-                                               : QString());
-    lblAmplitud.setCaption(lista ? u"Amplitud : "_s + calibre::amplitud(entre(arriba, abajo), escala_) : QString());
+    lblIntervalo.setCaption(lista && velocidad
+                                ? u"Intervalo : "_s + calibre::intervalo(entre(desde, hasta), escala_)
+                                : QString());
+    lblAmplitud.setCaption(lista ? u"Amplitud : "_s + calibre::amplitud(entre(arriba, abajo), escala_)
+                                 : QString());
     lblAyuda.setVisible(!lista);
 }
 

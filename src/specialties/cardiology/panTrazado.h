@@ -5,8 +5,8 @@
 #include "platform/forms/form.h"
 #include "specialties/cardiology/calibre.h"
 
-/// A tracing at any size, with calipers for intervals and amplitudes: bars that are drawn along the picture, by
-/// mouse or with Ctrl and the arrow keys. Nothing of it is stored.
+/// A tracing at any size, with calipers for intervals and amplitudes: bars that are drawn along the picture,
+/// by mouse or with Ctrl and the arrow keys. Nothing of it is stored.
 class panTrazado : public forms::Form
 {
     Q_OBJECT

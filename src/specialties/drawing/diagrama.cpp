@@ -119,8 +119,7 @@ CanvasItem *Diagrama::poner(int simbolo, QPointF lugar, std::optional<int> numer
 
 CanvasItem *Diagrama::rotular(const QString &texto, QPointF lugar, std::optional<int> numero)
 {
-    const QString nombre =
-        u"%1(%2)"_s.arg(plano_.rotulo).arg(numero.value_or(numeroLibre(plano_.rotulo)));
+    const QString nombre = u"%1(%2)"_s.arg(plano_.rotulo).arg(numero.value_or(numeroLibre(plano_.rotulo)));
     if (item(nombre))
         return nullptr;
     CanvasItem &rotulo = add(nombre, lugar, letras(texto));

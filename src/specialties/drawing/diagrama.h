@@ -23,15 +23,15 @@ struct Plano {
     QStringView carpeta, fondo; ///< :/<folder>/<background>.svg
     QStringView titulo;         ///< of the palette
     std::span<const Simbolo> paleta;
-    QStringView icono;  ///< name of the palette's buttons
-    QStringView marca;  ///< name of the marks on the diagram
+    QStringView icono;    ///< name of the palette's buttons
+    QStringView marca;    ///< name of the marks on the diagram
     QStringView rotulo{}; ///< name of the texts on it
     QStringView ayuda{};  ///< what the palette's buttons say; without it each says its symbol's term
-    double lado = 360;  ///< of a mark, in twips
+    double lado = 360;    ///< of a mark, in twips
 };
 
-/// A diagram on which the symbols of a palette and texts are dropped. A mark is moved by mouse and keyboard; how
-/// it is taken away is the window's to say.
+/// A diagram on which the symbols of a palette and texts are dropped. A mark is moved by mouse and keyboard;
+/// how it is taken away is the window's to say.
 class Diagrama : public forms::Canvas
 {
     Q_OBJECT

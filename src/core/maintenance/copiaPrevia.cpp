@@ -1,4 +1,4 @@
-#include "core/maintenance/ofrecerRespaldo.h"
+#include "core/maintenance/copiaPrevia.h"
 
 #include "core/maintenance/copias.h"
 #include "core/services/services.h"
@@ -8,7 +8,6 @@
 #include "platform/forms/boxes.h"
 
 #include <QDir>
-#include <QWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -53,22 +52,18 @@ bool respaldarAhora()
     return hecha.has_value();
 }
 
-bool respaldarAntes()
-{
-    return respaldarAhora() ||
-           PreguntaSiBorra(u"No se hizo la copia de seguridad.\n¿Desea continuar sin ella?"_s);
-}
-
-bool ofrecerRespaldo(QWidget *padre)
-{
-    const auto quiere = forms::askOrCancelBox(
-        u"¿Desea hacer una copia de seguridad de la base de datos antes de continuar?"_s,
-        u"Copia de seguridad"_s, forms::Icon::Question);
-    if (!quiere.value_or(false))
-        return quiere.has_value();
-    const bool seguir = respaldarAntes();
-    padre->activateWindow();
-    return seguir;
-}
-
 } // namespace MODULE11
+
+CopiaPrevia::CopiaPrevia(const QString &nombre)
+    : CheckBox(nombre, u"&Hacer antes una copia en la carpeta de backup"_s)
+{
+    setChecked(!respaldo::destino().carpeta.isEmpty());
+}
+
+bool CopiaPrevia::hacer() const
+{
+    return !isChecked() || MODULE11::respaldarAhora() ||
+           MODULE11::PreguntaSiBorra(u"No se hizo la copia de seguridad.\n¿Desea continuar sin ella?"_s);
+}
+
+#include "moc_copiaPrevia.cpp"
