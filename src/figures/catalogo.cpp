@@ -16,9 +16,10 @@ constexpr Origen todos[] = {
     {"Tratamientos", "Tratamiento", "Tratamientos"},
 };
 
+/// Where a visit's diagnoses come from: with nothing set, from the practice's own list.
 bool clasificacion()
 {
-    return settings::getSetting(u"Configuracion"_s, u"Clasificador patologico"_s) != u"PERSONAL";
+    return settings::getSetting(u"Configuracion"_s, u"Clasificador patologico"_s) == u"CIE10";
 }
 
 } // namespace
