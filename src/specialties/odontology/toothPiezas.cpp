@@ -138,4 +138,6 @@ void tooth::armarMenu()
     };
     muestra(u"menuMuestraH"_s, u"Mostrar Herramientas"_s, herramientas_);
     muestra(u"menuMuestraColores"_s, u"Mostrar Colores"_s, colores_);
+    for (const QMenu *menu : {&menuPop, leyenda}) // of the tooth that is chosen, without opening the menu
+        Picture1.addActions(menu->actions());
 }
