@@ -199,6 +199,8 @@ bool WriteQueue::join(bool alone, int longestWaitMs)
     QElapsedTimer waiting;
     waiting.start();
     while (lockByte(file_, presence, alone ? F_WRLCK : F_RDLCK, false) != 0) {
+        if (errno != EAGAIN && errno != EACCES)
+            return true; // a disk without such locks: the engine's own are all there is
         if (waiting.elapsed() > longestWaitMs)
             return false;
         QThread::msleep(napMs);
