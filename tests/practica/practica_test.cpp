@@ -325,4 +325,18 @@ TEST_F(SyntheticPractice, FollowsAChildForItsHeart)
     EXPECT_EQ(
         count(records + u" inner join Consulta v on (v.paciente = c.idpaciente and v.Fecha = c.Fecha)"_s), 3)
         << "at visits of its own";
+    EXPECT_EQ(count(records +
+                    u" inner join HC_Deportiva d on (d.idPaciente = c.idpaciente and d.Fecha = c.Fecha)"_s),
+              1);
+}
+
+TEST_F(SyntheticPractice, AccompaniesAPregnancyOfAnAdolescent)
+{
+    EXPECT_EQ(
+        count(u"Gestaciones g inner join Pacientes p on g.idPaciente = p.Numero where p.Sexo = 'Mujer'"_s),
+        1);
+    EXPECT_EQ(count(u"HistoricoGestaciones h inner join Gestaciones g on (h.idPaciente = g.idPaciente and "
+                    "h.Gesta = g.Gestacion) where h.Fecha > g.Dum"_s),
+              5);
+    EXPECT_EQ(count(u"DetExamenGinecoGraf d inner join ConsultaGineco c on d.idExamen = c.idExamen"_s), 3);
 }

@@ -55,6 +55,21 @@ void addAntecedents(qint64 patient)
     row.update();
 }
 
+/// Examined for sports at the last of the records.
+void addSportsExamination(qint64 patient, QDate day)
+{
+    dao::Recordset row = BaseDatos.openRecordset(u"HC_Deportiva"_s);
+    row.addNew();
+    row[u"idPaciente"] = patient;
+    row[u"Fecha"] = day;
+    row[u"Desde que Edad Practica Deportes"] = u"7 años"_s;
+    row[u"Deportes Actuales"] = u"Natación"_s;
+    row[u"Dias Por Semana que Entrena"] = u"2"_s;
+    row[u"Inmunizado contra Tetanos"] = true;
+    row[u"Enfermedades Congenitas"] = true;
+    row.update();
+}
+
 } // namespace
 
 void addHeartPatient(const std::vector<Patient> &patients)
@@ -75,6 +90,7 @@ void addHeartPatient(const std::vector<Patient> &patients)
                 records[column] = text;
         records.update();
     }
+    addSportsExamination(followed->number, followed->day(followed->visits.back()));
 }
 
 } // namespace practica

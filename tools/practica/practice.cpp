@@ -6,6 +6,7 @@
 #include "cashandstock.h"
 #include "eyes.h"
 #include "hearts.h"
+#include "pregnancies.h"
 #include "teeth.h"
 #include "vaccines.h"
 #include "visits.h"
@@ -177,6 +178,7 @@ void fill(const Size &size)
     addPressures();
     addSightTests(patients, dice);
     addHeartPatient(patients);
+    addPregnancy(patients, size.today);
     Dice ofVaccines(size.seed); // of their own: what the others throw stays as it is
     addVaccines(patients, size.vaccinated, size.today, ofVaccines);
     Dice ofEyes(size.seed);

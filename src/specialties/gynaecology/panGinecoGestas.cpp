@@ -1,5 +1,6 @@
 #include "specialties/gynaecology/panGinecoGestas.h"
 
+#include "core/records/filas.h"
 #include "core/services/paciente.h"
 #include "core/session/screens.h"
 #include "core/session/session.h"
@@ -146,6 +147,11 @@ void panGinecoGestas::mostrarControles()
         u"Select * from historicoGestaciones where idPaciente = %1 and Gesta = %2 order by Fecha"_s.arg(
             tag(), gesta));
     Data1.refresh();
+    mostrarCurvas();
+}
+
+void panGinecoGestas::mostrarCurvas()
+{
     std::vector<gestacion::Control> controles;
     const basic::Value dum = Data2.hasRow() ? Data2.recordset()[u"Dum"].value() : basic::Value();
     dao::Recordset filas =
@@ -221,18 +227,12 @@ void panGinecoGestas::nuevoControl()
     }
     Data2.updateRecord();
     panNueExGesta examen;
-    examen.showModal();
-    if (examen.tag() != u"SI")
-        return;
-    dao::Recordset visitas = MODULE11::BaseDatos.openRecordset(u"historicoGestaciones"_s);
-    visitas.addNew();
-    visitas[u"idPaciente"] = tag().toLongLong();
-    visitas[u"Gesta"] = Data2.recordset()[u"Gestacion"].value();
-    examen.escribir(visitas);
-    visitas.update();
-    mostrarControles();
-    if (Data1.hasRow())
-        Data1.change([](dao::Recordset &filas) { filas.moveLast(); });
+    records::capture(Data1, examen, [&](dao::Recordset &visita) {
+        visita[u"idPaciente"] = tag().toLongLong();
+        visita[u"Gesta"] = Data2.recordset()[u"Gestacion"].value();
+        examen.escribir(visita);
+    });
+    mostrarCurvas();
 }
 
 #include "moc_panGinecoGestas.cpp"

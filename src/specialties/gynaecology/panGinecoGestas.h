@@ -28,6 +28,7 @@ private:
 
     void mostrarGestacion();
     void mostrarControles();
+    void mostrarCurvas();
     void calcular();
     void nuevaGestacion();
     void borrarGestacion();
