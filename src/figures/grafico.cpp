@@ -60,6 +60,7 @@ void Grafico::mostrar(Figura figura, Tipo tipo)
     figura_ = std::move(figura);
     tipo_ = tipo;
     setAccessibleName(figura_.titulo);
+    setWindowTitle(figura_.titulo); // its caption, for who asks for it
     update();
 }
 

@@ -76,7 +76,10 @@ panGraficos::panGraficos() : Form(u"panGraficos"_s)
 void panGraficos::load()
 {
     const int esteAnio = basic::today().date().year();
-    for (int anio = esteAnio; anio > esteAnio - aniosHaciaAtras; --anio)
+    const basic::Value primera = MODULE11::BuscaCampo(
+        u"Select top 1 Fecha from Consulta where not (Fecha is null) order by Fecha"_s, u"Fecha");
+    const int primerAnio = primera.isNull() ? esteAnio : primera.date().date().year();
+    for (int anio = esteAnio; anio > esteAnio - aniosHaciaAtras || anio >= primerAnio; --anio)
         Combo3.addItem(QString::number(anio));
     for (ComboBox *lista : {&Combo2, &Combo3, &Combo4})
         lista->setCurrentIndex(0);

@@ -21,12 +21,12 @@ private:
     void listar(int mes);
     QString sexo() const;
 
-    forms::ComboBox Combo5{QStringLiteral("Combo5")}; ///< where from
-    forms::ComboBox Combo1{QStringLiteral("Combo1")}; ///< the item
-    forms::ComboBox Combo2{QStringLiteral("Combo2")}; ///< ages
-    forms::ComboBox Combo4{QStringLiteral("Combo4")}; ///< sex
-    forms::ComboBox Combo3{QStringLiteral("Combo3")}; ///< year
-    forms::ComboBox Combo6{QStringLiteral("Combo6")}; ///< kind of chart
+    forms::ComboBox Combo5{QStringLiteral("Combo5")};           ///< where from
+    forms::ComboBox Combo1{QStringLiteral("Combo1")};           ///< the item
+    forms::ComboBox Combo2{QStringLiteral("Combo2")};           ///< ages
+    forms::ComboBox Combo4{QStringLiteral("Combo4")};           ///< sex
+    forms::ComboBox Combo3{QStringLiteral("Combo3")};           ///< year
+    forms::ComboBox Combo6{QStringLiteral("Combo6"), {}, true}; ///< kind of chart
     figures::Grafico Graph1{QStringLiteral("Graph1")};
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Mostrar"),
                                   QStringLiteral("estadisticas")};

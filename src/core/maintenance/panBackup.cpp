@@ -36,7 +36,10 @@ panBackup::panBackup() : Form(u"panBackup"_s)
     vestir(Conservar, u"Conservar"_s, masCopias, u" copias"_s, u"todas"_s);
     vestir(Dias, u"Dias"_s, masDias, u" días"_s, u"nunca"_s);
     Command1.setDefault(true);
-    setContents(this, Column{opciones(), Row{Stretch(), Command1, Command2}});
+    lblFalla.setWordWrap(true);
+    lblFalla.setStyleSheet(u"color: #9c1c1c"_s);
+    lblFalla.hide();
+    setContents(this, Column{opciones(), lblFalla, Row{Stretch(), Command1, Command2}});
     setMinimumWidth(600);
     connect(&Command1, &QPushButton::clicked, this, &panBackup::copiar);
     connect(&Command2, &QPushButton::clicked, this, &panBackup::unload);
@@ -82,6 +85,7 @@ respaldo::Destino panBackup::escrito() const
 void panBackup::copiar()
 {
     clearWrong(Text1);
+    lblFalla.hide();
     if (Text1.text().trimmed().isEmpty()) {
         markWrong(Text1, u"Elija la carpeta"_s);
         return;
@@ -93,8 +97,9 @@ void panBackup::copiar()
         if (hacer(escrito()))
             MODULE11::terminar();
     } catch (const basic::Error &error) {
-        MODULE11::MuestraError(error.description());
         markWrong(Text1, error.description());
+        lblFalla.setCaption(u"La copia no se hizo. "_s + error.description());
+        lblFalla.show();
     }
 }
 

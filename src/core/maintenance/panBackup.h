@@ -32,6 +32,7 @@ private:
     forms::TextBox Text2{QStringLiteral("Text2"), 255};
     forms::CommandButton Command4{QStringLiteral("Command4"), QStringLiteral("B&uscar..."),
                                   QStringLiteral("abrir")};
+    forms::Label lblFalla{QStringLiteral("lblFalla")}; ///< why there is no copy
     QSpinBox Conservar;
     QSpinBox Dias;
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Aceptar"),

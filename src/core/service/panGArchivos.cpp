@@ -233,8 +233,8 @@ void panGArchivos::mostrarPosicion()
 void panGArchivos::habilitar()
 {
     const bool hayTabla = Combo1.currentIndex() >= 0;
-    for (QWidget *control : std::initializer_list<QWidget *>{&Combo2, &Combo3, &Combo4, &Text1, &Command1,
-                                                             &Command2, &Command4, &Check1, &Check2})
+    for (QWidget *control : std::initializer_list<QWidget *>{&Combo2, &Combo4, &Text1, &Command1, &Command2,
+                                                             &Command4, &Check1, &Check2})
         control->setEnabled(hayTabla);
     Command3.setEnabled(Check2.isChecked() && tablaDeLasFilas() && Data1.hasRow() &&
                         Data1.recordset().updatable());

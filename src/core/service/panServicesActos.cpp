@@ -56,10 +56,6 @@ void panServices::crearRecetario()
     }
     MODULE11::elegirRecetario(nombre);
     mostrarRecetario();
-    MODULE11::Aviso(
-        (esta ? u"El recetario %1 ya estaba creado; se usará desde el próximo inicio del programa."_s
-              : u"El recetario %1 se usará desde el próximo inicio del programa."_s)
-            .arg(nombre));
 }
 
 std::optional<QString> panServices::pideNombre(const QString &rotulo, int largo,
