@@ -67,6 +67,7 @@ void Diagrama::agregarIcono(const QString &icono, const QString &termino, std::f
     boton.setIconSize({ladoDelIcono, ladoDelIcono});
     boton.setToolTip(plano_.ayuda.isEmpty() ? termino : plano_.ayuda.toString());
     boton.setAccessibleName(termino);
+    forms::setTag(&boton, plano_.etiqueta.toString());
     agregarHerramienta(boton, std::move(usar));
 }
 

@@ -23,11 +23,13 @@ struct Plano {
     QStringView carpeta, fondo; ///< :/<folder>/<background>.svg
     QStringView titulo;         ///< of the palette
     std::span<const Simbolo> paleta;
-    QStringView icono;    ///< name of the palette's buttons
-    QStringView marca;    ///< name of the marks on the diagram
-    QStringView rotulo{}; ///< name of the texts on it
-    QStringView ayuda{};  ///< what the palette's buttons say; without it each says its symbol's term
-    double lado = 360;    ///< of a mark, in twips
+    QStringView icono;      ///< name of the palette's buttons
+    QStringView marca;      ///< name of the marks on the diagram
+    QStringView rotulo{};   ///< name of the texts on it
+    QStringView ayuda{};    ///< what the palette's buttons say; without it each says its symbol's term
+    QStringView etiqueta{}; ///< the tag of the palette's buttons
+    double lado = 360;      ///< of a mark, in twips
+    bool fija = false;      ///< what was dropped stays where it is
 };
 
 /// A diagram on which the symbols of a palette and texts are dropped. A mark is moved by mouse and keyboard;
@@ -58,8 +60,8 @@ public:
     static int numeroDe(const forms::CanvasItem &marca);
 
 protected:
-    /// It has tools: what stands on it can be moved.
-    bool editable() const { return !usos_.empty(); }
+    /// It has tools, and what stands on it can be moved.
+    bool editable() const { return !usos_.empty() && !plano_.fija; }
 
     const Plano &plano() const { return plano_; }
 

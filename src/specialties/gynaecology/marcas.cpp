@@ -60,10 +60,19 @@ constexpr dibujo::Simbolo deMamas[] = {
 };
 // clang-format on
 
-constexpr dibujo::Plano delCuello{u"gineco",     u"cuello",   u"Codificación Palmer rev. Nedalpif",
-                                  deColposcopia, u"icon_col", u"icono_col_posteado"};
-constexpr dibujo::Plano deLasMamas{u"gineco", u"mamas",    u"Hallazgos",
-                                   deMamas,   u"icon_col", u"icono_col_posteado"};
+constexpr dibujo::Plano plano(QStringView fondo, QStringView titulo, std::span<const dibujo::Simbolo> paleta)
+{
+    return {.carpeta = u"gineco",
+            .fondo = fondo,
+            .titulo = titulo,
+            .paleta = paleta,
+            .icono = u"icon_col",
+            .marca = u"icono_col_posteado",
+            .etiqueta = u"GRAPHCOL",
+            .fija = true};
+}
+constexpr dibujo::Plano delCuello = plano(u"cuello", u"Codificación Palmer rev. Nedalpif", deColposcopia);
+constexpr dibujo::Plano deLasMamas = plano(u"mamas", u"Hallazgos", deMamas);
 
 } // namespace
 

@@ -24,9 +24,9 @@ panGinecoGestas::panGinecoGestas() : Form(u"panGinecoGestas"_s)
          {u"IG"_s, u"Peso"_s, u"Presion"_s, u"Edema"_s, u"Toco"_s, u"AU"_s, u"CA"_s, u"BCF"_s})
         visitas.push_back({columna, columna, {}, 66});
     DBGrid1.setSource(Data1, visitas);
-    QFont destacada = Label18.font();
+    QFont destacada = Label19.font();
     destacada.setBold(true);
-    Label18.setFont(destacada);
+    Label19.setFont(destacada);
     for (Label *calculado : {&lblFum, &lblEco}) {
         calculado->setEnabled(false); // reckoned, not written
         calculado->setWordWrap(true);
@@ -36,7 +36,7 @@ panGinecoGestas::panGinecoGestas() : Form(u"panGinecoGestas"_s)
     const Item examenes =
         Group(u"Exámenes Realizados por gestación :"_s, Row{Expanding(DBGrid1), Column{Command8, Stretch()}});
     setContents(this, Column{Expanding(Row{lista, Expanding(Group(Frame1, gestacion()))}, 3),
-                             Expanding(examenes, 2), Row{Label18, Label19, Stretch(), Command1}});
+                             Expanding(examenes, 2), Row{Label19, Stretch(), Command1}});
     resize(1080, 640);
     conectar();
 }
@@ -133,8 +133,7 @@ void panGinecoGestas::mostrarGestacion()
     Frame1.setEnabled(hay);
     Command3.setEnabled(hay);
     const QString numero = hay ? Data2.recordset()[u"Gestacion"].text() : QString();
-    Label18.setCaption(hay ? u"Gestación Seleccionada : "_s + numero : QString());
-    Label19.setCaption(hay ? QString() : u"Presione 'Nueva Gestación'"_s);
+    Label19.setCaption(hay ? u"Gestación Seleccionada : "_s + numero : u"Presione 'Nueva Gestación'"_s);
     barra_.setCaption(hay ? numero : u"n/r"_s);
     mostrarControles();
     calcular();

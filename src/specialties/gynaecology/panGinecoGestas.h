@@ -39,7 +39,6 @@ private:
     forms::DataBar barra_{Data2};
     forms::DBGrid DBGrid2{QStringLiteral("DBGrid2")};
     forms::DBGrid DBGrid1{QStringLiteral("DBGrid1")};
-    forms::Label Label18{QStringLiteral("Label18")};
     forms::Label Label19{QStringLiteral("Label19")};
     forms::Label lblFum{QStringLiteral("lblFum")}, lblEco{QStringLiteral("lblEco")};
     forms::Frame Frame1{QStringLiteral("Frame1"), QStringLiteral("Gestación")};

@@ -25,7 +25,7 @@ panNueExGesta::panNueExGesta() : Form(u"panNueExGesta"_s)
     setWindowTitle(u"Nuevo examen de gestación"_s);
     std::vector<FieldRow> izquierda, derecha;
     for (const Dato &dato : datos) {
-        TextBox &campo = Text1.add(Text1.size(), largo);
+        TextBox &campo = Text1.add(Text1.size() + 1, largo);
         (Text1.size() <= 4 ? izquierda : derecha).emplace_back(QString::fromLatin1(dato.rotulo), campo);
     }
     Command1.setDefault(true);
@@ -43,7 +43,7 @@ void panNueExGesta::escribir(dao::Recordset &fila) const
     fila[u"Fecha"] = dt1.value();
     fila[u"Detalles"] = mDetalles.toPlainText();
     for (const auto &[i, campo] : Text1)
-        fila[QString::fromLatin1(datos[i].columna)] = campo->text();
+        fila[QString::fromLatin1(datos[i - 1].columna)] = campo->text();
 }
 
 #include "moc_panNueExGesta.cpp"

@@ -20,7 +20,7 @@ protected:
 
 private:
     forms::DTPicker dt1{QStringLiteral("dt1")};
-    forms::MemoBox mDetalles{QStringLiteral("mDetalles")};
+    forms::MemoBox mDetalles{QStringLiteral("Text1(0)")}; ///< the first of the nine, in lines
     forms::ControlArray<forms::TextBox> Text1{QStringLiteral("Text1")};
     forms::CommandButton Command1{QStringLiteral("Command1"), QStringLiteral("&Aceptar"),
                                   QStringLiteral("aceptar")};

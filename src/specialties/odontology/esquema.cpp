@@ -106,6 +106,7 @@ bool Esquema::leerMarca(const QString &item)
     if (*tipo != sinMarca) {
         marca.tipo = *tipo;
         marca.color = *color;
+        marca.colorDeLeyenda = *segundo; // kept as it was, legend or none
     }
     if (!campos[3].isEmpty() && campos[3] != leyendaVacia) {
         marca.leyenda = campos[3];

@@ -64,7 +64,7 @@ void Renglones::releer()
 
 void Renglones::mostrarTotal()
 {
-    Text5.setText(basic::format(presupuesto_ ? total(*presupuesto_) : basic::Currency(), formato_));
+    Text5.setText(presupuesto_ && Data3.hasRow() ? basic::format(total(*presupuesto_), formato_) : u"0"_s);
 }
 
 /// A quantity or a price that no line can have gives way to the one that the line had.
