@@ -262,7 +262,7 @@ void CanvasItem::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
     const QPoint way = event->screenPos() - event->buttonDownScreenPos(Qt::LeftButton);
     dragged_ = dragged_ || (pressed_ && way.manhattanLength() >= QApplication::startDragDistance());
-    if (dragged_ && movable_)
+    if (dragged_ && draggable_)
         setPos(canvas_.restingPlace(*this,
                                     stood_ + event->scenePos() - event->buttonDownScenePos(Qt::LeftButton)));
 }

@@ -70,8 +70,12 @@ public:
     void setText(const QString &text);  ///< of a text
     QRectF place() const;
 
-    /// Lets the person drag it about the canvas.
-    void setMovable(bool movable) { movable_ = movable; }
+    /// Lets the person move it about the canvas, by the keys and, unless told otherwise, by dragging.
+    void setMovable(bool movable, bool byMouse = true)
+    {
+        movable_ = movable;
+        draggable_ = movable && byMouse;
+    }
     bool isMovable() const { return movable_; }
     /// Only to be looked at: mouse and keyboard pass it by.
     void setInert();
@@ -105,6 +109,7 @@ private:
     QString accessibleName_;
     QPointF stood_; ///< when it was pressed
     bool movable_ = false;
+    bool draggable_ = false;
     bool pressed_ = false;
     bool dragged_ = false;
 };

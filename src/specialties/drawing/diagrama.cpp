@@ -114,7 +114,7 @@ CanvasItem *Diagrama::poner(int simbolo, QPointF lugar, std::optional<int> numer
         add(nombre, lugar, PictureLook{figura(archivo(puesto.dibujo)), QSizeF(plano_.lado, plano_.lado)});
     forms::setTag(&marca, puesto.codigo.isEmpty() ? QString::number(simbolo) : puesto.codigo.toString());
     marca.setToolTip(puesto.termino.toString());
-    marca.setMovable(editable());
+    marca.setMovable(editable(), !plano_.fija);
     return &marca;
 }
 

@@ -29,7 +29,7 @@ struct Plano {
     QStringView ayuda{};    ///< what the palette's buttons say; without it each says its symbol's term
     QStringView etiqueta{}; ///< the tag of the palette's buttons
     double lado = 360;      ///< of a mark, in twips
-    bool fija = false;      ///< what was dropped stays where it is
+    bool fija = false;      ///< what was dropped is moved by the keys alone
 };
 
 /// A diagram on which the symbols of a palette and texts are dropped. A mark is moved by mouse and keyboard;
@@ -60,8 +60,8 @@ public:
     static int numeroDe(const forms::CanvasItem &marca);
 
 protected:
-    /// It has tools, and what stands on it can be moved.
-    bool editable() const { return !usos_.empty() && !plano_.fija; }
+    /// It has tools: what stands on it can be moved.
+    bool editable() const { return !usos_.empty(); }
 
     const Plano &plano() const { return plano_; }
 
