@@ -32,8 +32,8 @@ struct Plano {
     bool fija = false;      ///< what was dropped is moved by the keys alone
 };
 
-/// A diagram on which the symbols of a palette and texts are dropped. A mark is moved by mouse and keyboard;
-/// how it is taken away is the window's to say.
+/// A diagram on which the symbols of a palette and texts are dropped. A mark is moved by the keys and, unless
+/// the plan is fixed, by the mouse; how it is taken away is the window's to say.
 class Diagrama : public forms::Canvas
 {
     Q_OBJECT
