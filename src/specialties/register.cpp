@@ -31,7 +31,7 @@ void specialties::registerScreens()
     screens::add<panRiesgoOperatorio>("panRiesgoOperatorio");
     screens::add<panEvalDeportiva>("panEvalDeportiva");
     screens::add<panOft>("panOft");
-    screens::add<pangraBioX>("pangraBioX");
+    screens::add<panGraBioX>("panGraBioX");
     screens::add<panGraFondoX>("panGraFondoX");
     ports::registrarOftalmo.provide(registrarOftalmo);
     ports::ultimaVisitaOftalmo.provide(oftalmo::ultimaVisita);

@@ -20,7 +20,7 @@ constexpr Comando todos[] = {
     {"sscommand3", "Desarrollo y valores...", Lugar::Alergia, "hc"},
     {"label22", "Consultas...", Lugar::Oftalmologia, "panOft", Abre::Ventana, "", "", "Consultas de "},
     {"label30", "Fondo de ojos", Lugar::Oftalmologia, "panGraFondoX"},
-    {"label31", "Biomicroscopia", Lugar::Oftalmologia, "pangraBioX"},
+    {"label31", "Biomicroscopia", Lugar::Oftalmologia, "panGraBioX"},
     {"label84", "Lectura", Lugar::Oftalmologia, "panOft", Abre::UltimaLectura},
     {"label29", "Odontograma", Lugar::Odontologia, "tooth"},
     {"label32", "Presupuestación...", Lugar::Odontologia, "tooth", Abre::Presupuestos},

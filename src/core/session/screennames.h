@@ -57,7 +57,7 @@ inline constexpr std::string_view windows[] = {
     "panGinecoOtros",
     "panImagenes",
     "panGraFondoX",
-    "pangraBioX",
+    "panGraBioX",
     "panGraMed",
     "panIMC",
     "panImportAfiliados",

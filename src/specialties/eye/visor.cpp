@@ -117,7 +117,7 @@ bool Visor::eventFilter(QObject *objeto, QEvent *evento)
 
 void dibujoOjo(qint64 numero, Clase clase)
 {
-    const auto visor = clase == Clase::Biomicroscopia ? std::unique_ptr<Visor>(std::make_unique<pangraBioX>())
+    const auto visor = clase == Clase::Biomicroscopia ? std::unique_ptr<Visor>(std::make_unique<panGraBioX>())
                                                       : std::make_unique<panGraFondoX>();
     visor->setTag(QString::number(numero));
     visor->showModal();
@@ -125,7 +125,7 @@ void dibujoOjo(qint64 numero, Clase clase)
 
 } // namespace oftalmo
 
-pangraBioX::pangraBioX() : Visor(u"pangraBioX"_s, u"Biomicroscopia"_s, oftalmo::Clase::Biomicroscopia)
+panGraBioX::panGraBioX() : Visor(u"panGraBioX"_s, u"Biomicroscopia"_s, oftalmo::Clase::Biomicroscopia)
 {
 }
 

@@ -42,11 +42,11 @@ void dibujoOjo(qint64 numero, Clase clase);
 
 } // namespace oftalmo
 
-class pangraBioX : public oftalmo::Visor
+class panGraBioX : public oftalmo::Visor
 {
     Q_OBJECT
 public:
-    pangraBioX();
+    panGraBioX();
 };
 
 class panGraFondoX : public oftalmo::Visor
