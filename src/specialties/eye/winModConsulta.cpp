@@ -103,7 +103,8 @@ Item winModConsulta::agudezas()
 {
     std::vector<Item> cuadro = {new QLabel, new QLabel(u"O.D."_s), new QLabel(u"O.I."_s)};
     for (const Agudeza &agudeza : correcciones) {
-        cuadro.emplace_back(new QLabel(agudeza.titulo + u" :"_s));
+        auto *rotulo = new QLabel(agudeza.titulo + u" :"_s);
+        cuadro.emplace_back(rotulo);
         for (const QString &columna : {agudeza.derecho, agudeza.izquierdo}) {
             const bool derecho = columna == agudeza.derecho;
             const int indice = static_cast<int>(&agudeza - correcciones) + (derecho ? 0 : 4);
@@ -111,6 +112,8 @@ Item winModConsulta::agudezas()
             combo.setAccessibleName(u"Agudeza %1 %2"_s.arg(agudeza.titulo, derecho ? u"O.D."_s : u"O.I."_s));
             combo.setCurrentIndex(-1);
             campos_.ligar(columna, combo);
+            if (derecho) // the row's caption leads to its first field
+                rotulo->setBuddy(&combo);
             cuadro.emplace_back(combo);
         }
     }
